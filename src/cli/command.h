@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QCommandLineParser>
+
+namespace Hesperin {
+
+/// Exit codes of the command line.
+enum ExitCode : int {
+    AllDone = 0,
+    SomethingFailed = 1, ///< the rest was done
+    WrongUsage = 2,
+};
+
+/// One subcommand: what it is called, what it takes, and what it does.
+struct Command {
+    const char* name;
+    const char* summary;
+    void (*describe)(QCommandLineParser& parser); ///< adds its arguments and options
+    int (*run)(const QCommandLineParser& parser); ///< gives an exit code
+};
+
+extern const Command CalcCommand;
+extern const Command RunCommand;
+
+} // namespace Hesperin

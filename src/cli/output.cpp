@@ -1,0 +1,27 @@
+#include "cli/output.h"
+
+#include <cstdio>
+
+namespace Hesperin {
+
+namespace {
+
+void Write(std::FILE* stream, const QByteArray& utf8) {
+    std::fwrite(utf8.constData(), 1, static_cast<std::size_t>(utf8.size()), stream);
+    std::fputc('\n', stream);
+}
+
+} // namespace
+
+void PrintLine(const QString& line) { Write(stdout, line.toUtf8()); }
+
+void PrintLine(const QByteArray& utf8) { Write(stdout, utf8); }
+
+void Complain(const QString& line) {
+    std::fflush(stdout); // so that both streams tell the same story in a terminal
+    Write(stderr, line.toUtf8());
+}
+
+bool FlushOutput() { return std::fflush(stdout) == 0 && std::ferror(stdout) == 0; }
+
+} // namespace Hesperin

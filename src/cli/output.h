@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+namespace Hesperin {
+
+/// Results, as UTF-8 on standard output, with a line feed behind them.
+void PrintLine(const QString& line);
+void PrintLine(const QByteArray& utf8);
+
+/// Complaints, the same way on standard error.
+void Complain(const QString& line);
+
+/// Writes out what is still held back. False when any result could not be written.
+bool FlushOutput();
+
+} // namespace Hesperin

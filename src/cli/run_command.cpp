@@ -1,0 +1,94 @@
+#include "cli/command.h"
+
+#include "cli/output.h"
+#include "cli/script_actions.h"
+#include "ui/form_load.h"
+
+#include <QFile>
+
+#include <cstdio>
+
+namespace Hesperin {
+
+namespace {
+
+constexpr std::uint8_t English = 1;
+constexpr std::uint8_t Russian = 2;
+
+const QString LanguageOption = QStringLiteral("lang");
+
+void Describe(QCommandLineParser& parser) {
+    parser.addPositionalArgument(QStringLiteral("SCRIPT"),
+                                 QStringLiteral("File of user actions, one a line; - reads standard input."));
+    parser.addOption({LanguageOption, QStringLiteral("Language at the start: EN (default) or RU."),
+                      QStringLiteral("EN|RU")});
+}
+
+std::optional<std::uint8_t> LanguageOf(const QCommandLineParser& parser) {
+    const QString code = parser.isSet(LanguageOption) ? parser.value(LanguageOption) : QStringLiteral("EN");
+    if (code == QLatin1String("EN"))
+        return English;
+    if (code == QLatin1String("RU"))
+        return Russian;
+    return std::nullopt;
+}
+
+QString WithoutLineEnd(QByteArray line) {
+    if (line.endsWith('\n'))
+        line.chop(1);
+    if (line.endsWith('\r'))
+        line.chop(1);
+    return QString::fromUtf8(line);
+}
+
+bool IsAction(const QString& line) { return !line.trimmed().isEmpty() && !line.startsWith(u'#'); }
+
+/// Plays every line; true when all could be done.
+bool Play(QFile& script, const QString& name, ScriptStage& stage) {
+    bool allDone = true;
+    for (int number = 1; !script.atEnd(); ++number) {
+        QByteArray bytes = script.readLine();
+        if (number == 1 && bytes.startsWith("\xEF\xBB\xBF"))
+            bytes.remove(0, 3);
+        const QString line = WithoutLineEnd(bytes);
+        if (!IsAction(line))
+            continue;
+        const QString reason = PlayLine(stage, line);
+        if (reason.isEmpty())
+            continue;
+        allDone = false;
+        Complain(QStringLiteral("%1:%2: %3").arg(name).arg(number).arg(reason));
+    }
+    if (script.error() == QFileDevice::NoError)
+        return allDone;
+    Complain(QStringLiteral("%1: %2").arg(name, script.errorString()));
+    return false;
+}
+
+int Run(const QCommandLineParser& parser) {
+    const QStringList names = parser.positionalArguments();
+    const auto language = LanguageOf(parser);
+    if (names.size() != 1 || !language) {
+        Complain(QStringLiteral("talmir-cli run: one SCRIPT (or -) is expected, and --lang EN or RU"));
+        return WrongUsage;
+    }
+    const QString& name = names.constFirst();
+    QFile script(name);
+    const bool opened = name == QLatin1String("-") ? script.open(stdin, QIODevice::ReadOnly)
+                                                   : script.open(QIODevice::ReadOnly);
+    if (!opened) {
+        Complain(QStringLiteral("%1: %2").arg(name, script.errorString()));
+        return SomethingFailed;
+    }
+    CliPlatform platform;
+    Program program(platform);
+    Form_Load(program, {language});
+    ScriptStage stage{program, platform};
+    return Play(script, name, stage) ? AllDone : SomethingFailed;
+}
+
+} // namespace
+
+const Command RunCommand{"run", "Plays a script of user actions.", Describe, Run};
+
+} // namespace Hesperin

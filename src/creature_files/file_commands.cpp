@@ -1,0 +1,128 @@
+#include "creature_files/file_commands.h"
+
+#include "creature_files/document.h"
+#include "creature_files/reader.h"
+#include "creature_files/writer.h"
+#include "engine/calculate.h"
+#include "engine/clear_creature.h"
+#include "engine/numbers.h"
+#include "catalogues/resets.h"
+#include "form/version_record.h"
+#include "localisation/string_tables.h"
+#include "platform/save_file.h"
+
+namespace Hesperin {
+
+namespace {
+
+QString TrimBlanks(QStringView text) {
+    while (text.startsWith(u' '))
+        text = text.sliced(1);
+    while (text.endsWith(u' '))
+        text.chop(1);
+    return text.toString();
+}
+
+void ShowFilePage(MainForm& form) {
+    form.Tablus.Tab(4).SetCaption(TrimBlanks(form.ComDialog.FileName));
+    form.Tablus.Tab(4).Switch(true);
+}
+
+/// The same words in every language, until Calculate writes its summary.
+void ShowFileFigures(Program& program) {
+    const SharedState& state = program.state;
+    program.form.frmMain.SetCaption(
+        VersionRecord::TitleAndVersion() + QLatin1String(" [Creature: ") + state.CreatureName +
+        QStringLiteral(", Power=%1, Experience=%2, Growth=%3, Cost=%4]")
+            .arg(state.FilePower).arg(state.FileExperience).arg(state.FileGrowth).arg(state.FileGold));
+}
+
+/// The number before the extension in "Creature_183.xdb"; numbers up to 179 are the game's own.
+void TakeCreatureNumber(MainForm& form) {
+    constexpr qsizetype numberAndExtension = 7;
+    constexpr qsizetype numberLength = 3;
+    constexpr double lastOfTheGame = 179;
+    const QString number =
+        TrimBlanks(form.ComDialog.FileName).right(numberAndExtension).left(numberLength);
+    if (TextToNumber(number) > lastOfTheGame)
+        form.txtIDC.SetText(number);
+}
+
+} // namespace
+
+void mnuNew_Click(Program& program) {
+    cmdResetAll_Click(program);
+    program.Warn(BoxIcon::Critical, program.state.MsgEnterName);
+    program.platform.SetFocus(program.form.txtNC);
+}
+
+void mnuOpen_Click(Program& program) {
+    FileDialog& dialog = program.form.ComDialog;
+    dialog.InitialDirectory = program.platform.ProgramFolder();
+    dialog.Filter = QStringLiteral("Heroes of Might and Magic V Files (*.xdb )|*.xdb");
+    dialog.DefaultExtension = QStringLiteral("xdb");
+    if (program.platform.ShowOpenDialog(dialog) && !dialog.FileName.isEmpty())
+        OpenCreatureFile(program, dialog.FileName);
+}
+
+bool OpenCreatureFile(Program& program, const QString& path) {
+    MainForm& form = program.form;
+    program.failure.clear();
+    auto document = LoadCreatureDocument(path);
+    if (const auto* problem = std::get_if<OpenProblem>(&document)) {
+        program.failure = OpenProblemText(program.state, path, *problem);
+        program.Warn(BoxIcon::Critical, program.failure);
+        return false;
+    }
+    form.ComDialog.FileName = path;
+    form.Tablus.Tab(4).SetCaption(QString::fromUtf16(VersionRecord::Title));
+    form.Tablus.Tab(4).Switch(false);
+    form.Tablus.Tab(2).Switch(false);
+    form.RTBData.SetText(std::get<QString>(document));
+    ClearCreature(program);
+    Reset_Abilities(program);
+    Reset_Specabilities(program);
+    Reset_Spells(program);
+
+    ScanCreature(program);
+
+    ShowFileFigures(program);
+    program.state.CreatureFileLoaded = true;
+    program.platform.SetFocus(form.cmdCalc);
+    Calculate(program);
+    ShowFilePage(form);
+    TakeCreatureNumber(form);
+    return true;
+}
+
+void mnuSave_Click(Program& program) {
+    MainForm& form = program.form;
+    SharedState& state = program.state;
+    program.failure.clear();
+    const QString name = ProperCase(form.txtNC.Text());
+    if (name.isEmpty()) {
+        state.CreatureName = name;
+        program.failure = state.MsgEnterName;
+        program.Warn(BoxIcon::Critical, program.failure);
+        return;
+    }
+    FileDialog& dialog = form.ComDialog;
+    const QString lastName = std::exchange(dialog.FileName, state.DefaultFileName);
+    dialog.InitialDirectory = program.platform.ProgramFolder();
+    dialog.Filter = QStringLiteral("Heroes of Might and Magic V Files (*.xdb)|*.xdb");
+    dialog.DefaultExtension = QStringLiteral("xdb");
+    if (!program.platform.ShowSaveDialog(dialog)) {
+        dialog.FileName = lastName;
+        return;
+    }
+    state.CreatureName = name;
+    form.RTBData.SetText(BuildCreatureText(program, name));
+    const QString reason = SaveFile(dialog.FileName, CreatureFileBytes(form.RTBData.Text()));
+    ShowFilePage(form);
+    if (reason.isEmpty())
+        return;
+    program.failure = Fill(state.MsgSaveFailed, {dialog.FileName, reason});
+    program.ShowStatus(program.failure);
+}
+
+} // namespace Hesperin

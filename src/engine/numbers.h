@@ -1,0 +1,39 @@
+// Numbers out of texts, texts out of numbers, and the two roundings of the balance model. None of them
+// regards the locale.
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+
+namespace Hesperin {
+
+/// The longest number at the start of `text`, 0 when it starts with none: blanks, an optional sign,
+/// digits with an optional full stop and fraction (or a fraction alone), an optional exponent. What
+/// follows the number is ignored. A number beyond the range of a double gives infinity.
+double TextToNumber(QStringView text);
+
+/// `value`, or `fallback` when it is the empty text.
+QString TextOrDefault(const QString& value, int fallback);
+
+/// The nearest whole number, ties to the even one; outside the 16-bit range its nearest end.
+std::int16_t RoundTo16Bits(double value);
+
+/// Whether RoundTo16Bits can hold the value without limiting it.
+bool FitsIn16Bits(double value);
+
+/// The rounding of nearly every figure: 1 below 0.51, 0 from 0.51 up to but not including 1, and from
+/// 1 on the value with its fraction cut off.
+double WholeValue(double x);
+
+/// The decimal text of a whole number.
+QString WholeText(double whole);
+
+/// A 32-bit float with at most seven significant digits and no trailing zeros: "1.05".
+QString FloatText(float value);
+
+/// The first letter of each word in upper case, all other letters in lower case. Words are parted by
+/// white space; an underscore doesn't begin one.
+QString ProperCase(const QString& text);
+
+} // namespace Hesperin

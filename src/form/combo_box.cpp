@@ -1,0 +1,27 @@
+#include "form/combo_box.h"
+
+namespace Hesperin {
+
+void ComboBox::AddItem(const QString& item) {
+    items.append(item);
+    Tell(Property::Items);
+}
+
+void ComboBox::SetItems(const QStringList& values) {
+    items = values;
+    index = -1;
+    text.clear();
+    Tell(Property::Items);
+}
+
+void ComboBox::Select(std::int16_t value) {
+    if (value < 0 || value >= items.size())
+        return;
+    const bool indexChanges = index != value;
+    index = value;
+    SetText(items[value]);
+    if (indexChanges && click)
+        click();
+}
+
+} // namespace Hesperin

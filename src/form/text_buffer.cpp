@@ -1,0 +1,23 @@
+#include "form/text_buffer.h"
+
+namespace Hesperin {
+
+void TextBuffer::SetText(const QString& value) {
+    indexed = false; // before the view, which may search, is told
+    Store(text, value, Property::Text);
+}
+
+qsizetype TextBuffer::Search(QStringView needle, Qt::CaseSensitivity sensitivity) const {
+    constexpr qsizetype worthAnIndex = 256; // the mastery windows of 64 and 128 characters aren't
+    constexpr qsizetype shortestNeedle = 4;
+    if (text.size() < worthAnIndex || text.size() > TextIndex::LongestText ||
+        needle.size() < shortestNeedle)
+        return QStringView(text).indexOf(needle, 0, sensitivity);
+    if (!indexed) {
+        index.Build(text);
+        indexed = true;
+    }
+    return index.Find(needle, sensitivity);
+}
+
+} // namespace Hesperin

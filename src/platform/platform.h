@@ -1,0 +1,58 @@
+// What toolkit and operating system give to the program. The window and the command line each have
+// their own; tests have one that answers by script.
+#pragma once
+
+#include "form/file_dialog.h"
+
+#include <QStringList>
+
+namespace Hesperin {
+
+enum class BoxIcon : std::uint8_t { Critical, Information, Question };
+
+/// The windows that open beside the main window. Each locks it until its button is pressed.
+enum class SecondaryWindow : std::uint8_t { About, AbilityInformation };
+
+class Platform {
+public:
+    virtual ~Platform() = default;
+
+    /// A modal message box with one OK button; returns when it has been answered.
+    virtual void ShowMessage(BoxIcon icon, const QString& title, const QString& text) = 0;
+
+    /// A modal question box with Yes and No; true for Yes.
+    virtual bool AskYesNo(const QString& title, const QString& text) = 0;
+
+    /// Shows the open dialog with these settings. True: `dialog.FileName` is what the user chose.
+    /// False: cancelled, and nothing changed.
+    virtual bool ShowOpenDialog(FileDialog& dialog) = 0;
+
+    /// The same with the save dialog.
+    virtual bool ShowSaveDialog(FileDialog& dialog) = 0;
+
+    virtual void SetFocus(Control& control) = 0;
+
+    virtual void Open(SecondaryWindow window) = 0;
+
+    /// Opens the status window with these words. It enables the main window again when it closes.
+    virtual void ShowStatus(const QString& message) = 0;
+
+    /// Whether another instance of the program runs for this user.
+    virtual bool OtherInstanceRuns() = 0;
+
+    /// Starts another program and doesn't wait for it. False: it can't be started.
+    virtual bool StartProgram(const QString& name) = 0;
+
+    /// Programs that serve as calculator here, the preferred one first.
+    virtual QStringList CalculatorNames() const = 0;
+
+    /// Folder of the executable, without a separator at the end.
+    virtual QString ProgramFolder() const = 0;
+
+    /// Folder for this program's settings of the user, which need not exist yet.
+    virtual QString SettingsFolder() const = 0;
+
+    virtual void EndProcess() = 0;
+};
+
+} // namespace Hesperin

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QLockFile>
+
+namespace Hesperin {
+
+/// Holds the lock that marks the one running instance of the program for this user.
+class SingleInstance {
+public:
+    /// `folder` is made if it is missing.
+    explicit SingleInstance(const QString& folder);
+
+    /// True when another running process holds the lock. A lock left by a process that no longer runs
+    /// is taken over; a folder that can't be written counts as free, so that the program still starts.
+    bool OtherRuns();
+
+private:
+    QLockFile lock;
+};
+
+} // namespace Hesperin

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "engine/program.h"
+#include "support/scripted_platform.h"
+
+#include <ostream>
+
+namespace Hesperin {
+
+enum Language : std::uint8_t { English = 1, Russian = 2 };
+
+/// A program of its own for one test, in folders of its own, started as far as `start` says.
+struct TestProgram {
+    enum class Start { Loaded, Bare };
+
+    explicit TestProgram(std::uint8_t language = English, Start start = Start::Loaded);
+
+    QTemporaryDir folder;
+    ScriptedPlatform platform;
+    Program program{platform};
+    MainForm& form = program.form;
+    SharedState& state = program.state;
+
+    /// Path of a file in the test's folder.
+    QString Path(const QString& name) const { return folder.filePath(name); }
+
+    /// Writes a file into the test's folder and gives its path.
+    QString Write(const QString& name, const QByteArray& bytes) const;
+
+    /// Fills in a valid creature: attack 4, defence 3, damage 2 to 3, health 10, name "Test".
+    void FillInCreature();
+
+    /// Texts of the boxes that `act` shows.
+    template <typename Act>
+    QStringList BoxesOf(Act act) {
+        platform.boxes.clear();
+        act();
+        return platform.Texts();
+    }
+};
+
+/// The content of a file, empty when it can't be read.
+QByteArray ReadAll(const QString& path);
+
+} // namespace Hesperin
+
+/// So that a failing test shows its texts.
+inline void PrintTo(const QString& text, std::ostream* stream) { *stream << '"' << text.toStdString() << '"'; }
