@@ -37,14 +37,18 @@ QString Reason(const SharedState& state, const XmlProblem& problem) {
 
 } // namespace
 
+std::variant<QString, OpenProblem> NormaliseCreature(const QByteArray& bytes) {
+    auto document = NormaliseXml(bytes, u"Creature", LongestCreatureText);
+    if (const auto* problem = std::get_if<XmlProblem>(&document))
+        return *problem;
+    return std::get<QString>(std::move(document));
+}
+
 std::variant<QString, OpenProblem> LoadCreatureDocument(const QString& path) {
     const auto content = ReadFile(path, LargestCreatureFile);
     if (const auto* problem = std::get_if<ReadProblem>(&content))
         return *problem;
-    auto document = NormaliseXml(std::get<QByteArray>(content), u"Creature", LongestCreatureText);
-    if (const auto* problem = std::get_if<XmlProblem>(&document))
-        return *problem;
-    return std::get<QString>(std::move(document));
+    return NormaliseCreature(std::get<QByteArray>(content));
 }
 
 QString OpenProblemText(const SharedState& state, const QString& path, const OpenProblem& problem) {

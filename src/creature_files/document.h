@@ -15,6 +15,9 @@ inline constexpr qint64 LargestCreatureFile = 1 << 20;
 /// The longest normalised text, in UTF-16 units: positions in it are held in 16 bits.
 inline constexpr qsizetype LongestCreatureText = 32767;
 
+/// The normalised text of a creature document given as the bytes of its file.
+std::variant<QString, OpenProblem> NormaliseCreature(const QByteArray& bytes);
+
 /// The normalised text of the creature file `path`.
 std::variant<QString, OpenProblem> LoadCreatureDocument(const QString& path);
 

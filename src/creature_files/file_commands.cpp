@@ -66,19 +66,24 @@ void mnuOpen_Click(Program& program) {
 }
 
 bool OpenCreatureFile(Program& program, const QString& path) {
-    MainForm& form = program.form;
     program.failure.clear();
-    auto document = LoadCreatureDocument(path);
+    const auto document = LoadCreatureDocument(path);
     if (const auto* problem = std::get_if<OpenProblem>(&document)) {
         program.failure = OpenProblemText(program.state, path, *problem);
         program.Warn(BoxIcon::Critical, program.failure);
         return false;
     }
+    FillFromDocument(program, std::get<QString>(document), path);
+    return true;
+}
+
+void FillFromDocument(Program& program, const QString& document, const QString& path) {
+    MainForm& form = program.form;
     form.ComDialog.FileName = path;
     form.Tablus.Tab(4).SetCaption(QString::fromUtf16(VersionRecord::Title));
     form.Tablus.Tab(4).Switch(false);
     form.Tablus.Tab(2).Switch(false);
-    form.RTBData.SetText(std::get<QString>(document));
+    form.RTBData.SetText(document);
     ClearCreature(program);
     Reset_Abilities(program);
     Reset_Specabilities(program);
@@ -92,7 +97,6 @@ bool OpenCreatureFile(Program& program, const QString& path) {
     Calculate(program);
     ShowFilePage(form);
     TakeCreatureNumber(form);
-    return true;
 }
 
 void mnuSave_Click(Program& program) {

@@ -17,6 +17,10 @@ void mnuOpen_Click(Program& program);
 /// leaves the window as it was. True: opened.
 bool OpenCreatureFile(Program& program, const QString& path);
 
+/// The part of opening behind the refusals: fills the window from the normalised text of the creature
+/// file `path` and runs Calculate.
+void FillFromDocument(Program& program, const QString& document, const QString& path);
+
 /// Asks for a place and saves the creature there, the whole file or nothing; page 4 shows the text
 /// afterwards. Without a name: MsgEnterName (critical) and nothing else. A failure is told by ShowStatus
 /// (MsgSaveFailed). A cancelled dialog leaves the window as it was.

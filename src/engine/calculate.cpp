@@ -32,14 +32,16 @@ void StoreExponents(SharedState& state, const Exponents& exponents) {
     state.ExponentInitiative = exponents.Initiative;
 }
 
+void Show(Label& label, double whole) { label.SetCaption(WholeDigits(whole).View()); }
+
 void StorePowers(Program& program, const Powers& powers) {
     SharedState& state = program.state;
     state.OffenceScore = powers.OffenceScore;
     state.DefenceScore = powers.DefenceScore;
     state.PowerRolvane = powers.PowerRolvane;
     state.PowerHesperin = powers.PowerHesperin;
-    program.form.lblPowerRolvane.SetCaption(WholeText(powers.PowerRolvane));
-    program.form.lblPowerHesperin.SetCaption(WholeText(powers.PowerHesperin));
+    Show(program.form.lblPowerRolvane, powers.PowerRolvane);
+    Show(program.form.lblPowerHesperin, powers.PowerHesperin);
 }
 
 void StoreFigures(SharedState& state, const Figures& figures) {
@@ -57,16 +59,16 @@ void StoreFigures(SharedState& state, const Figures& figures) {
 }
 
 void ShowFigures(MainForm& form, const Figures& figures) {
-    form.lblExpRolvane.SetCaption(QString::number(figures.ExpRolvane));
-    form.lblExpHesperin.SetCaption(WholeText(figures.ExpHesperin));
-    form.lblGrowthRolvane.SetCaption(QString::number(figures.GrowthRolvane));
-    form.lblGrowthHesperin.SetCaption(QString::number(figures.GrowthHesperin));
-    form.lblCostRolvane.SetCaption(WholeText(figures.CostRolvane));
-    form.lblCostHesperin.SetCaption(WholeText(figures.CostHesperin));
-    form.lblCostAverage.SetCaption(WholeText(figures.CostAverage));
-    form.lblGrowthAverage.SetCaption(QString::number(figures.GrowthAverage));
-    form.lblExpAverage.SetCaption(QString::number(figures.ExpAverage));
-    form.lblPowerAverage.SetCaption(WholeText(figures.PowerAverage));
+    Show(form.lblExpRolvane, figures.ExpRolvane);
+    Show(form.lblExpHesperin, figures.ExpHesperin);
+    Show(form.lblGrowthRolvane, figures.GrowthRolvane);
+    Show(form.lblGrowthHesperin, figures.GrowthHesperin);
+    Show(form.lblCostRolvane, figures.CostRolvane);
+    Show(form.lblCostHesperin, figures.CostHesperin);
+    Show(form.lblCostAverage, figures.CostAverage);
+    Show(form.lblGrowthAverage, figures.GrowthAverage);
+    Show(form.lblExpAverage, figures.ExpAverage);
+    Show(form.lblPowerAverage, figures.PowerAverage);
 }
 
 } // namespace

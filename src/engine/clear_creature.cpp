@@ -38,7 +38,7 @@ void ClearCreature(Program& program) {
     program.state.CreatureName = QStringLiteral("Test");
     form.cmdCalc.SetToolTip({});
     for (const auto label : ResultLabels)
-        (form.*label).SetCaption({});
+        (form.*label).SetCaption(QString());
     form.txtNC.SetText({});
     form.txtIDC.SetText({});
 }

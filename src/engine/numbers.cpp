@@ -1,5 +1,7 @@
 #include "engine/numbers.h"
 
+#include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -21,6 +23,18 @@ qsizetype SkipSign(QStringView text, qsizetype at) {
     return at < text.size() && (text[at] == u'+' || text[at] == u'-') ? at + 1 : at;
 }
 
+constexpr double ExactIntegers = 9007199254740992; // 2^53
+
+/// So many digits always fit in a double.
+constexpr qsizetype ExactDigits = 15;
+
+double PlainNumber(QStringView digits) {
+    std::int64_t number = 0;
+    for (const QChar digit : digits)
+        number = number * 10 + (digit.unicode() - u'0');
+    return static_cast<double>(number);
+}
+
 } // namespace
 
 double TextToNumber(QStringView text) {
@@ -29,6 +43,8 @@ double TextToNumber(QStringView text) {
         ++start;
     const qsizetype whole = SkipSign(text, start);
     qsizetype end = SkipDigits(text, whole);
+    if (end == text.size() && whole == start && end - start <= ExactDigits)
+        return PlainNumber(text.sliced(start)); // nearly every field; a tenth of the time
     bool hasDigits = end > whole;
     if (end < text.size() && text[end] == u'.') {
         const qsizetype fractionEnd = SkipDigits(text, end + 1);
@@ -45,8 +61,8 @@ double TextToNumber(QStringView text) {
     return text.sliced(start, end - start).toDouble();
 }
 
-QString TextOrDefault(const QString& value, int fallback) {
-    return value.isEmpty() ? QString::number(fallback) : value;
+QString TextOrDefault(const QString& value, const QString& fallback) {
+    return value.isEmpty() ? fallback : value;
 }
 
 bool FitsIn16Bits(double value) {
@@ -67,16 +83,27 @@ double WholeValue(double x) {
     return std::floor(x * 100) > lastHundredthOfOne ? std::floor(x) : 1;
 }
 
-QString WholeText(double whole) {
-    constexpr double exactIntegers = 9007199254740992; // 2^53
-    if (std::abs(whole) < exactIntegers)               // ten times as quick as the way below
-        return QString::number(static_cast<qint64>(whole));
-    return QString::number(whole, 'f', 0);
+QString WholeText(double whole) { return WholeDigits(whole).View().toString(); }
+
+WholeDigits::WholeDigits(double whole)
+    : WholeDigits(static_cast<std::int64_t>(std::clamp(whole, -ExactIntegers, ExactIntegers))) {}
+
+WholeDigits::WholeDigits(std::int64_t whole) {
+    auto rest = static_cast<std::uint64_t>(std::abs(whole));
+    do {
+        units[static_cast<std::size_t>(--first)] = static_cast<char16_t>(u'0' + rest % 10);
+        rest /= 10;
+    } while (rest != 0);
+    if (whole < 0)
+        units[static_cast<std::size_t>(--first)] = u'-';
 }
 
 QString FloatText(float value) {
     constexpr int significantDigits = 7;
-    return QString::number(static_cast<double>(value), 'g', significantDigits);
+    std::array<char, 32> buffer; // a sign, seven digits, a full stop and an exponent fit in many times
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), static_cast<double>(value),
+                                   std::chars_format::general, significantDigits);
+    return QString::fromLatin1(buffer.data(), end.ptr - buffer.data());
 }
 
 QString ProperCase(const QString& text) {

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <array>
 #include <cstdint>
 
 namespace Hesperin {
@@ -14,7 +15,7 @@ namespace Hesperin {
 double TextToNumber(QStringView text);
 
 /// `value`, or `fallback` when it is the empty text.
-QString TextOrDefault(const QString& value, int fallback);
+QString TextOrDefault(const QString& value, const QString& fallback);
 
 /// The nearest whole number, ties to the even one; outside the 16-bit range its nearest end.
 std::int16_t RoundTo16Bits(double value);
@@ -28,6 +29,23 @@ double WholeValue(double x);
 
 /// The decimal text of a whole number.
 QString WholeText(double whole);
+
+/// The decimal text of a whole number in a buffer of its own, to be compared or appended without an
+/// allocation. Calculate makes some twenty of them a run. A double is limited to 2^53 either way; no
+/// creature's Power reaches a thousandth of it.
+class WholeDigits {
+public:
+    explicit WholeDigits(std::int64_t whole);
+    explicit WholeDigits(double whole);
+
+    QStringView View() const { return {units.data() + first, Room - first}; }
+
+private:
+    static constexpr int Room = 20; // the sign and the digits of any 64-bit integer
+
+    std::array<char16_t, Room> units;
+    int first = Room;
+};
 
 /// A 32-bit float with at most seven significant digits and no trailing zeros: "1.05".
 QString FloatText(float value);

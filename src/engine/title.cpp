@@ -4,8 +4,6 @@
 #include "engine/numbers.h"
 #include "form/version_record.h"
 
-#include <QStringBuilder>
-
 namespace Hesperin {
 
 namespace {
@@ -17,18 +15,28 @@ double AverageExperience(const SharedState& state) {
     return RoundTo16Bits(AverageOf(ExpHesperinOf(state.PowerHesperin, state.Tier), state.ExpRolvane));
 }
 
+/// One figure of the title: what the open file has, and in braces what was computed.
+void AppendPair(QString& title, const QString& heading, std::int16_t inFile, double computed) {
+    title += heading;
+    title += WholeDigits(std::int64_t{inFile}).View();
+    title += u'{';
+    title += WholeDigits(computed).View();
+}
+
 } // namespace
 
 QString SummaryTitle(const SharedState& state) {
-    const QString power = WholeText(AverageOf(state.PowerRolvane, state.PowerHesperin));
-    const QString experience = WholeText(AverageExperience(state));
-    const QString growth = WholeText(AverageOf(state.GrowthHesperin, state.GrowthRolvane));
-    const QString gold = WholeText(AverageOf(state.CostHesperin, state.CostRolvane));
-    return VersionRecord::TitleAndVersion() % state.SumCreature % state.CreatureName           //
-           % state.SumPower % QString::number(state.FilePower) % u'{' % power                  //
-           % state.SumExperience % QString::number(state.FileExperience) % u'{' % experience   //
-           % state.SumGrowth % QString::number(state.FileGrowth) % u'{' % growth               //
-           % state.SumGold % QString::number(state.FileGold) % u'{' % gold % u"}]";
+    QString title;
+    title.reserve(160);
+    title += VersionRecord::TitleAndVersion();
+    title += state.SumCreature;
+    title += state.CreatureName;
+    AppendPair(title, state.SumPower, state.FilePower, AverageOf(state.PowerRolvane, state.PowerHesperin));
+    AppendPair(title, state.SumExperience, state.FileExperience, AverageExperience(state));
+    AppendPair(title, state.SumGrowth, state.FileGrowth, AverageOf(state.GrowthHesperin, state.GrowthRolvane));
+    AppendPair(title, state.SumGold, state.FileGold, AverageOf(state.CostHesperin, state.CostRolvane));
+    title += u"}]";
+    return title;
 }
 
 void BuildTitle(Program& program) {

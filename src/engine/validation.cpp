@@ -8,6 +8,8 @@ namespace Hesperin {
 
 namespace {
 
+const QString Zero = QStringLiteral("0");
+
 QString OutOfRange(const SharedState& state, const QString& caption) {
     return state.MsgValueFor + caption + state.MsgOutOfRange;
 }
@@ -28,7 +30,7 @@ std::optional<std::int16_t> Correction(std::int16_t value, std::int16_t limit) {
 
 /// Mana and shots: any number above 0 will do, and no formula uses it.
 void CheckSupply(Program& program, TextField& field, const Frame& frame) {
-    if (TextToNumber(TextOrDefault(field.Text(), 0)) > 0)
+    if (TextToNumber(TextOrDefault(field.Text(), Zero)) > 0)
         return;
     field.SetText(QStringLiteral("1"));
     program.Warn(BoxIcon::Critical, OutOfRange(program.state, frame.Caption()));
@@ -57,7 +59,7 @@ constexpr NumberRule NumberRules[] = {
 void CheckNumber(Program& program, const NumberRule& rule) {
     TextField& field = program.form.*rule.field;
     std::int16_t& parameter = program.state.*rule.parameter;
-    parameter = RoundTo16Bits(TextToNumber(TextOrDefault(field.Text(), 0)));
+    parameter = RoundTo16Bits(TextToNumber(TextOrDefault(field.Text(), Zero)));
     if (const auto corrected = Correction(parameter, rule.limit)) {
         parameter = *corrected;
         field.SetText(QString::number(parameter));

@@ -12,6 +12,10 @@ public:
 
     const QString& Caption() const { return caption; }
     void SetCaption(const QString& value) { Store(caption, value, Property::Caption); }
+    void SetCaption(QStringView value) {
+        if (caption != value)
+            SetCaption(value.toString());
+    }
 
 protected:
     QString Content() const override { return caption; }

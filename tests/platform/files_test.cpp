@@ -1,0 +1,239 @@
+#include "platform/code_page.h"
+#include "platform/path_lookup.h"
+#include "platform/read_file.h"
+#include "platform/save_file.h"
+#include "platform/single_instance.h"
+#include "platform/text_file.h"
+#include "support/test_program.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+
+namespace Hesperin {
+
+namespace {
+
+/// A folder of its own for one test.
+class Files : public ::testing::Test {
+protected:
+    QString Path(const QString& name) const { return folder.filePath(name); }
+
+    QString Write(const QString& name, const QByteArray& bytes) const {
+        QDir().mkpath(QFileInfo(Path(name)).path());
+        QFile file(Path(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        return Path(name);
+    }
+
+    QStringList Names() const {
+        return QDir(folder.path())
+            .entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden);
+    }
+
+    QTemporaryDir folder;
+};
+
+using ReadFileTest = Files;
+
+TEST_F(ReadFileTest, GivesTheBytesUpToTheLimit) {
+    const QByteArray bytes("a\0b\r\n\xFF", 6);
+    const QString path = Write("six", bytes);
+    const auto six = ReadFile(path, 6);
+    ASSERT_TRUE(std::holds_alternative<QByteArray>(six));
+    EXPECT_EQ(std::get<QByteArray>(six), bytes);
+    const auto empty = ReadFile(Write("empty", {}), 0);
+    ASSERT_TRUE(std::holds_alternative<QByteArray>(empty));
+    EXPECT_TRUE(std::get<QByteArray>(empty).isEmpty());
+}
+
+TEST_F(ReadFileTest, TellsWhyAFileCannotBeRead) {
+    using Kind = ReadProblem::Kind;
+    const struct {
+        QString path;
+        Kind kind;
+        bool hasReason;
+    } cases[] = {
+        {Path("nowhere"), Kind::Missing, true},
+        {Path("no/where"), Kind::Missing, true},
+        {folder.path(), Kind::IsFolder, false},
+        {Write("six", "sixsix"), Kind::TooLarge, false},
+        {QFile::exists("/dev/zero") ? "/dev/zero" : Write("seven", "7777777"), Kind::TooLarge,
+         false},
+    };
+    for (const auto& test : cases) {
+        SCOPED_TRACE(test.path.toStdString());
+        const auto content = ReadFile(test.path, 5);
+        ASSERT_TRUE(std::holds_alternative<ReadProblem>(content));
+        EXPECT_EQ(static_cast<int>(std::get<ReadProblem>(content).kind),
+                  static_cast<int>(test.kind));
+        EXPECT_EQ(!std::get<ReadProblem>(content).reason.isEmpty(), test.hasReason);
+    }
+}
+
+using SaveFileTest = Files;
+
+TEST_F(SaveFileTest, WritesTheWholeContentAndNothingElse) {
+    EXPECT_EQ(SaveFile(Path("new"), "first\n"), "");
+    EXPECT_EQ(ReadAll(Path("new")), "first\n");
+    EXPECT_EQ(SaveFile(Path("new"), "2"), "") << "over a longer old one";
+    EXPECT_EQ(ReadAll(Path("new")), "2");
+    EXPECT_EQ(Names(), QStringList{"new"}) << "no temporary file stays";
+}
+
+TEST_F(SaveFileTest, LeavesNothingBehindWhereItCannotWrite) {
+    EXPECT_NE(SaveFile(Path("missing/new"), "x"), "");
+    EXPECT_EQ(Names(), QStringList());
+
+    Write("taken/inside", "old");
+    EXPECT_NE(SaveFile(Path("taken"), "x"), "") << "a folder stands there";
+    EXPECT_EQ(ReadAll(Path("taken/inside")), "old");
+    EXPECT_EQ(Names(), QStringList{"taken"});
+    EXPECT_NE(SaveFile({}, "x"), "");
+}
+
+TEST_F(SaveFileTest, WritesThroughASymbolicLink) {
+    const QString target = Write("target", "old");
+    if (!QFile::link(target, Path("link")) || !QFileInfo(Path("link")).isSymLink())
+        GTEST_SKIP() << "no symbolic links here";
+    EXPECT_EQ(SaveFile(Path("link"), "new"), "");
+    EXPECT_TRUE(QFileInfo(Path("link")).isSymLink());
+    EXPECT_EQ(ReadAll(target), "new");
+}
+
+TEST(DecodeText, RecognisesTheEncoding) {
+    const QString dragon = QString::fromUtf8("Дракон");
+    const QByteArray cyrillic = "\xC4\xF0\xE0\xEA\xEE\xED";
+    const auto utf16 = [](const QString& text, bool bigEndian) {
+        QByteArray bytes;
+        for (const QChar unit : text) {
+            const char pair[] = {static_cast<char>(unit.unicode() & 0xFF),
+                                 static_cast<char>(unit.unicode() >> 8)};
+            bytes.append(pair[bigEndian ? 1 : 0]).append(pair[bigEndian ? 0 : 1]);
+        }
+        return bytes;
+    };
+    const QByteArray longAscii(64, 'a');
+    const struct {
+        const char* what;
+        QByteArray bytes;
+        CodePage fallback;
+        QString text;
+    } cases[] = {
+        {"nothing", "", CodePage::Windows1251, ""},
+        {"ASCII", "Bash", CodePage::Windows1251, "Bash"},
+        {"one character", "a", CodePage::Windows1251, "a"},
+        {"UTF-8", dragon.toUtf8(), CodePage::Windows1252, dragon},
+        {"UTF-8 with mark", "\xEF\xBB\xBF" + dragon.toUtf8(), CodePage::Windows1252, dragon},
+        {"UTF-16 little-endian with mark", "\xFF\xFE" + utf16(dragon, false), CodePage::Windows1251,
+         dragon},
+        {"UTF-16 big-endian with mark", "\xFE\xFF" + utf16(dragon, true), CodePage::Windows1251,
+         dragon},
+        {"a mark alone", "\xFF\xFE", CodePage::Windows1251, ""},
+        {"UTF-16 without mark", utf16("Bash!", false), CodePage::Windows1252, "Bash!"},
+        {"every second byte of the first 64 counts, later ones don't",
+         utf16(longAscii.left(32) + dragon, false), CodePage::Windows1252,
+         longAscii.left(32) + dragon},
+        {"one second byte of the first 64 isn't 0", QByteArray("a\0\0b", 4), CodePage::Windows1252,
+         QString::fromUtf16(u"a\0\0b", 4)},
+        {"Windows-1251", cyrillic, CodePage::Windows1251, dragon},
+        {"Windows-1252", "Caf\xE9 \x80", CodePage::Windows1252, QString::fromUtf8("Café €")},
+        {"a last byte that begins a longer UTF-8 sequence", "Caf\xE9", CodePage::Windows1252,
+         QString::fromUtf8("Café")},
+    };
+    for (const auto& test : cases) {
+        SCOPED_TRACE(test.what);
+        EXPECT_EQ(DecodeText(test.bytes, test.fallback), test.text);
+    }
+}
+
+TEST(DecodeCodePage, KnowsTheOddCornersOfBothSets) {
+    EXPECT_EQ(DecodeCodePage("\xA8\xB8\xC0\xDF\xE0\xFF\x80\x88\xB9~", CodePage::Windows1251),
+              QString::fromUtf8("ЁёАЯаяЂ€№~"));
+    EXPECT_EQ(DecodeCodePage("\x80\x8A\x8C\x9C\x9F\xA0\xDF\xFF~", CodePage::Windows1252),
+              QString::fromUtf8("€ŠŒœŸ\u00A0ßÿ~"));
+    EXPECT_EQ(DecodeCodePage("\x98", CodePage::Windows1251), QString(QChar::ReplacementCharacter));
+    EXPECT_EQ(DecodeCodePage("\x81\x8D\x8F\x90\x9D", CodePage::Windows1252),
+              QString(5, QChar::ReplacementCharacter));
+}
+
+using PathLookupTest = Files;
+
+TEST_F(PathLookupTest, PrefersTheExactSpellingAndElseDisregardsLetterCase) {
+    Write("EN/Text/Bash/name.txt", "1");
+    Write("ru/TEXT/bash/NAME.TXT", "2");
+    Write("ru/TEXT/bash/other.txt", "3");
+    Write("ru/TEXT/bash/Other.txt", "4");
+    const struct {
+        QStringList levels;
+        const char* content; // null: there is no such file
+    } cases[] = {
+        {{"EN", "Text", "Bash", "name.txt"}, "1"},
+        {{"en", "tEXT", "BASH", "Name.Txt"}, "1"},
+        {{"RU", "Text", "Bash", "name.txt"}, "2"},
+        {{"ru", "TEXT", "bash", "other.txt"}, "3"},
+        {{"RU", "Text", "Bash", "other.txt"}, "3"},
+        {{"RU", "Text", "Bash", "Other.txt"}, "4"},
+        {{"EN", "Text", "Bash", "names.txt"}, nullptr},
+        {{"FR", "Text", "Bash", "name.txt"}, nullptr},
+        {{"EN", "Texts", "Bash", "name.txt"}, nullptr},
+    };
+    PathLookup lookup(folder.path());
+    for (const auto& test : cases) {
+        SCOPED_TRACE(test.levels.join('/').toStdString());
+        const QString path = lookup.Find(test.levels);
+        ASSERT_EQ(path.isEmpty(), test.content == nullptr);
+        if (test.content != nullptr) {
+            EXPECT_EQ(ReadAll(path), test.content);
+        }
+    }
+    EXPECT_EQ(PathLookup(Path("missing")).Find({"EN"}), "");
+}
+
+using SingleInstanceTest = Files;
+
+TEST_F(SingleInstanceTest, TheSecondSeesTheFirstUntilItEnds) {
+    SingleInstance second(Path("settings/deep"));
+    {
+        SingleInstance first(Path("settings/deep"));
+        EXPECT_FALSE(first.OtherRuns());
+        EXPECT_FALSE(first.OtherRuns()) << "asked again, it is still the only one";
+        EXPECT_TRUE(second.OtherRuns());
+        EXPECT_FALSE(SingleInstance(Path("elsewhere")).OtherRuns());
+    }
+    EXPECT_FALSE(second.OtherRuns());
+}
+
+TEST_F(SingleInstanceTest, TakesOverTheLockOfAProcessThatNoLongerRuns) {
+    QProcess ended;
+    ended.start(TALMIR_CLI, {"--version"});
+    const qint64 endedId = ended.processId();
+    ASSERT_TRUE(ended.waitForFinished());
+    ASSERT_GT(endedId, 0);
+
+    QList<QByteArray> lock;
+    {
+        SingleInstance first(Path("a"));
+        ASSERT_FALSE(first.OtherRuns());
+        lock = ReadAll(Path("a/talmir.lock")).split('\n');
+    }
+    ASSERT_EQ(lock.first(), QByteArray::number(QCoreApplication::applicationPid()));
+    Write("b/talmir.lock", lock.join('\n'));
+    EXPECT_TRUE(SingleInstance(Path("b")).OtherRuns()) << "the process of this lock does run";
+    lock.first() = QByteArray::number(endedId);
+    Write("c/talmir.lock", lock.join('\n'));
+    EXPECT_FALSE(SingleInstance(Path("c")).OtherRuns());
+}
+
+TEST_F(SingleInstanceTest, AFolderThatCannotBeMadeCountsAsFree) {
+    Write("file", "no folder");
+    EXPECT_FALSE(SingleInstance(Path("file/settings")).OtherRuns());
+}
+
+} // namespace
+
+} // namespace Hesperin
