@@ -126,6 +126,8 @@ struct SharedState {
     QString MsgNumbersLimited;
     QString MsgSaveFailed;
     QString MsgNoCalculator;
+    QString MsgYes;
+    QString MsgNo;
 };
 
 } // namespace Hesperin

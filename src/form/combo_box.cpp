@@ -18,8 +18,11 @@ void ComboBox::Select(std::int16_t value) {
     if (value < 0 || value >= items.size())
         return;
     const bool indexChanges = index != value;
+    if (!indexChanges && text == items[value])
+        return;
     index = value;
-    SetText(items[value]);
+    text = items[value];
+    Tell(Property::Text);
     if (indexChanges && click)
         click();
 }

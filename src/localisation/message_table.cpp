@@ -60,6 +60,8 @@ constexpr MessageRow Messages[] = {
       nullptr,
       nullptr}},
     {&SharedState::MsgNoCalculator,    {u"No calculator could be started; looked for: %1.",       u"Не удалось запустить калькулятор; испробованы: %1.",       nullptr,                                                nullptr}},
+    {&SharedState::MsgYes,            {u"Yes",                                       u"Да",                                      nullptr,                      nullptr}},
+    {&SharedState::MsgNo,             {u"No",                                        u"Нет",                                     nullptr,                      nullptr}},
 };
 
 // clang-format on

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "window/secondary_window.h"
+
+namespace Hesperin {
+
+/// Name and description of the ability that was right-clicked, in the language of the moment. Grows with
+/// its text; what would be taller than the screen scrolls.
+class AbilityWindow : public SecondaryWindowView {
+public:
+    AbilityWindow(Program& program, QWidget* mainWindow);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+} // namespace Hesperin

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "form/check_box.h"
+#include "window/view.h"
+
+#include <QCheckBox>
+
+namespace Hesperin {
+
+/// A check box whose caption shrinks until it fits.
+class BoxView : public View<QCheckBox, CheckBox> {
+public:
+    BoxView(CheckBox& box, QWidget* parent, const QRect& place);
+
+    /// What a right click does; nothing by default.
+    void SetRightClick(ClickOperation operation) { rightClick = std::move(operation); }
+
+protected:
+    void Sync() override;
+    void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    ClickOperation rightClick;
+};
+
+} // namespace Hesperin

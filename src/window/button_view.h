@@ -1,0 +1,22 @@
+#pragma once
+
+#include "form/captioned.h"
+#include "window/view.h"
+
+#include <QPushButton>
+
+namespace Hesperin {
+
+/// A push button whose caption shrinks until it fits.
+class ButtonView : public View<QPushButton, Button> {
+public:
+    ButtonView(Button& button, QWidget* parent, const QFont& face, const QRect& place);
+
+protected:
+    void Sync() override;
+
+private:
+    QFont face;
+};
+
+} // namespace Hesperin

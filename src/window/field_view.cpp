@@ -1,0 +1,63 @@
+#include "window/field_view.h"
+
+#include "window/faces.h"
+#include "window/palette.h"
+
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+
+#include <algorithm>
+
+namespace Hesperin {
+
+FieldView::FieldView(TextField& field, QWidget* parent, const QFont& fieldFace, QRgb ink)
+    : View(field, parent), face(fieldFace) {
+    setPalette(InkPalette(ink));
+    setFont(face);
+    connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { control.SetText(text); });
+    SyncAll();
+}
+
+void FieldView::Sync() {
+    if (text() != control.Text()) {
+        const int cursor = cursorPosition();
+        setText(control.Text());
+        setCursorPosition(cursor);
+    }
+    FitFace();
+}
+
+bool FieldView::Admits(const QString& typed) const {
+    const bool allAccepted = std::all_of(typed.begin(), typed.end(),
+                                         [this](QChar key) { return control.Accepts(key.unicode()); });
+    const qsizetype length = text().size() - selectedText().size() + typed.size();
+    return allAccepted && (control.MaxLength() == TextField::NoLimit || length <= control.MaxLength());
+}
+
+void FieldView::keyPressEvent(QKeyEvent* event) {
+    const QString typed = event->text();
+    const bool command = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    if (!command && !typed.isEmpty() && typed.at(0).isPrint() && !Admits(typed))
+        return; // swallowed
+    QLineEdit::keyPressEvent(event);
+}
+
+void FieldView::inputMethodEvent(QInputMethodEvent* event) {
+    if (!event->commitString().isEmpty() && !Admits(event->commitString()))
+        event->setCommitString({});
+    QLineEdit::inputMethodEvent(event);
+}
+
+void FieldView::resizeEvent(QResizeEvent* event) {
+    QLineEdit::resizeEvent(event);
+    FitFace();
+}
+
+void FieldView::FitFace() {
+    constexpr int margins = 12;
+    const QFont fitting = FittingFace(face, control.Text(), std::max(width() - margins, 20));
+    if (fitting != font())
+        setFont(fitting);
+}
+
+} // namespace Hesperin

@@ -1,0 +1,60 @@
+#include "window/frame_view.h"
+
+#include "window/faces.h"
+#include "window/palette.h"
+
+#include <QFontMetrics>
+#include <QLabel>
+#include <QPainter>
+
+namespace Hesperin {
+
+namespace {
+
+constexpr int CaptionLeft = 8;
+constexpr int CaptionGap = 3; // between caption and line
+
+} // namespace
+
+FrameView::FrameView(Frame& frame, QWidget* parent, const QFont& captionFace, const QRect& place)
+    : View(frame, parent), face(captionFace) {
+    setGeometry(place);
+    SyncAll();
+}
+
+void FrameView::Sync() {
+    setTitle(control.Caption()); // also what assistive technology reads for the group
+    NameFields();
+    update();
+}
+
+void FrameView::NameFields() {
+    const QString caption = control.Caption().trimmed();
+    for (QWidget* child : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        if (child->focusPolicy() != Qt::NoFocus)
+            child->setAccessibleName(caption);
+    for (const QLabel* label : findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly))
+        if (label->buddy() != nullptr)
+            label->buddy()->setAccessibleName(caption + u' ' + label->text());
+}
+
+void FrameView::paintEvent(QPaintEvent*) {
+    const QString caption = control.Caption().trimmed();
+    const QFont fitting = FittingFace(face, caption, width() - 2 * CaptionLeft);
+    const QFontMetrics metrics(fitting);
+    const int lineTop = QFontMetrics(face).height() / 2;
+
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setFont(fitting);
+    painter.setPen(QColor(Colours::Line));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, lineTop + 0.5, -0.5, -0.5), 4, 4);
+    if (caption.isEmpty())
+        return;
+    const QRect text(CaptionLeft, 0, metrics.horizontalAdvance(caption) + 1, 2 * lineTop);
+    painter.fillRect(text.adjusted(-CaptionGap, 0, CaptionGap, 0), palette().window());
+    painter.setPen(palette().color(QPalette::Active, QPalette::WindowText));
+    painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, caption);
+}
+
+} // namespace Hesperin

@@ -1,0 +1,32 @@
+#include "window/label_view.h"
+
+#include "window/faces.h"
+#include "window/frame_view.h"
+#include "window/palette.h"
+
+namespace Hesperin {
+
+LabelView::LabelView(Label& label, QWidget* parent, const QFont& labelFace, QRgb ink, Qt::Alignment alignment)
+    : View(label, parent), face(labelFace) {
+    QPalette inks = InkPalette(ink);
+    inks.setColor(QPalette::Disabled, QPalette::WindowText, QColor(ink)); // results stand in disabled frames
+    setPalette(inks);
+    setAlignment(alignment);
+    setTextFormat(Qt::PlainText);
+    SyncAll();
+}
+
+void LabelView::Sync() {
+    setText(control.Caption());
+    setAccessibleName(control.Caption());
+    setFont(FittingFace(face, control.Caption(), width()));
+    if (auto* frame = dynamic_cast<FrameView*>(parentWidget()); frame != nullptr && buddy() != nullptr)
+        frame->NameFields();
+}
+
+void LabelView::resizeEvent(QResizeEvent* event) {
+    QLabel::resizeEvent(event);
+    setFont(FittingFace(face, control.Caption(), width()));
+}
+
+} // namespace Hesperin

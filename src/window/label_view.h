@@ -1,0 +1,23 @@
+#pragma once
+
+#include "form/captioned.h"
+#include "window/view.h"
+
+#include <QLabel>
+
+namespace Hesperin {
+
+/// A label whose text shrinks until it fits.
+class LabelView : public View<QLabel, Label> {
+public:
+    LabelView(Label& label, QWidget* parent, const QFont& face, QRgb ink, Qt::Alignment alignment);
+
+protected:
+    void Sync() override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    QFont face;
+};
+
+} // namespace Hesperin

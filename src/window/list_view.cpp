@@ -1,0 +1,55 @@
+#include "window/list_view.h"
+
+#include "window/faces.h"
+
+#include <QStylePainter>
+#include <QWheelEvent>
+
+namespace Hesperin {
+
+ListView::ListView(ComboBox& list, QWidget* parent, const QFont& listFace) : View(list, parent), face(listFace) {
+    setFont(face);
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    setMaxVisibleItems(20);
+    connect(this, &QComboBox::activated, this, [this](int index) {
+        control.Select(static_cast<std::int16_t>(index));
+        Sync(); // a rule may have fallen back to another entry, or to the same text
+    });
+    SyncAll();
+}
+
+void ListView::Sync() {
+    if (ShownItems() != control.Items()) {
+        clear();
+        addItems(control.Items());
+    }
+    setCurrentIndex(control.Index());
+    update();
+}
+
+QStringList ListView::ShownItems() const {
+    QStringList items;
+    for (int index = 0; index < count(); ++index)
+        items.append(itemText(index));
+    return items;
+}
+
+void ListView::paintEvent(QPaintEvent*) {
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    option.currentText = control.Text();
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    const int room = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this).width();
+    painter.setFont(FittingFace(face, option.currentText, room - 4));
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+void ListView::wheelEvent(QWheelEvent* event) {
+    if (hasFocus())
+        QComboBox::wheelEvent(event);
+    else
+        event->ignore(); // scrolling past a list must not change it
+}
+
+} // namespace Hesperin

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "engine/program.h"
+#include "window/menu_view.h"
+
+#include <QMainWindow>
+
+namespace Hesperin {
+
+class TabView;
+
+/// The main window: menu bar, tab control and the row of buttons, all views of the program's form.
+class MainWindow : public QMainWindow, public ControlView {
+public:
+    explicit MainWindow(Program& program);
+    ~MainWindow() override;
+    MainWindow(const MainWindow&) = delete;
+    MainWindow& operator=(const MainWindow&) = delete;
+
+    /// The widget that shows the control of that name; null when there is none.
+    QWidget* WidgetOf(const Control& control) const;
+
+    /// The process is about to end: closing the window asks nothing any more.
+    void LetGo() { ending = true; }
+
+    void Changed(Control& control, Property what) override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void BuildButtonRow(QWidget& content);
+
+    Program& program;
+    TabView* tabs = nullptr;
+    std::vector<std::unique_ptr<EntryView>> menus;
+    bool ending = false;
+};
+
+} // namespace Hesperin

@@ -1,0 +1,104 @@
+#include "window/parameters_page.h"
+
+#include "window/faces.h"
+#include "window/field_view.h"
+#include "window/frame_view.h"
+#include "window/label_view.h"
+#include "window/list_view.h"
+#include "window/palette.h"
+#include "window/units.h"
+
+namespace Hesperin {
+
+namespace {
+
+using Colours::InFile;
+using Colours::Name;
+using Colours::Parameter;
+using Colours::Text;
+
+constexpr int FrameHeight = 795; // twips; the rows of frames stand 840 apart
+
+struct FrameRow {
+    Frame MainForm::*frame;
+    int left;
+    int top;
+    int width;
+    TextField MainForm::*field; ///< or
+    ComboBox MainForm::*list;
+    QRgb ink;
+};
+
+// clang-format off
+// In reading order, which is also the order of the tab key. Places in twips from the tab control's corner.
+constexpr FrameRow FrameRowsOfPage[] = {
+    //                           left   top   width  field                    list                        ink
+    {&MainForm::FrameNC,          240,  600,  2715, &MainForm::txtNC,        nullptr,                    Name},
+    {&MainForm::FrameIDC,        3000,  600,  2715, &MainForm::txtIDC,       nullptr,                    Name},
+    {&MainForm::FrameAttack,      240, 1440,  1395, &MainForm::txtAttack,    nullptr,                    Parameter},
+    {&MainForm::FrameDefence,    1680, 1440,  1275, &MainForm::txtDefence,   nullptr,                    Parameter},
+    {&MainForm::FrameDamage,     3000, 1440,  2715, nullptr,                 nullptr,                    Parameter}, // two fields
+    {&MainForm::FrameHealth,      240, 2280,  1275, &MainForm::txtHealth,    nullptr,                    Parameter},
+    {&MainForm::FrameTier,       1560, 2280,  1395, nullptr,                 &MainForm::ComboTier,       Text},
+    {&MainForm::FrameSpeed,      3000, 2280,  1155, nullptr,                 &MainForm::ComboSpeed,      Text},
+    {&MainForm::FrameInitiative, 4200, 2280,  1515, nullptr,                 &MainForm::ComboInitiative, Text},
+    {&MainForm::FrameFaction,     240, 3120,  2715, nullptr,                 &MainForm::ComboFaction,    Text},
+    {&MainForm::FrameFME,        3000, 3120,  2715, nullptr,                 &MainForm::ComboFME,        Text},
+    {&MainForm::FrameUpgrade,     240, 3960,  2715, nullptr,                 &MainForm::ComboUpgrade,    Text},
+    {&MainForm::FrameSME,        3000, 3960,  2715, nullptr,                 &MainForm::ComboSME,        Text},
+    {&MainForm::FramePowerf,      240, 4800,  1165, &MainForm::txtPower,     nullptr,                    InFile},
+    {&MainForm::FrameExpf,       1450, 4800,  1505, &MainForm::txtExp,       nullptr,                    InFile},
+    {&MainForm::FrameShots,      3000, 4800,  1275, &MainForm::txtShots,     nullptr,                    Parameter},
+    {&MainForm::FrameRange,      4320, 4800,  1395, nullptr,                 &MainForm::ComboRange,      Text},
+    {&MainForm::FrameGrowthf,     240, 5640,  1165, &MainForm::txtGrowthf,   nullptr,                    InFile},
+    {&MainForm::FrameCostf,      1450, 5640,  1505, &MainForm::txtGoldf,     nullptr,                    InFile},
+    {&MainForm::FrameMana,       3000, 5640,   795, &MainForm::txtMana,      nullptr,                    Parameter},
+    {&MainForm::FrameTTC,        3840, 5640,  1875, nullptr,                 &MainForm::ComboTTC,        Text},
+    {&MainForm::FrameWoodf,       240, 6480,  1275, &MainForm::txtWoodf,     nullptr,                    InFile},
+    {&MainForm::FrameOref,       1560, 6480,  1395, &MainForm::txtOref,      nullptr,                    InFile},
+    {&MainForm::FrameMercuryf,    240, 7320,  1170, &MainForm::txtMercuryf,  nullptr,                    InFile},
+    {&MainForm::FrameCrystalf,   1455, 7320,  1500, &MainForm::txtCrystalf,  nullptr,                    InFile},
+    {&MainForm::FrameSulfurf,     240, 8160,  1170, &MainForm::txtSulfurf,   nullptr,                    InFile},
+    {&MainForm::FrameGemf,       1455, 8160,  1500, &MainForm::txtGemf,      nullptr,                    InFile},
+};
+// clang-format on
+
+constexpr int FieldTop = 20; // pixels, below the caption
+constexpr int FieldHeight = 27;
+constexpr int Margin = 7;
+
+void BuildDamageFields(MainForm& form, FrameView& frame) {
+    constexpr int labelWidth = 38;
+    constexpr int gap = 3;
+    const int half = (frame.width() - 2 * Margin) / 2;
+    const auto pair = [&](Label& label, TextField& field, int left) {
+        auto* caption = new LabelView(label, &frame, CaptionFace(), Colours::Text, Qt::AlignRight | Qt::AlignVCenter);
+        caption->setGeometry(left, FieldTop, labelWidth, FieldHeight);
+        auto* input = new FieldView(field, &frame, FigureFace(), Colours::Parameter);
+        input->setGeometry(left + labelWidth + gap, FieldTop, half - labelWidth - gap, FieldHeight);
+        caption->setBuddy(input);
+    };
+    pair(form.lblMin, form.txtMinDam, Margin);
+    pair(form.lblMax, form.txtMaxDam, Margin + half);
+}
+
+} // namespace
+
+void BuildParametersPage(MainForm& form, QWidget& page, int top) {
+    for (const FrameRow& row : FrameRowsOfPage) {
+        const QRect place = PixelRect(row.left, row.top, row.width, FrameHeight).translated(0, -top);
+        auto* frame = new FrameView(form.*row.frame, &page, CaptionFace(), place);
+        const QRect inside(Margin, FieldTop, place.width() - 2 * Margin, FieldHeight);
+        if (row.field != nullptr) {
+            const QFont face = row.ink == Colours::Name ? NameFace() : FigureFace();
+            (new FieldView(form.*row.field, frame, face, row.ink))->setGeometry(inside);
+        } else if (row.list != nullptr) {
+            (new ListView(form.*row.list, frame, HeadingFace()))->setGeometry(inside);
+        } else {
+            BuildDamageFields(form, *frame);
+        }
+        frame->NameFields();
+    }
+}
+
+} // namespace Hesperin

@@ -1,0 +1,88 @@
+#include "window/results_panels.h"
+
+#include "window/faces.h"
+#include "window/frame_view.h"
+#include "window/label_view.h"
+#include "window/palette.h"
+#include "window/units.h"
+
+#include <span>
+
+namespace Hesperin {
+
+namespace {
+
+/// A heading and four frames in a square: Power, Experience, Growth, Cost.
+struct Group {
+    Label MainForm::*heading;
+    Frame MainForm::*frames[4];
+    Label MainForm::*figures[4];
+    QRgb ink;
+};
+
+// clang-format off
+constexpr Group MainMethod[] = {
+    {&MainForm::lblValues,
+     {&MainForm::FramePower,      &MainForm::FrameExperience,  &MainForm::FrameGrowth,       &MainForm::FrameCost},
+     {&MainForm::lblPowerRolvane, &MainForm::lblExpRolvane,    &MainForm::lblGrowthRolvane,  &MainForm::lblCostRolvane},
+     Colours::Rolvane},
+    {&MainForm::lblValuesX,
+     {&MainForm::FramePowerX,      &MainForm::FrameExperienceX, &MainForm::FrameGrowthX,      &MainForm::FrameCostX},
+     {&MainForm::lblPowerHesperin, &MainForm::lblExpHesperin,   &MainForm::lblGrowthHesperin, &MainForm::lblCostHesperin},
+     Colours::Hesperin},
+    {&MainForm::lblValuesA,
+     {&MainForm::FramePowerA,     &MainForm::FrameExperienceA, &MainForm::FrameGrowthA,      &MainForm::FrameCostA},
+     {&MainForm::lblPowerAverage, &MainForm::lblExpAverage,    &MainForm::lblGrowthAverage,  &MainForm::lblCostAverage},
+     Colours::Average},
+};
+
+constexpr Group AlternativeMethod[] = {
+    {&MainForm::lblValuesS,
+     {&MainForm::FramePowerS, &MainForm::FrameExperienceS, &MainForm::FrameGrowthS, &MainForm::FrameCostS},
+     {&MainForm::lblPowerS,   &MainForm::lblExpS,          &MainForm::lblGrowthS,   &MainForm::lblCostS},
+     Colours::Alternative},
+    {&MainForm::lblValuesD,
+     {&MainForm::FramePowerD, &MainForm::FrameExperienceD, &MainForm::FrameGrowthD, &MainForm::FrameCostD},
+     {&MainForm::lblPowerD,   &MainForm::lblExpD,          &MainForm::lblGrowthD,   &MainForm::lblCostD},
+     Colours::Alternative},
+};
+// clang-format on
+
+// Pixels inside a panel.
+constexpr int FirstGroupTop = 20;
+constexpr int HeadingHeight = 20;
+constexpr int FrameHeight = 41;
+constexpr int FrameGap = 2;
+constexpr int GroupPitch = HeadingHeight + 2 * FrameHeight + FrameGap + 5;
+constexpr int Margin = 7;
+
+void BuildGroup(MainForm& form, FrameView& panel, const Group& group, int top) {
+    auto* heading = new LabelView(form.*group.heading, &panel, HeadingFace(), group.ink, Qt::AlignCenter);
+    heading->setGeometry(Margin, top, panel.width() - 2 * Margin, HeadingHeight);
+    const int width = (panel.width() - 2 * Margin - FrameGap) / 2;
+    for (int place = 0; place < 4; ++place) {
+        const QRect rect(Margin + (place % 2) * (width + FrameGap),
+                         top + HeadingHeight + (place / 2) * (FrameHeight + FrameGap), width, FrameHeight);
+        auto* frame = new FrameView(form.*group.frames[place], &panel, CaptionFace(), rect);
+        auto* figure = new LabelView(form.*group.figures[place], frame, FigureFace(), group.ink, Qt::AlignCenter);
+        figure->setGeometry(4, 15, width - 8, FrameHeight - 17);
+    }
+}
+
+void BuildPanel(MainForm& form, QWidget& page, Frame& frame, const QRect& place, std::span<const Group> groups) {
+    auto* panel = new FrameView(frame, &page, HeadingFace(), place);
+    int top = FirstGroupTop;
+    for (const Group& group : groups) {
+        BuildGroup(form, *panel, group, top);
+        top += GroupPitch;
+    }
+}
+
+} // namespace
+
+void BuildResultPanels(MainForm& form, QWidget& page, int top) {
+    BuildPanel(form, page, form.frmMM, PixelRect(12360, 480, 2730, 5330).translated(0, -top), MainMethod);
+    BuildPanel(form, page, form.frmAM, PixelRect(9480, 480, 2730, 3625).translated(0, -top), AlternativeMethod);
+}
+
+} // namespace Hesperin

@@ -1,0 +1,26 @@
+#include "window/start_arguments.h"
+
+#include "form/version_record.h"
+
+namespace Hesperin {
+
+StartArguments ReadStartArguments(const QStringList& arguments) {
+    const QString usage = QStringLiteral("Usage: talmir [FILE]\n"
+                                         "Balance calculator and creature-file editor.\n\n"
+                                         "  FILE           Creature file (.xdb) to open at the start.\n"
+                                         "  -h, --help     Shows this help.\n"
+                                         "  -v, --version  Shows the version.");
+    StartArguments start;
+    for (const QString& argument : arguments) {
+        if (argument == QLatin1String("-h") || argument == QLatin1String("--help"))
+            return {usage, false, {}};
+        if (argument == QLatin1String("-v") || argument == QLatin1String("--version"))
+            return {VersionRecord::TitleAndVersion(), false, {}};
+        if (argument.startsWith(u'-') || !start.creatureFile.isEmpty())
+            return {QStringLiteral("talmir: '%1' is not understood\n").arg(argument) + usage, true, {}};
+        start.creatureFile = argument;
+    }
+    return start;
+}
+
+} // namespace Hesperin

@@ -1,0 +1,54 @@
+#include "window/status_window.h"
+
+#include "form/version_record.h"
+#include "window/faces.h"
+#include "window/palette.h"
+#include "window/units.h"
+
+#include <QLabel>
+#include <QPainter>
+
+namespace Hesperin {
+
+namespace {
+
+constexpr QSize ClientSize(Pixels(6450), Pixels(4650)); // taller when the words need it
+constexpr int TitleHeight = Pixels(960); // a dark ground, on which the white title can be read
+constexpr QRect WordsPlace = PixelRect(120, 4200, 6210, 375);
+
+} // namespace
+
+StatusWindow::StatusWindow(Program& owner, QWidget* mainWindow, const QString& message)
+    : SecondaryWindowView(owner, mainWindow, "frmStatus") {
+    setWindowTitle(QStringLiteral("Average values"));
+    AddButton("Command1", QStringLiteral("OK"), PixelRect(4200, 2880, 2235, 375));
+    AddText(*this, "Label1", QStringLiteral("Последнее выполненное действие: "), PixelRect(120, 3600, 4575, 375),
+            CaptionFace(), Qt::AlignLeft | Qt::AlignVCenter);
+
+    QFont face = BoxFace();
+    face.setPixelSize(13);
+    QLabel* words = AddText(*this, "lblStatus", message, WordsPlace, face, Qt::AlignLeft | Qt::AlignTop);
+    words->setWordWrap(true);
+    words->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    const int height = std::max(WordsPlace.height(), words->heightForWidth(WordsPlace.width()));
+    words->resize(WordsPlace.width(), height);
+    ShowCentred(ClientSize + QSize(0, height - WordsPlace.height()));
+}
+
+void StatusWindow::paintEvent(QPaintEvent*) {
+    constexpr int copies = 6;
+    QFont face = FigureFace();
+    face.setPixelSize(32);
+    QPainter painter(this);
+    painter.fillRect(0, 0, width(), TitleHeight, QColor(Colours::AboutGround));
+    painter.setFont(face);
+    painter.setPen(QColor(255, 0, 0));
+    const QString title = QString::fromUtf16(VersionRecord::Title);
+    for (int copy = 0; copy < copies; ++copy) {
+        if (copy == copies - 1)
+            painter.setPen(QColor(255, 255, 255));
+        painter.drawText(copy + 10, copy + 10 + QFontMetrics(face).ascent(), title);
+    }
+}
+
+} // namespace Hesperin

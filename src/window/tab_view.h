@@ -1,0 +1,36 @@
+#pragma once
+
+#include "engine/program.h"
+
+#include <QStackedWidget>
+#include <QTabBar>
+
+namespace Hesperin {
+
+/// The tab control with its five pages. A page that is off has no tab; when it was in front, page 0
+/// comes forward. The pages of check boxes are built when they are first shown, or when the program has
+/// nothing else to do.
+class TabView : public QWidget {
+public:
+    TabView(Program& program, QWidget* parent);
+    ~TabView() override;
+    TabView(const TabView&) = delete;
+    TabView& operator=(const TabView&) = delete;
+
+    /// Builds the pages that haven't been shown yet.
+    void BuildAll();
+
+private:
+    class PageView;
+
+    void BuildPage(int page);
+    void ShowPage(int page);
+
+    Program& program;
+    QTabBar* bar;
+    QStackedWidget* stack;
+    std::array<bool, TabControl::PageCount> built{};
+    std::vector<std::unique_ptr<PageView>> pages;
+};
+
+} // namespace Hesperin

@@ -1,0 +1,152 @@
+#include "window/window_platform.h"
+
+#include "localisation/string_tables.h"
+#include "window/about_window.h"
+#include "window/ability_window.h"
+#include "window/main_window.h"
+#include "window/status_window.h"
+
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QProcess>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+namespace Hesperin {
+
+namespace {
+
+QString SettingsFolderOfUser() { return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation); }
+
+QMessageBox::Icon IconOf(BoxIcon icon) {
+    switch (icon) {
+    case BoxIcon::Critical:
+        return QMessageBox::Critical;
+    case BoxIcon::Information:
+        return QMessageBox::Information;
+    case BoxIcon::Question:
+        break;
+    }
+    return QMessageBox::Question;
+}
+
+/// "Creature files (*.xdb)|*.xdb" gives the description that a dialog of the toolkit wants.
+QString FilterText(const FileDialog& dialog) {
+    const QString description = dialog.Filter.section(u'|', 0, 0);
+    return description.section(u'(', 0, 0) + u'(' + dialog.Filter.section(u'|', 1, 1) + u')';
+}
+
+void Prepare(QFileDialog& shown, const FileDialog& dialog, QFileDialog::AcceptMode mode) {
+    shown.setObjectName(dialog.Name());
+    shown.setAcceptMode(mode);
+    shown.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    shown.setNameFilter(FilterText(dialog));
+    shown.setDefaultSuffix(dialog.DefaultExtension);
+    const QFileInfo last(dialog.FileName);
+    shown.setDirectory(last.isAbsolute() ? last.absolutePath() : dialog.InitialDirectory);
+    if (!dialog.FileName.isEmpty())
+        shown.selectFile(last.fileName());
+}
+
+/// Why nothing can be written there; empty when it can. Leaves what is there as it is.
+QString WriteObstacle(const QString& path) {
+    QSaveFile probe(path);
+    const bool writable = probe.open(QIODevice::WriteOnly);
+    const QString reason = probe.errorString();
+    probe.cancelWriting();
+    return writable ? QString() : reason;
+}
+
+} // namespace
+
+WindowPlatform::WindowPlatform() : instance(SettingsFolderOfUser()) {}
+
+void WindowPlatform::Attach(Program& owner, MainWindow& front) {
+    program = &owner;
+    window = &front;
+}
+
+void WindowPlatform::ShowMessage(BoxIcon icon, const QString& title, const QString& text) {
+    QMessageBox box(IconOf(icon), title, text, QMessageBox::Ok, window);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+bool WindowPlatform::AskYesNo(const QString& title, const QString& text) {
+    QMessageBox box(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, window);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    if (program != nullptr) {
+        box.button(QMessageBox::Yes)->setText(program->state.MsgYes);
+        box.button(QMessageBox::No)->setText(program->state.MsgNo);
+    }
+    return box.exec() == QMessageBox::Yes;
+}
+
+bool WindowPlatform::ShowOpenDialog(FileDialog& dialog) {
+    QFileDialog shown(window);
+    Prepare(shown, dialog, QFileDialog::AcceptOpen);
+    if (shown.exec() != QDialog::Accepted)
+        return false;
+    dialog.FileName = shown.selectedFiles().value(0);
+    return true;
+}
+
+bool WindowPlatform::ShowSaveDialog(FileDialog& dialog) {
+    QFileDialog shown(window); // asks by itself before it replaces a file
+    Prepare(shown, dialog, QFileDialog::AcceptSave);
+    while (shown.exec() == QDialog::Accepted) {
+        const QString path = shown.selectedFiles().value(0);
+        const QString obstacle = WriteObstacle(path);
+        if (obstacle.isEmpty()) {
+            dialog.FileName = path;
+            return true;
+        }
+        ShowMessage(BoxIcon::Critical, program->state.WarningTitle,
+                    Fill(program->state.MsgSaveFailed, {path, obstacle}));
+    }
+    return false;
+}
+
+void WindowPlatform::SetFocus(Control& control) {
+    if (window == nullptr)
+        return;
+    if (QWidget* widget = window->WidgetOf(control))
+        widget->setFocus();
+}
+
+void WindowPlatform::Open(SecondaryWindow which) {
+    if (which == SecondaryWindow::About)
+        new AboutWindow(*program, window);
+    else
+        new AbilityWindow(*program, window);
+}
+
+void WindowPlatform::ShowStatus(const QString& message) { new StatusWindow(*program, window, message); }
+
+bool WindowPlatform::StartProgram(const QString& name) {
+    const QString path = QStandardPaths::findExecutable(name);
+    return !path.isEmpty() && QProcess::startDetached(path, {});
+}
+
+QStringList WindowPlatform::CalculatorNames() const {
+#ifdef Q_OS_WIN
+    return {QStringLiteral("calc.exe")};
+#else
+    return {QStringLiteral("gnome-calculator"), QStringLiteral("kcalc"),         QStringLiteral("mate-calc"),
+            QStringLiteral("galculator"),       QStringLiteral("qalculate-gtk"), QStringLiteral("xcalc")};
+#endif
+}
+
+QString WindowPlatform::ProgramFolder() const { return QCoreApplication::applicationDirPath(); }
+
+QString WindowPlatform::SettingsFolder() const { return SettingsFolderOfUser(); }
+
+void WindowPlatform::EndProcess() {
+    window->LetGo();
+    QCoreApplication::exit(0);
+}
+
+} // namespace Hesperin

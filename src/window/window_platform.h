@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/platform.h"
+#include "platform/single_instance.h"
+
+namespace Hesperin {
+
+struct Program;
+class MainWindow;
+
+/// The platform of the window: message boxes, dialogs and secondary windows of the toolkit, programs of
+/// the system.
+class WindowPlatform : public Platform {
+public:
+    WindowPlatform();
+
+    /// What the boxes and windows stand in front of. Before this, boxes stand alone and no secondary
+    /// window opens.
+    void Attach(Program& owner, MainWindow& front);
+
+    void ShowMessage(BoxIcon icon, const QString& title, const QString& text) override;
+    bool AskYesNo(const QString& title, const QString& text) override;
+    bool ShowOpenDialog(FileDialog& dialog) override;
+    bool ShowSaveDialog(FileDialog& dialog) override;
+    void SetFocus(Control& control) override;
+    void Open(SecondaryWindow which) override;
+    void ShowStatus(const QString& message) override;
+    bool OtherInstanceRuns() override { return instance.OtherRuns(); }
+    bool StartProgram(const QString& name) override;
+    QStringList CalculatorNames() const override;
+    QString ProgramFolder() const override;
+    QString SettingsFolder() const override;
+    void EndProcess() override;
+
+private:
+    Program* program = nullptr;
+    MainWindow* window = nullptr;
+    SingleInstance instance;
+};
+
+} // namespace Hesperin
