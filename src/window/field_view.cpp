@@ -10,8 +10,9 @@
 
 namespace Hesperin {
 
-FieldView::FieldView(TextField& field, QWidget* parent, const QFont& fieldFace, QRgb ink)
+FieldView::FieldView(TextField& field, QWidget* parent, const QRect& place, const QFont& fieldFace, QRgb ink)
     : View(field, parent), face(fieldFace) {
+    setGeometry(place);
     setPalette(InkPalette(ink));
     setFont(face);
     connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { control.SetText(text); });
@@ -48,14 +49,9 @@ void FieldView::inputMethodEvent(QInputMethodEvent* event) {
     QLineEdit::inputMethodEvent(event);
 }
 
-void FieldView::resizeEvent(QResizeEvent* event) {
-    QLineEdit::resizeEvent(event);
-    FitFace();
-}
-
 void FieldView::FitFace() {
     constexpr int margins = 12;
-    const QFont fitting = FittingFace(face, control.Text(), std::max(width() - margins, 20));
+    const QFont fitting = FittingFace(face, control.Text(), width() - margins);
     if (fitting != font())
         setFont(fitting);
 }

@@ -10,13 +10,12 @@ namespace Hesperin {
 /// A field of text. Typed keys pass the field's key filter and its longest text; a paste passes.
 class FieldView : public View<QLineEdit, TextField> {
 public:
-    FieldView(TextField& field, QWidget* parent, const QFont& face, QRgb ink);
+    FieldView(TextField& field, QWidget* parent, const QRect& place, const QFont& face, QRgb ink);
 
 protected:
     void Sync() override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     /// Whether `typed` may come in where the selection stands now.

@@ -25,6 +25,9 @@ FrameView::FrameView(Frame& frame, QWidget* parent, const QFont& captionFace, co
 void FrameView::Sync() {
     setTitle(control.Caption()); // also what assistive technology reads for the group
     NameFields();
+    const QString caption = control.Caption().trimmed();
+    fitting = FittingFace(face, caption, width() - 2 * CaptionLeft);
+    captionPlace = {CaptionLeft, 0, QFontMetrics(fitting).horizontalAdvance(caption) + 1, QFontMetrics(face).height()};
     update();
 }
 
@@ -39,22 +42,15 @@ void FrameView::NameFields() {
 }
 
 void FrameView::paintEvent(QPaintEvent*) {
-    const QString caption = control.Caption().trimmed();
-    const QFont fitting = FittingFace(face, caption, width() - 2 * CaptionLeft);
-    const QFontMetrics metrics(fitting);
-    const int lineTop = QFontMetrics(face).height() / 2;
-
+    const int lineTop = captionPlace.height() / 2;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setFont(fitting);
     painter.setPen(QColor(Colours::Line));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, lineTop + 0.5, -0.5, -0.5), 4, 4);
-    if (caption.isEmpty())
-        return;
-    const QRect text(CaptionLeft, 0, metrics.horizontalAdvance(caption) + 1, 2 * lineTop);
-    painter.fillRect(text.adjusted(-CaptionGap, 0, CaptionGap, 0), palette().window());
+    painter.fillRect(captionPlace.adjusted(-CaptionGap, 0, CaptionGap, 0), palette().window());
     painter.setPen(palette().color(QPalette::Active, QPalette::WindowText));
-    painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, caption);
+    painter.drawText(captionPlace, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, control.Caption().trimmed());
 }
 
 } // namespace Hesperin

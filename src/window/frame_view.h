@@ -22,7 +22,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QFont face;
+    QFont face;    ///< as asked for
+    QFont fitting; ///< in which the caption fits
+    QRect captionPlace;
 };
 
 } // namespace Hesperin

@@ -6,8 +6,10 @@
 
 namespace Hesperin {
 
-LabelView::LabelView(Label& label, QWidget* parent, const QFont& labelFace, QRgb ink, Qt::Alignment alignment)
+LabelView::LabelView(Label& label, QWidget* parent, const QRect& place, const QFont& labelFace, QRgb ink,
+                     Qt::Alignment alignment)
     : View(label, parent), face(labelFace) {
+    setGeometry(place);
     QPalette inks = InkPalette(ink);
     inks.setColor(QPalette::Disabled, QPalette::WindowText, QColor(ink)); // results stand in disabled frames
     setPalette(inks);
@@ -19,14 +21,10 @@ LabelView::LabelView(Label& label, QWidget* parent, const QFont& labelFace, QRgb
 void LabelView::Sync() {
     setText(control.Caption());
     setAccessibleName(control.Caption());
-    setFont(FittingFace(face, control.Caption(), width()));
+    if (!control.Caption().isEmpty())
+        setFont(FittingFace(face, control.Caption(), width()));
     if (auto* frame = dynamic_cast<FrameView*>(parentWidget()); frame != nullptr && buddy() != nullptr)
         frame->NameFields();
-}
-
-void LabelView::resizeEvent(QResizeEvent* event) {
-    QLabel::resizeEvent(event);
-    setFont(FittingFace(face, control.Caption(), width()));
 }
 
 } // namespace Hesperin

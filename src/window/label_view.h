@@ -10,11 +10,11 @@ namespace Hesperin {
 /// A label whose text shrinks until it fits.
 class LabelView : public View<QLabel, Label> {
 public:
-    LabelView(Label& label, QWidget* parent, const QFont& face, QRgb ink, Qt::Alignment alignment);
+    LabelView(Label& label, QWidget* parent, const QRect& place, const QFont& face, QRgb ink,
+              Qt::Alignment alignment);
 
 protected:
     void Sync() override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     QFont face;

@@ -7,7 +7,9 @@
 
 namespace Hesperin {
 
-ListView::ListView(ComboBox& list, QWidget* parent, const QFont& listFace) : View(list, parent), face(listFace) {
+ListView::ListView(ComboBox& list, QWidget* parent, const QRect& place, const QFont& listFace)
+    : View(list, parent), face(listFace) {
+    setGeometry(place);
     setFont(face);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMaxVisibleItems(20);

@@ -10,7 +10,7 @@ namespace Hesperin {
 /// A drop-down list. It shows the list's text, which need not be one of the entries.
 class ListView : public View<QComboBox, ComboBox> {
 public:
-    ListView(ComboBox& list, QWidget* parent, const QFont& face);
+    ListView(ComboBox& list, QWidget* parent, const QRect& place, const QFont& face);
 
 protected:
     void Sync() override;

@@ -1,16 +1,8 @@
 // talmir: the calculator in its window.
-#include "creature_files/file_commands.h"
-#include "engine/program.h"
-#include "ui/form_load.h"
-#include "window/main_window.h"
-#include "window/palette.h"
 #include "window/start_arguments.h"
-#include "window/window_platform.h"
+#include "window/windowed_program.h"
 
 #include <QApplication>
-#include <QIcon>
-#include <QStyleFactory>
-#include <QTimer>
 
 #include <cstdio>
 
@@ -42,24 +34,14 @@ int main(int argc, char** argv) {
     if (const int code = AnswerWithoutWindow(ArgumentsBeforeToolkit(argc, argv)); code >= 0)
         return code;
 
-    QApplication::setStyle(QStringLiteral("Fusion"));
     const QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("talmir"));
-    QApplication::setPalette(ProgramPalette());
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/talmir.png")));
     const StartArguments start = ReadStartArguments(QCoreApplication::arguments().mid(1));
     if (const int code = AnswerWithoutWindow(start); code >= 0)
         return code;
 
-    WindowPlatform platform;
-    Program program(platform);
-    if (!Form_Load(program))
+    WindowedProgram::DressApplication();
+    WindowedProgram program;
+    if (!program.Start(start.creatureFile))
         return 0;
-    MainWindow window(program);
-    platform.Attach(program, window);
-    window.move(0, 0);
-    window.show();
-    if (!start.creatureFile.isEmpty())
-        QTimer::singleShot(0, &window, [&] { OpenCreatureFile(program, start.creatureFile); });
     return QApplication::exec();
 }

@@ -63,7 +63,6 @@ MainWindow::MainWindow(Program& owner) : program(owner) {
     setFixedSize(WindowSize.boundedTo(screen()->availableSize()));
     form.frmMain.SetView(this);
     setWindowTitle(form.frmMain.Caption());
-    QTimer::singleShot(0, this, [this] { tabs->BuildAll(); });
 }
 
 MainWindow::~MainWindow() { program.form.frmMain.SetView(nullptr); }
@@ -80,6 +79,14 @@ QWidget* MainWindow::WidgetOf(const Control& control) const { return findChild<Q
 void MainWindow::Changed(Control&, Property what) {
     if (what == Property::Caption)
         setWindowTitle(program.form.frmMain.Caption());
+}
+
+bool MainWindow::event(QEvent* event) {
+    const bool taken = QMainWindow::event(event);
+    // The pages behind the first are built when the first has been painted.
+    if (event->type() == QEvent::Paint && !std::exchange(painted, true))
+        QTimer::singleShot(0, this, [this] { tabs->BuildAll(); });
+    return taken;
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

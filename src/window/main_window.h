@@ -26,6 +26,7 @@ public:
     void Changed(Control& control, Property what) override;
 
 protected:
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -37,6 +38,7 @@ private:
     TabView* tabs = nullptr;
     std::vector<std::unique_ptr<EntryView>> menus;
     bool ending = false;
+    bool painted = false;
 };
 
 } // namespace Hesperin

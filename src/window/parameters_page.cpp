@@ -72,11 +72,11 @@ void BuildDamageFields(MainForm& form, FrameView& frame) {
     constexpr int gap = 3;
     const int half = (frame.width() - 2 * Margin) / 2;
     const auto pair = [&](Label& label, TextField& field, int left) {
-        auto* caption = new LabelView(label, &frame, CaptionFace(), Colours::Text, Qt::AlignRight | Qt::AlignVCenter);
-        caption->setGeometry(left, FieldTop, labelWidth, FieldHeight);
-        auto* input = new FieldView(field, &frame, FigureFace(), Colours::Parameter);
-        input->setGeometry(left + labelWidth + gap, FieldTop, half - labelWidth - gap, FieldHeight);
-        caption->setBuddy(input);
+        const QRect captionPlace(left, FieldTop, labelWidth, FieldHeight);
+        const QRect fieldPlace(left + labelWidth + gap, FieldTop, half - labelWidth - gap, FieldHeight);
+        auto* caption = new LabelView(label, &frame, captionPlace, CaptionFace(), Colours::Text,
+                                      Qt::AlignRight | Qt::AlignVCenter);
+        caption->setBuddy(new FieldView(field, &frame, fieldPlace, FigureFace(), Colours::Parameter));
     };
     pair(form.lblMin, form.txtMinDam, Margin);
     pair(form.lblMax, form.txtMaxDam, Margin + half);
@@ -91,9 +91,9 @@ void BuildParametersPage(MainForm& form, QWidget& page, int top) {
         const QRect inside(Margin, FieldTop, place.width() - 2 * Margin, FieldHeight);
         if (row.field != nullptr) {
             const QFont face = row.ink == Colours::Name ? NameFace() : FigureFace();
-            (new FieldView(form.*row.field, frame, face, row.ink))->setGeometry(inside);
+            new FieldView(form.*row.field, frame, inside, face, row.ink);
         } else if (row.list != nullptr) {
-            (new ListView(form.*row.list, frame, HeadingFace()))->setGeometry(inside);
+            new ListView(form.*row.list, frame, inside, HeadingFace());
         } else {
             BuildDamageFields(form, *frame);
         }

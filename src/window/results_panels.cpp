@@ -57,15 +57,15 @@ constexpr int GroupPitch = HeadingHeight + 2 * FrameHeight + FrameGap + 5;
 constexpr int Margin = 7;
 
 void BuildGroup(MainForm& form, FrameView& panel, const Group& group, int top) {
-    auto* heading = new LabelView(form.*group.heading, &panel, HeadingFace(), group.ink, Qt::AlignCenter);
-    heading->setGeometry(Margin, top, panel.width() - 2 * Margin, HeadingHeight);
+    new LabelView(form.*group.heading, &panel, {Margin, top, panel.width() - 2 * Margin, HeadingHeight}, HeadingFace(),
+                  group.ink, Qt::AlignCenter);
     const int width = (panel.width() - 2 * Margin - FrameGap) / 2;
     for (int place = 0; place < 4; ++place) {
         const QRect rect(Margin + (place % 2) * (width + FrameGap),
                          top + HeadingHeight + (place / 2) * (FrameHeight + FrameGap), width, FrameHeight);
         auto* frame = new FrameView(form.*group.frames[place], &panel, CaptionFace(), rect);
-        auto* figure = new LabelView(form.*group.figures[place], frame, FigureFace(), group.ink, Qt::AlignCenter);
-        figure->setGeometry(4, 15, width - 8, FrameHeight - 17);
+        new LabelView(form.*group.figures[place], frame, {4, 15, width - 8, FrameHeight - 17}, FigureFace(), group.ink,
+                      Qt::AlignCenter);
     }
 }
 

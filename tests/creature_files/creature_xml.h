@@ -47,7 +47,7 @@ public:
                  {"Upgrades", ""},
                  {"Abilities", ""},
              })
-            elements.append({name, content});
+            elements.append(Element{name, content});
     }
 
     /// Replaces the content of an element; markup in it stands as it is.

@@ -35,9 +35,29 @@ TEST_F(ListTest, ClicksOnlyWhenTheIndexChangesButAlwaysTakesTheEntrysText) {
     EXPECT_EQ(clicks, (QStringList{"1 b", "2 c"}));
 }
 
+TEST_F(ListTest, TheViewHearsOfASelectionBeforeTheClickAlsoWhenTheTextIsTheSame) {
+    struct View : ControlView {
+        explicit View(const QStringList& list) : clicks(list) {}
+        const QStringList& clicks;
+        QStringList log;
+        void Changed(Control& control, Property) override {
+            const auto& box = static_cast<ComboBox&>(control);
+            log.append(
+                QString("%1 %2 after %3").arg(box.Index()).arg(box.Text()).arg(clicks.size()));
+        }
+    } view(clicks);
+    list.SetText("b");
+    list.SetView(&view);
+    list.Select(1);
+    list.Select(1);
+    EXPECT_EQ(view.log, QStringList{"1 b after 0"});
+    EXPECT_EQ(clicks.size(), 1);
+    list.SetView(nullptr);
+}
+
 TEST_F(ListTest, AnEntryThatDoesNotExistIsNotSelected) {
     list.Select(2);
-    for (const std::int16_t index : {-1, 3, 32767, -32768}) {
+    for (const std::int16_t index : std::initializer_list<std::int16_t>{-1, 3, 32767, -32768}) {
         list.Select(index);
         EXPECT_EQ(list.Index(), 2);
         EXPECT_EQ(list.Text(), "c");
@@ -114,7 +134,8 @@ TEST(MultiOption, OnlyRedrawBringsTheButtonsIntoLine) {
     EXPECT_TRUE(selector.Enabled());
     EXPECT_EQ(selector.SelectedOption(), 3);
 
-    for (const std::int16_t outside : {7, 5, -1}) { // no button of that number
+    for (const std::int16_t outside :
+         std::initializer_list<std::int16_t>{7, 5, -1}) { // no button of that number
         selector.SetValue(outside);
         selector.SetOptionsEnabled(outside == 5);
         selector.Redraw();

@@ -1,0 +1,16 @@
+// Starts the program in its window and ends after the first complete picture. Run by the start benchmark.
+#include "window/windowed_program.h"
+
+#include "end_after_first_picture.h"
+
+#include <QApplication>
+
+int main(int argc, char** argv) {
+    const QApplication application(argc, argv);
+    Hesperin::WindowedProgram::DressApplication();
+    Hesperin::WindowedProgram program;
+    if (!program.Start({}))
+        return 1;
+    const EndAfterFirstPicture end(program.Window());
+    return QApplication::exec();
+}

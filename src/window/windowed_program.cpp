@@ -1,0 +1,32 @@
+#include "window/windowed_program.h"
+
+#include "creature_files/file_commands.h"
+#include "ui/form_load.h"
+#include "window/palette.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QTimer>
+
+namespace Hesperin {
+
+void WindowedProgram::DressApplication() {
+    QApplication::setApplicationName(QStringLiteral("talmir"));
+    QApplication::setStyle(QStringLiteral("Fusion")); // the same look on every desktop
+    QApplication::setPalette(ProgramPalette());
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/talmir.png")));
+}
+
+bool WindowedProgram::Start(const QString& creatureFile) {
+    if (!Form_Load(program))
+        return false;
+    window = std::make_unique<MainWindow>(program);
+    platform.Attach(program, *window);
+    window->move(0, 0);
+    window->show();
+    if (!creatureFile.isEmpty())
+        QTimer::singleShot(0, window.get(), [this, creatureFile] { OpenCreatureFile(program, creatureFile); });
+    return true;
+}
+
+} // namespace Hesperin

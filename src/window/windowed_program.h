@@ -1,0 +1,29 @@
+#pragma once
+
+#include "engine/program.h"
+#include "window/main_window.h"
+#include "window/window_platform.h"
+
+#include <memory>
+
+namespace Hesperin {
+
+/// The program in its window, from start to end.
+class WindowedProgram {
+public:
+    /// Style, palette, name and icon of the application, which must exist by then.
+    static void DressApplication();
+
+    /// Starts the program and shows the window; then opens `creatureFile`, unless that is empty. False:
+    /// another instance runs, the user has been told, and nothing is shown.
+    bool Start(const QString& creatureFile);
+
+    MainWindow& Window() { return *window; }
+
+private:
+    WindowPlatform platform;
+    Program program{platform};
+    std::unique_ptr<MainWindow> window;
+};
+
+} // namespace Hesperin

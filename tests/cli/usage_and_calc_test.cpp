@@ -1,0 +1,175 @@
+#include "cli/run_cli.h"
+#include "creature_files/creature_xml.h"
+#include "support/test_program.h"
+
+#include <gtest/gtest.h>
+
+#include <QJsonArray>
+
+namespace Hesperin {
+
+namespace {
+
+/// A creature whose figures can be worked out by hand: Power 129 and 146 at tier 2.
+CreatureXml SmallCreature() {
+    return CreatureXml()
+        .Set("AttackSkill", "4")
+        .Set("DefenceSkill", "3")
+        .Set("MinDamage", "2")
+        .Set("MaxDamage", "3")
+        .Set("Health", "10")
+        .Set("Speed", "5")
+        .Set("Initiative", "10")
+        .Set("CreatureTier", "2")
+        .Set("Upgrade", "false");
+}
+
+TEST(Cli, HelpAndVersionGoToStandardOutput) {
+    const struct {
+        QStringList arguments;
+        QStringList pieces;
+    } cases[] = {
+        {{"--help"}, {"talmir-cli COMMAND", "calc", "run", "--version"}},
+        {{"-h"}, {"talmir-cli COMMAND"}},
+        {{"--version"}, {"TALMIR v0."}},
+        {{"-v"}, {"TALMIR v0."}},
+        {{"calc", "--help"}, {"talmir-cli calc", "FILE", "--json"}},
+        {{"run", "-h"}, {"talmir-cli run", "SCRIPT", "--lang"}},
+        {{"calc", "--version"}, {"TALMIR v0."}},
+        {{"run", "-v"}, {"TALMIR v0."}},
+    };
+    for (const auto& test : cases) {
+        SCOPED_TRACE(test.arguments.join(' ').toStdString());
+        const CliOutcome outcome = RunCli(test.arguments);
+        EXPECT_EQ(outcome.code, 0);
+        EXPECT_EQ(outcome.err, "");
+        for (const QString& piece : test.pieces)
+            EXPECT_TRUE(outcome.out.contains(piece)) << outcome.out.toStdString();
+        EXPECT_FALSE(outcome.out.contains(TALMIR_CLI)) << "a path on this machine helps nobody";
+    }
+}
+
+TEST(Cli, WrongUsageIsCode2AndAComplaint) {
+    for (const QStringList& arguments :
+         std::initializer_list<QStringList>{{},
+                                            {"bogus"},
+                                            {"--bogus"},
+                                            {"calc"},
+                                            {"calc", "--json"},
+                                            {"calc", "--bogus", "a.xdb"},
+                                            {"run"},
+                                            {"run", "a", "b"},
+                                            {"run", "-", "--lang", "FR"},
+                                            {"run", "-", "--lang"},
+                                            {"run", "-", "--lang", "ru"},
+                                            {"run", "--json", "-"}}) {
+        SCOPED_TRACE(arguments.join(' ').toStdString());
+        const CliOutcome outcome = RunCli(arguments);
+        EXPECT_EQ(outcome.code, 2);
+        EXPECT_EQ(outcome.out, "");
+        EXPECT_TRUE(outcome.err.contains("talmir-cli")) << outcome.err.toStdString();
+    }
+}
+
+TEST(Cli, OutputThatCannotBeWrittenIsAFailure) {
+    if (!QFile::exists("/dev/full"))
+        GTEST_SKIP() << "no full device here";
+    QProcess process;
+    process.setStandardOutputFile("/dev/full");
+    process.start(TALMIR_CLI, {"--version"});
+    EXPECT_EQ(FinishCli(process).code, 1);
+}
+
+TEST(Calc, ShowsTheFiguresAsATable) {
+    const TestProgram files;
+    const QString path = files.Write("50%1.xdb", SmallCreature().Spell("SLOW", "EXPERT").Bytes());
+    const CliOutcome outcome = RunCli({"calc", path});
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_EQ(outcome.err, "");
+    QStringList rows;
+    for (const QString& line : outcome.Lines())
+        rows.append(line.simplified());
+    EXPECT_EQ(rows.value(0), path + ": Bog_wyrm, tier 2");
+    for (const char* row : {"Power 129 146 137 905", "Experience 11 13 12 61", "Growth 18 15 16 7",
+                            "Gold 54 63 58 420", "Abilities: FLESH_AND_BLOOD"}) {
+        EXPECT_TRUE(rows.contains(row)) << row << '\n' << outcome.out.toStdString();
+    }
+    EXPECT_TRUE(outcome.out.contains("SLOW (3)"));
+    EXPECT_TRUE(outcome.out.contains("It is recommended to lower tier from 2 to 1"));
+}
+
+TEST(Calc, GivesOneJsonObjectALine) {
+    const TestProgram files;
+    const QString good =
+        files.Write(QString::fromUtf8("дракон.xdb"), SmallCreature()
+                                                         .Set("SpellPoints", "9")
+                                                         .Spell("SLOW", "EXPERT")
+                                                         .Spell("ABILITY_DASH", "BASIC")
+                                                         .Remove("Gold")
+                                                         .Bytes());
+    const QString bad = files.Write("bad.xdb", "<Monster/>");
+    const CliOutcome outcome = RunCli({"calc", "--json", good, bad, good});
+    EXPECT_EQ(outcome.code, 1);
+    ASSERT_EQ(outcome.Lines().size(), 3);
+    EXPECT_EQ(outcome.Lines()[0], outcome.Lines()[2]) << "nothing stays from the files before";
+
+    const QStringList keys{"abilities", "ability_product", "advised_tier", "figures",
+                           "file",      "in_file",         "messages",     "name",
+                           "ok",        "specabilities",   "spells",       "tier",
+                           "title"};
+    const QJsonObject object = outcome.Json();
+    EXPECT_EQ(object.keys(), keys);
+    EXPECT_EQ(object["file"].toString(), good);
+    EXPECT_EQ(object["ok"].toBool(), true);
+    EXPECT_EQ(object["name"].toString(), "Bog_wyrm");
+    EXPECT_EQ(object["tier"].toInt(), 2);
+    EXPECT_EQ(object["advised_tier"].toInt(), 1); // 143 and 153: 148, below 152
+    const QJsonObject power = object["figures"]["power"].toObject();
+    EXPECT_EQ(power, (QJsonObject{
+                         {"rolvane", 143}, {"hesperin", 154}, {"average", 148}})); // 129.04 * 1.11
+    EXPECT_EQ(object["figures"].toObject().keys(),
+              (QStringList{"cost", "experience", "growth", "power"}));
+    EXPECT_EQ(object["in_file"].toObject(),
+              (QJsonObject{{"power", 905}, {"experience", 61}, {"growth", 7}, {"gold", 0}}));
+    EXPECT_EQ(object["ability_product"].toDouble(), 1.11);
+    EXPECT_EQ(object["abilities"].toArray(), (QJsonArray{"CASTER", "DASH", "FLESH_AND_BLOOD"}));
+    EXPECT_EQ(object["spells"].toArray(),
+              (QJsonArray{QJsonObject{{"token", "SLOW"}, {"mastery", 3}}}));
+    EXPECT_EQ(object["specabilities"].toArray(),
+              (QJsonArray{QJsonObject{{"token", "DASH"}, {"mastery", 1}}}));
+    EXPECT_EQ(object["messages"].toArray().size(), 2);
+    EXPECT_EQ(object["messages"][0].toObject(),
+              (QJsonObject{{"icon", "information"},
+                           {"title", "Warning!"},
+                           {"text", "Missing in the file, so left empty: Gold."}}));
+    EXPECT_TRUE(object["title"].toString().contains("[Creature: Bog_wyrm, Power=905{148}"));
+
+    const QJsonObject refused = outcome.Json(1);
+    EXPECT_EQ(refused.keys(), (keys.mid(0, 3) + QStringList{"error"} + keys.mid(3)));
+    EXPECT_EQ(refused["ok"], false);
+    EXPECT_TRUE(refused["error"].toString().contains(bad));
+    EXPECT_EQ(refused["messages"].toArray().size(), 1);
+    for (const char* key : {"ability_product", "advised_tier", "name", "tier", "title"})
+        EXPECT_TRUE(refused[key].isNull()) << key;
+    for (const char* key : {"power", "experience", "growth", "cost"})
+        EXPECT_EQ(refused["figures"][key].toObject(), (QJsonObject{{"rolvane", QJsonValue()},
+                                                                   {"hesperin", QJsonValue()},
+                                                                   {"average", QJsonValue()}}));
+    for (const char* key : {"power", "experience", "growth", "gold"})
+        EXPECT_TRUE(refused["in_file"].toObject().contains(key) && refused["in_file"][key].isNull())
+            << key;
+}
+
+TEST(Calc, ComplainsOfARefusedFileAndGoesOn) {
+    const TestProgram files;
+    const QString good = files.Write("good.xdb", SmallCreature().Bytes());
+    const CliOutcome outcome = RunCli({"calc", files.Path("nowhere.xdb"), good});
+    EXPECT_EQ(outcome.code, 1);
+    EXPECT_TRUE(outcome.out.startsWith(good));
+    ASSERT_EQ(outcome.Complaints().size(), 1);
+    EXPECT_TRUE(outcome.err.contains("nowhere.xdb"));
+}
+
+} // namespace
+
+} // namespace Hesperin

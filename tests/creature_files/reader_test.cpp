@@ -1,0 +1,288 @@
+#include "creature_files/creature_xml.h"
+#include "creature_files/file_commands.h"
+#include "support/test_program.h"
+
+#include <gtest/gtest.h>
+
+namespace Hesperin {
+
+namespace {
+
+/// A program that has opened a document.
+struct Opened : TestProgram {
+    explicit Opened(const CreatureXml& document, const QString& name = "creature.xdb") {
+        EXPECT_TRUE(OpenCreatureFile(program, Write(name, document.Bytes())));
+    }
+
+    QString Shown(const char* control) const { return form.Find(control)->Shown(); }
+
+    QStringList Ticked(const char* array) const {
+        QStringList ticked;
+        for (const Control* control : form.Controls())
+            if (control->ArrayName() == QLatin1String(array) && control->Shown() == "1")
+                ticked.append(dynamic_cast<const CheckBox*>(control)->Caption());
+        return ticked;
+    }
+};
+
+TEST(Reader, FillsEveryFieldFromItsOwnElement) {
+    const Opened test{CreatureXml()};
+    const struct {
+        const char* control;
+        const char* shown;
+    } cases[] = {
+        {"txtAttack", "11"},
+        {"txtDefence", "12"},
+        {"txtMinDam", "5"},
+        {"txtMaxDam", "8"},
+        {"txtHealth", "40"},
+        {"ComboSpeed", "6"},
+        {"ComboInitiative", "9"},
+        {"ComboTier", "4"},
+        {"ComboUpgrade", "True"},
+        {"ComboAlias", "ACADEMY"},
+        {"ComboFaction", "Academy"},
+        {"ComboDiapazon", "-1"},
+        {"ComboRange", "Max"},
+        {"ComboTTC", "15"},
+        {"ComboFME", "Air"},
+        {"ComboSME", "Water"},
+        {"txtExp", "61"},
+        {"txtPower", "905"},
+        {"txtGrowthf", "7"},
+        {"txtWoodf", "1"},
+        {"txtOref", "2"},
+        {"txtMercuryf", "3"},
+        {"txtCrystalf", "4"},
+        {"txtSulfurf", "5"},
+        {"txtGemf", "6"},
+        {"txtGoldf", "420"},
+        {"txtNC", "Bog_wyrm"},
+        {"txtIDC", ""},
+        {"txtMana", ""},
+        {"txtShots", "0"},
+        {"ComboSpeed", "6"},
+    };
+    for (const auto& field : cases)
+        EXPECT_EQ(test.Shown(field.control), field.shown) << field.control;
+    EXPECT_EQ(test.Ticked("Abilities"), QStringList{"FLESH_AND_BLOOD"});
+    EXPECT_EQ(test.Ticked("Spells") + test.Ticked("Specabilities"), QStringList());
+    EXPECT_EQ(test.state.FileExperience, 61);
+    EXPECT_EQ(test.state.FilePower, 905);
+    EXPECT_EQ(test.state.FileGrowth, 7);
+    EXPECT_EQ(test.state.FileGold, 420);
+    EXPECT_EQ(test.state.CreatureName, "Bog_wyrm");
+    EXPECT_TRUE(test.state.CreatureFileLoaded);
+    EXPECT_EQ(test.state.UpgradeFactor, 1.6F);
+    EXPECT_EQ(test.platform.focus, QStringList{"cmdCalc"});
+    EXPECT_TRUE(test.form.mnuSave.Enabled());
+    EXPECT_FALSE(test.form.Tablus.Tab(2).On());
+    EXPECT_TRUE(test.form.Tablus.Tab(4).On());
+    EXPECT_EQ(test.form.Tablus.Tab(4).Caption(), test.Path("creature.xdb"));
+    EXPECT_FALSE(test.form.txtMana.Enabled() || test.form.txtShots.Enabled() ||
+                 test.form.FrameMana.Enabled());
+}
+
+TEST(Reader, ReadsOddContentsOfAnElement) {
+    const struct {
+        const char* element;
+        const char* content;
+        const char* control;
+        const char* shown;
+    } cases[] = {
+        {"Speed", "5.5", "ComboSpeed", "6"},
+        {"Speed", "4.5", "ComboSpeed", "4"},
+        {"Speed", "7 fast", "ComboSpeed", "7"},
+        {"Speed", "12", "ComboSpeed", "9"}, // Calculate limits it
+        {"Exp", "many", "txtExp", "0"},
+        {"Exp", "", "txtExp", "0"},
+        {"Exp", "-7", "txtExp", "-7"},
+        {"Gold", "99999", "txtGoldf", "32767"},
+        {"Power", "-99999", "txtPower", "-32768"},
+        {"Flying", "true", "Abilities(66)", "1"},
+        {"Flying", "True", "Abilities(66)", "0"},
+        {"Flying", "<!-- -->true", "Abilities(66)", "1"},
+        {"CombatSize", "2", "Abilities(91)", "1"},
+        {"CombatSize", "3", "Abilities(91)", "0"},
+        {"CombatSize", "0", "Abilities(91)", "0"},
+        {"Upgrade", "false", "ComboUpgrade", "False"},
+        {"Upgrade", "TRUE", "ComboUpgrade", "False"},
+        {"Range", "-12", "ComboDiapazon", "-1"},
+        {"Range", "-2", "ComboRange", "Half"},
+        {"Range", "5", "ComboDiapazon", "0"},
+        {"Range", "05", "ComboDiapazon", "0"},
+        {"TimeToCommand", "100", "ComboTTC", "10"},
+        {"TimeToCommand", "12", "ComboTTC", "10"},
+        {"CreatureTown", "TOWN_INFERNO", "ComboFaction", "Inferno"},
+        {"CreatureTown", "town_inferno", "ComboAlias", "INFERNO"},
+        {"CreatureTown", "TOWN_ATLANTIS", "ComboAlias", "NO_TYPE"},
+        {"CreatureTown", "TOWN_ATLANTIS", "ComboFaction", "Unknown"},
+        {"CreatureTown", "ACADEMY", "ComboAlias", "NO_TYPE"},
+        {"First", "ELEMENT_EARTH", "ComboFME", "Earth"},
+        {"First", "ELEMENT_AETHER", "ComboFME", "None"},
+        {"Second", "ELEMENT_AIR", "ComboSME", "None"}, // the first one has it already
+        {"SpellPoints", "8", "txtMana", "8"},
+        {"SpellPoints", "8", "Abilities(29)", "1"},
+        {"SpellPoints", "-8", "Abilities(29)", "0"},
+        {"SpellPoints1", "5", "txtMana", ""},
+        {"Shots", "3", "txtShots", "3"},
+        {"Shots", "3", "Abilities(147)", "1"},
+        {"Shots", "0.5", "Abilities(147)", "0"},
+    };
+    for (const auto& odd : cases) {
+        SCOPED_TRACE(QString("%1 %2").arg(odd.element, odd.content).toStdString());
+        EXPECT_EQ(Opened(CreatureXml().Set(odd.element, odd.content)).Shown(odd.control),
+                  odd.shown);
+    }
+}
+
+TEST(Reader, ManaAndShotsOpenTheirFieldsAndTheSpellsPage) {
+    const Opened test(CreatureXml().Set("SpellPoints", "8").Set("Shots", "3"));
+    for (const Control* control : std::initializer_list<const Control*>{
+             &test.form.txtMana, &test.form.FrameMana, &test.form.txtShots, &test.form.FrameShots,
+             &test.form.ComboRange, &test.form.cmdRAS})
+        EXPECT_TRUE(control->Enabled()) << control->Name().toStdString();
+    EXPECT_TRUE(test.form.Tablus.Tab(2).On());
+    EXPECT_EQ(test.form.ComboDiapazon.Text(), "-1");
+    EXPECT_EQ(test.platform.focus.last(), "cmdCalc");
+    EXPECT_EQ(test.platform.focus.count("txtMana"), 2) << "once by the tick, once at the end";
+}
+
+TEST(Reader, AbilityCasterWithoutManaOpensTheFieldForCalculateToCorrect) {
+    Opened test(CreatureXml().Ability("CASTER").Ability("SHOOTER").Ability("FLYER").Ability(
+        "LARGE_CREATURE"));
+    EXPECT_EQ(test.Ticked("Abilities"),
+              (QStringList{"CASTER", "FLESH_AND_BLOOD", "FLYER", "LARGE_CREATURE", "SHOOTER"}));
+    EXPECT_TRUE(test.form.Tablus.Tab(2).On());
+    EXPECT_EQ(test.form.txtMana.Text(), "1");
+    EXPECT_EQ(test.form.txtShots.Text(), "1");
+    EXPECT_EQ(
+        test.platform.Texts().mid(0, 2),
+        (QStringList{"Value for 'Mana' out of the range!", "Value for 'Shots' out of the range!"}));
+}
+
+TEST(Reader, OneTokenInsideAnotherTicksBoth) {
+    const struct {
+        const char* what;
+        CreatureXml document;
+        QStringList abilities;
+        QStringList specabilities;
+    } cases[] = {
+        {"a special ability and the ability of the same word",
+         CreatureXml().Spell("ABILITY_FEAR", "BASIC"),
+         {"FEAR", "FLESH_AND_BLOOD"},
+         {"FEAR"}},
+        {"a linked one",
+         CreatureXml().Spell("ABILITY_DASH", "BASIC"),
+         {"DASH", "FLESH_AND_BLOOD"},
+         {"DASH"}},
+        {"an ability alone ticks its link",
+         CreatureXml().Ability("DASH"),
+         {"DASH", "FLESH_AND_BLOOD"},
+         {"DASH"}},
+        {"an ability without a link",
+         CreatureXml().Ability("FEAR"),
+         {"FEAR", "FLESH_AND_BLOOD"},
+         {}},
+        {"a longer ability",
+         CreatureXml().Ability("RANDOM_CASTER_BLESS"),
+         {"FLESH_AND_BLOOD", "RANDOM_CASTER", "RANDOM_CASTER_BLESS"},
+         {"RANDOM_CAST_DARK", "RANDOM_CAST_DARK_LIGHT"}},
+        {"a longer special ability",
+         CreatureXml().Spell("ABILITY_RANDOM_CAST_DARK_LIGHT", "EXPERT"),
+         {"FLESH_AND_BLOOD", "RANDOM_CASTER", "RANDOM_CASTER_BLESS"},
+         {"RANDOM_CAST_DARK", "RANDOM_CAST_DARK_LIGHT"}},
+        {"lower case",
+         CreatureXml().Ability("bash").Spell("ability_venom", "BASIC"),
+         {"BASH", "FLESH_AND_BLOOD", "VENOM"},
+         {"VENOM"}},
+        {"unknown words",
+         CreatureXml()
+             .Ability("SINGING")
+             .Spell("LULLABY", "BASIC")
+             .Spell("ABILITY_WEAKNING_STRIKE", ""),
+         {"FLESH_AND_BLOOD"},
+         {}},
+    };
+    for (const auto& test : cases) {
+        SCOPED_TRACE(test.what);
+        const Opened opened(test.document);
+        EXPECT_EQ(opened.Ticked("Abilities"), test.abilities);
+        EXPECT_EQ(opened.Ticked("Specabilities"), test.specabilities);
+    }
+}
+
+TEST(Reader, InfersTheNature) {
+    const struct {
+        QStringList inFile;
+        QStringList ticked;
+    } cases[] = {
+        {{}, {"FLESH_AND_BLOOD"}},
+        {{"UNDEAD"}, {"UNDEAD"}},
+        {{"MECHANICAL"}, {"MECHANICAL"}},
+        {{"ELEMENTAL"}, {"ELEMENTAL"}},
+        {{"UNDEAD", "ELEMENTAL"},
+         {"ELEMENTAL"}}, // catalogue order decides, not the order in the file
+        {{"UNDEAD", "FLESH_AND_BLOOD"}, {"FLESH_AND_BLOOD"}},
+    };
+    for (const auto& test : cases) {
+        CreatureXml document;
+        for (const QString& nature : test.inFile)
+            document.Ability(nature);
+        EXPECT_EQ(Opened(document).Ticked("Abilities"), test.ticked)
+            << test.inFile.join(' ').toStdString();
+    }
+}
+
+TEST(Reader, MasteryCountsOnlyInsideItsWindow) {
+    const struct {
+        int spell;
+        const char* token;
+        QString levels; // read back for the masteries 0 to 4
+    } cases[] = {
+        {75, "SLOW", "01234"},
+        {40, "HOLY_WORD", "01234"},
+        {89, "WARCRY_SHOUT_OF_MANY", "01230"},       // 26 with its prefix
+        {68, "RUNE_OF_DRAGONFORM", "01230"},         // 24
+        {51, "MASS_DEFLECT_ARROWS", "01230"},        // 25
+        {49, "MASS_BLOODLUST", "01234"},             // 20
+        {82, "UBER_CHAIN_LIGHTNING", "01230"},       // 26
+        {64, "REGENERATION", "01234"},               // 18
+        {71, "RUNE_OF_EXORCISM", "01234"},           // 22
+        {74, "RUNE_OF_STUNNING", "01234"},           // 22
+        {27, "EMPOWERED_ICE_BOLT", "01230"},         // 24
+        {22, "EMPOWERED_ARMAGEDDON", "01230"},       // 26
+        {33, "EMPOWERED_STONE_SPIKES", "01030"},     // 28
+        {32, "EMPOWERED_METEOR_SHOWER", "01030"},    // 29
+        {29, "EMPOWERED_LIGHTNING_BOLT", "01000"},   // 30
+        {23, "EMPOWERED_CHAIN_LIGHTNING", "00000"},  // 31
+        {69, "RUNE_OF_ELEMENTAL_IMMUNITY", "00000"}, // 32
+    };
+    const char* const words[] = {"NONE", "BASIC", "ADVANCED", "EXPERT", "EXTRA_EXPERT"};
+    for (const auto& test : cases) {
+        SCOPED_TRACE(test.token);
+        QString levels;
+        for (const char* word : words) {
+            const Opened opened(CreatureXml().Spell(test.token, word));
+            EXPECT_EQ(opened.Ticked("Spells"), QStringList{test.token});
+            EXPECT_TRUE(opened.form.soq(test.spell).Enabled());
+            EXPECT_EQ(opened.form.soq(test.spell).SelectedOption(),
+                      opened.form.soq(test.spell).Value());
+            levels += QString::number(opened.form.soq(test.spell).Value());
+        }
+        EXPECT_EQ(levels, test.levels);
+    }
+    for (std::int16_t level = 0; level <= 4; ++level) {
+        const Opened opened(CreatureXml().Spell("ABILITY_RANDOM_CAST_DARK_LIGHT", words[level]));
+        EXPECT_EQ(opened.form.saz(38).Value(), level);
+        EXPECT_EQ(opened.form.saz(37).Value(), level) << "found inside the other one";
+        EXPECT_TRUE(opened.form.saz(38).Enabled());
+    }
+    const Opened unread(CreatureXml().Spell("BLESS", "GRAND").Spell("SLOW", "expert"));
+    EXPECT_EQ(unread.Ticked("Spells"), (QStringList{"BLESS", "SLOW"}));
+    EXPECT_EQ(unread.form.soq(7).Value() + unread.form.soq(75).Value(), 0);
+}
+
+} // namespace
+
+} // namespace Hesperin

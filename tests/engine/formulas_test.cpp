@@ -1,0 +1,193 @@
+#include "engine/formulas.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace Hesperin {
+
+namespace {
+
+constexpr float Upgraded = 1.6F;
+
+Creature AtTier(std::int16_t tier, float upgradeFactor = 1) {
+    Creature creature;
+    creature.Tier = tier;
+    creature.UpgradeFactor = upgradeFactor;
+    return creature;
+}
+
+/// The figures of a creature of given Powers.
+Figures Of(double rolvane, double hesperin, std::int16_t tier, float upgradeFactor = 1) {
+    return ComputeFigures(AtTier(tier, upgradeFactor), {0, 0, rolvane, hesperin});
+}
+
+TEST(Formulas, WorkedExamples) {
+    // Worked out by hand from the formulas, with a pocket calculator's precision.
+    const struct {
+        const char* what;
+        Creature creature;
+        double powers[3]; // first method, second method, average
+        double experience[3];
+        double growth[3];
+        double cost[3];
+    } cases[] = {
+        {"plain creature",
+         {4, 3, 10, 2, 3, 5, 10, 2, 1, 1, false},
+         {129, 146, 137},
+         {11, 13, 12},
+         {18, 15, 16},
+         {54, 63, 58}},
+        {"the same, upgraded",
+         {4, 3, 10, 2, 3, 5, 10, 2, 1, Upgraded, false},
+         {129, 146, 137},
+         {11, 13, 12},
+         {11, 15, 13},
+         {54, 63, 58}},
+        {"shooter",
+         {7, 7, 16, 4, 7, 5, 8, 3, 1.2F, 1, true},
+         {312, 310, 311},
+         {26, 25, 25},
+         {9, 7, 8},
+         {133, 166, 149}},
+        {"everything 1",
+         {1, 1, 1, 1, 1, 1, 1, 1, 1, 1, false},
+         {2, 8, 5},
+         {1, 0, 1},
+         {1000, 812, 906},
+         {1, 1, 1}},
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.what);
+        const Powers powers = ComputePowers(row.creature);
+        const Figures figures = ComputeFigures(row.creature, powers);
+        EXPECT_EQ(powers.PowerRolvane, row.powers[0]);
+        EXPECT_EQ(powers.PowerHesperin, row.powers[1]);
+        EXPECT_EQ(figures.PowerAverage, row.powers[2]);
+        EXPECT_EQ(figures.ExpRolvane, row.experience[0]);
+        EXPECT_EQ(figures.ExpHesperin, row.experience[1]);
+        EXPECT_EQ(figures.ExpAverage, row.experience[2]);
+        EXPECT_EQ(figures.GrowthRolvane, row.growth[0]);
+        EXPECT_EQ(figures.GrowthHesperin, row.growth[1]);
+        EXPECT_EQ(figures.GrowthAverage, row.growth[2]);
+        EXPECT_EQ(figures.CostRolvane, row.cost[0]);
+        EXPECT_EQ(figures.CostHesperin, row.cost[1]);
+        EXPECT_EQ(figures.CostAverage, row.cost[2]);
+    }
+}
+
+TEST(Formulas, ScoresOfTheWorkedExample) {
+    const Powers powers = ComputePowers({4, 3, 10, 2, 3, 5, 10, 2, 1, 1, false});
+    EXPECT_NEAR(powers.OffenceScore, 2.8688075, 1e-7);
+    EXPECT_NEAR(powers.DefenceScore, 10.8637395, 1e-7);
+}
+
+TEST(Formulas, AbilitiesMultiplyTheFirstPowerAndStandUnderTheRootOfTheSecond) {
+    // Two creatures whose bare Powers are known, times a product that leaves no doubt in the last
+    // digit.
+    Creature creature{4, 3, 10, 2, 3, 5, 10, 2, 144, 1, false};
+    const Powers powers = ComputePowers(creature);
+    EXPECT_EQ(powers.PowerRolvane, std::floor(129.0416 * 144)); // 18581.99
+    EXPECT_EQ(powers.PowerHesperin, std::floor(146.8418 * 12)); // 1762.10
+    creature.AbilityProduct = 0.005F;                           // 0.6452: the band that gives 0
+    EXPECT_EQ(ComputePowers(creature).PowerRolvane, 0);
+    creature.AbilityProduct = 0.0039F; // 0.5033: below it
+    EXPECT_EQ(ComputePowers(creature).PowerRolvane, 1);
+}
+
+TEST(Formulas, SpeedCountsInTheFirstMethodOnlyAndAShooterLeansOnInitiative) {
+    Creature creature{4, 3, 10, 2, 3, 6, 20, 2, 1, 1, false};
+    EXPECT_EQ(ComputePowers(creature).PowerRolvane, 210);  // 1.5243355 × 1.8211747 × 2^0.6 × 50
+    EXPECT_EQ(ComputePowers(creature).PowerHesperin, 207); // root of 43125
+    creature.Speed = 9;
+    EXPECT_EQ(ComputePowers(creature).PowerRolvane, 247); // × 1.5^0.4
+    EXPECT_EQ(ComputePowers(creature).PowerHesperin, 207);
+    creature.Shooter = true; // 2.8688075^0.7 × 2.7159349^0.3 × 1.5^0.1 × 2^0.75 × 50 = 247.13
+    EXPECT_EQ(ComputePowers(creature).PowerRolvane, 247);
+    creature.Initiative = 10; // 146.94
+    EXPECT_EQ(ComputePowers(creature).PowerRolvane, 146);
+}
+
+TEST(Formulas, GrowthIsFixedFromTierFiveOn) {
+    constexpr std::int16_t fixed[] = {3, 2, 1, 1};
+    for (std::int16_t tier = 5; tier <= 8; ++tier)
+        for (const double power : {1.0, 3000.0, 1e6})
+            for (const float factor : {1.0F, Upgraded}) {
+                SCOPED_TRACE(testing::Message() << "tier " << tier << ", Power " << power);
+                const Figures figures = Of(power, power, tier, factor);
+                EXPECT_EQ(figures.GrowthRolvane, fixed[tier - 5]);
+                EXPECT_EQ(figures.GrowthHesperin, fixed[tier - 5]);
+                EXPECT_EQ(figures.GrowthAverage, fixed[tier - 5]);
+            }
+    EXPECT_EQ(Of(365, 365, 4).GrowthRolvane, 10); // 3650 / 365
+}
+
+TEST(Formulas, EveryTierHasItsOwnConstants) {
+    // At a Power of 1000 by both methods. The 32-bit floats next to 0.35, 0.48 and 0.59 lie below
+    // them, so that a thousand times each falls short of the whole number.
+    const struct {
+        std::int16_t tier;
+        std::int16_t experience;
+        std::int16_t numerator;
+        std::int16_t upgradedNumerator;
+        double costRolvane;
+        double costHesperin;
+    } cases[] = {
+        {1, 100, 2000, 1250, 349, 466}, {2, 90, 2400, 1500, 400, 633},
+        {3, 83, 2900, 1812, 430, 625},  {4, 71, 3650, 2281, 479, 700},
+        {5, 62, 4650, 2906, 589, 785},  {6, 55, 5000, 3125, 680, 850},
+        {7, 50, 7000, 4375, 750, 818},  {8, 45, 9000, 5625, 800, 803},
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.tier);
+        const Figures figures = Of(1000, 1000, row.tier);
+        EXPECT_EQ(figures.ExpRolvane, row.experience);
+        EXPECT_EQ(figures.ExpHesperin, row.experience);
+        EXPECT_EQ(figures.GrowthNumerator, row.numerator);
+        EXPECT_EQ(Of(1000, 1000, row.tier, Upgraded).GrowthNumerator, row.upgradedNumerator);
+        EXPECT_EQ(figures.CostRolvane, row.costRolvane);
+        EXPECT_EQ(figures.CostHesperin, row.costHesperin);
+    }
+}
+
+TEST(Formulas, TheSecondMethodsCostStaysAtTheGoldBaseAcrossItsZeroBand) {
+    // At tier 1 the divisor is 3250 / Power: 1 from 1626 to 3250, 0 up to 6372, 1 again above.
+    const struct {
+        double power;
+        double divisor;
+        double cost;
+    } cases[] = {{1083, 3, 466},  {1084, 2, 700},  {1625, 2, 700},
+                 {1626, 1, 1400}, {3250, 1, 1400}, {3251, 0, 1400},
+                 {6372, 0, 1400}, {6373, 1, 1400}, {1e6, 1, 1400}};
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.power);
+        const Figures figures = Of(row.power, row.power, 1);
+        EXPECT_EQ(figures.CostDivisor, row.divisor);
+        EXPECT_EQ(figures.CostHesperin, row.cost);
+    }
+    EXPECT_EQ(Of(15000, 15000, 8).CostHesperin, 11250); // 14625 / 15000
+}
+
+TEST(Formulas, GrowthAndCostOfTheSecondMethodFollowTheFirstMethodsPower) {
+    const Figures figures = Of(100, 400, 1);
+    EXPECT_EQ(figures.GrowthHesperin, 16);      // 3250 / 100 / 2
+    EXPECT_EQ(figures.CostHesperin, 43);        // 1400 / 16 = 87.5, half of 87
+    EXPECT_EQ(figures.CostRolvane, 86);         // (34 + 139) / 2
+    EXPECT_EQ(Of(2001, 1, 1).GrowthRolvane, 0); // 0.9995
+    EXPECT_EQ(Of(3921, 1, 1).GrowthRolvane, 0); // 0.51007
+    EXPECT_EQ(Of(3922, 1, 1).GrowthRolvane, 1); // 0.50994
+    EXPECT_EQ(Of(2001, 1, 1).GrowthAverage, 1); // (0 and 0) / 2 is 0, which counts as 1
+}
+
+TEST(Formulas, FiguresBeyondSixteenBitsAreLimited) {
+    const Figures figures = Of(400000, 400000, 1);
+    EXPECT_EQ(figures.ExpRolvane, 32767);
+    EXPECT_EQ(figures.ExpHesperin, 40000);
+    EXPECT_EQ(figures.ExpAverage, 32767);
+    EXPECT_EQ(figures.PowerAverage, 400000);
+    EXPECT_EQ(figures.CostRolvane, 139999);
+}
+
+} // namespace
+
+} // namespace Hesperin

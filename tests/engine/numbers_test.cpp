@@ -1,0 +1,181 @@
+#include "engine/numbers.h"
+
+#include "support/test_program.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+namespace Hesperin {
+
+namespace {
+
+constexpr double Infinity = std::numeric_limits<double>::infinity();
+
+TEST(TextToNumber, TakesTheLongestNumberAtTheStart) {
+    const struct {
+        const char* text;
+        double number;
+    } cases[] = {
+        {"", 0},
+        {" ", 0},
+        {"7", 7},
+        {"  7", 7},
+        {"00012", 12},
+        {"12abc", 12},
+        {"1 2", 1},
+        {"1,5", 1},
+        {"5.", 5},
+        {".5", 0.5},
+        {"2.75", 2.75},
+        {"1.5.5", 1.5},
+        {".", 0},
+        {"..5", 0},
+        {"+5", 5},
+        {"-0.4", -0.4},
+        {"-.5", -0.5},
+        {"+", 0},
+        {"-", 0},
+        {"--5", 0},
+        {"+-5", 0},
+        {"- 5", 0},
+        {"1e2", 100},
+        {"1E+2", 100},
+        {"25e-1", 2.5},
+        {"5.e1", 50},
+        {".5e1", 5},
+        {"1e", 1},
+        {"1e+", 1},
+        {"1e 2", 1},
+        {"1ex", 1},
+        {"e5", 0},
+        {".e5", 0},
+        {"1e2.5", 100},
+        {"1e999", Infinity},
+        {"1e-999", 0},
+        {"inf", 0},
+        {"infinity", 0},
+        {"nan", 0},
+        {"0x10", 0},
+        {"&H10", 0},
+        {"1d2", 1},
+        {"\t7", 0},
+        {"\n7", 0},
+        {"\u00A07", 0},
+        {"abc", 0},
+        {"Ж7", 0},
+        {"٣", 0},
+        {"7٣", 7},
+        {"１２", 0},
+        {"-1e999", -Infinity},
+        {"32767.5", 32767.5},
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.text);
+        EXPECT_EQ(TextToNumber(QString::fromUtf8(row.text)), row.number);
+    }
+}
+
+TEST(TextOrDefault, OnlyTheEmptyTextFallsBack) {
+    EXPECT_EQ(TextOrDefault("", "0"), "0");
+    EXPECT_EQ(TextOrDefault("", "x"), "x");
+    EXPECT_EQ(TextOrDefault(" ", "0"), " ");
+    EXPECT_EQ(TextOrDefault("5", "0"), "5");
+}
+
+TEST(RoundTo16Bits, TiesGoToTheEvenNumberAndTheRangeLimits) {
+    const struct {
+        double value;
+        std::int16_t rounded;
+        bool fits;
+    } cases[] = {
+        {0.4, 0, true},
+        {0.5, 0, true},
+        {1.5, 2, true},
+        {2.5, 2, true},
+        {3.5, 4, true},
+        {2.5000001, 3, true},
+        {-0.5, 0, true},
+        {-1.5, -2, true},
+        {-2.5, -2, true},
+        {32767.4, 32767, true},
+        {32767.5, 32767, false},
+        {70000, 32767, false},
+        {-32768.5, -32768, true},
+        {-32768.6, -32768, false},
+        {-1e300, -32768, false},
+        {Infinity, 32767, false},
+        {-Infinity, -32768, false},
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.value);
+        EXPECT_EQ(RoundTo16Bits(row.value), row.rounded);
+        EXPECT_EQ(FitsIn16Bits(row.value), row.fits);
+    }
+}
+
+TEST(WholeValue, IsOneThenZeroThenCutsTheFractionOff) {
+    const struct {
+        double x;
+        double whole;
+    } cases[] = {
+        {-1000, 1},
+        {-0.7, 1},
+        {0, 1},
+        {0.5, 1},
+        {0.509999, 1},
+        {std::nextafter(0.51, 0), 1},
+        {0.51, 0},
+        {0.6, 0},
+        {0.99, 0},
+        {std::nextafter(1, 0), 0},
+        {1, 1},
+        {1.49, 1},
+        {1.99, 1},
+        {2.5, 2},
+        {2.99, 2},
+        {129.0416, 129},
+        {3e9 + 0.75, 3e9},
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.x);
+        EXPECT_EQ(WholeValue(row.x), row.whole);
+    }
+}
+
+TEST(NumberTexts, AreWholeOrOfSevenDigits) {
+    EXPECT_EQ(WholeText(0), "0");
+    EXPECT_EQ(WholeText(-7), "-7");
+    EXPECT_EQ(WholeText(70000), "70000");
+    EXPECT_EQ(WholeText(9007199254740992.0), "9007199254740992");
+    EXPECT_EQ(WholeText(-1e20), "-9007199254740992"); // the limit
+    EXPECT_EQ(WholeDigits(std::int64_t{-32768}).View().toString(), "-32768");
+    EXPECT_EQ(WholeDigits(std::numeric_limits<std::int64_t>::max()).View().toString(),
+              "9223372036854775807");
+    const struct {
+        float value;
+        const char* text;
+    } floats[] = {
+        {1.0F, "1"},     {1.05F, "1.05"},    {1.2F, "1.2"},           {0.83F, "0.83"},
+        {100.0F, "100"}, {1.26F, "1.26"},    {1.0F / 3, "0.3333333"}, {2.0F / 3, "0.6666667"},
+        {0.5F, "0.5"},   {1234.5F, "1234.5"}};
+    for (const auto& row : floats)
+        EXPECT_EQ(FloatText(row.value), row.text);
+}
+
+TEST(ProperCase, EveryWordBeginsWithOneUpperCaseLetter) {
+    const struct {
+        const char* text;
+        const char* proper;
+    } cases[] = {
+        {"", ""},           {"max", "Max"},      {"TRUE", "True"},   {"мин.", "Мин."},
+        {"МАКС.", "Макс."}, {"a bC", "A Bc"},    {" x\ty", " X\tY"}, {"BEAR_ROAR", "Bear_roar"},
+        {"1st x", "1st X"}, {"o'neil", "O'neil"}};
+    for (const auto& row : cases)
+        EXPECT_EQ(ProperCase(row.text), row.proper);
+}
+
+} // namespace
+
+} // namespace Hesperin

@@ -1,0 +1,199 @@
+#include "engine/calculate.h"
+#include "engine/clear_creature.h"
+#include "engine/tier_advice.h"
+#include "engine/title.h"
+#include "form/result_labels.h"
+#include "support/test_program.h"
+
+#include <gtest/gtest.h>
+
+namespace Hesperin {
+
+namespace {
+
+TEST(AbilityProduct, IsAThirtyTwoBitFloatFormedInIndexOrder) {
+    // Products of the catalogue's values, each step rounded to 32 bits. In 64 bits, or backwards,
+    // the last of the seven digits differs.
+    const struct {
+        std::vector<int> abilities;
+        float product;
+        const char* text;
+    } cases[] = {
+        {{}, 1, "1"},
+        {{29, 164}, 1, "1"},
+        {{130}, 0.83F, "0.83"},
+        {{66, 147}, 1.26F, "1.26"},
+        {{9, 33, 48, 162, 174}, 0.983465254F, "0.9834653"},
+        {{10, 40, 46, 62, 75, 83, 94, 125, 132}, 6.48509741F, "6.485097"},
+        {{2,  3,  19,  22,  24,  26,  33,  36,  55,  57,  62,  74, 78,
+          81, 88, 100, 106, 107, 108, 119, 130, 135, 157, 165, 166},
+         9.63098907F,
+         "9.630989"},
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.text);
+        TestProgram test;
+        for (const int ability : row.abilities)
+            test.form.Abilities(ability).SetTicked(true);
+        Calculate(test.program);
+        EXPECT_EQ(test.state.AbilityProduct, row.product);
+        EXPECT_EQ(test.form.cmdCalc.ToolTip(),
+                  QString("Average value for all abilities is ") + row.text);
+        for (const int ability : row.abilities)
+            test.form.Abilities(ability).SetTicked(false);
+        EXPECT_EQ(test.state.AbilityProduct, row.product); // as of the last run
+        Calculate(test.program);
+        EXPECT_EQ(test.state.AbilityProduct, 1);
+    }
+}
+
+TEST(Calculate, FillsLabelsAndTitleAndSwitchesTheExponents) {
+    TestProgram test;
+    test.FillInCreature();
+    test.form.ComboTier.Select(1);
+    EXPECT_EQ(test.BoxesOf([&] { Calculate(test.program); }),
+              QStringList{"It is recommended to lower tier from 2 to 1"});
+    EXPECT_EQ(test.platform.boxes[0].icon, BoxIcon::Information);
+    EXPECT_EQ(test.platform.boxes[0].title, "Warning!");
+    EXPECT_EQ(test.form.ComboTier.Text(), "2"); // it is advice only
+    EXPECT_EQ(test.form.frmMain.Caption(),
+              "TALMIR v0.0.0.44 [Creature: Test, Power=0{137}, Experience=0{12}, Growth=0{16}, "
+              "Gold=0{58}]");
+    QStringList labels;
+    for (const auto label : ResultLabels)
+        labels.append((test.form.*label).Caption());
+    EXPECT_EQ(labels.join(' '), "129 54 11 18 146 63 13 15 137 58 12 16");
+    EXPECT_EQ(test.state.ExponentOffence, 4000);
+    EXPECT_EQ(test.state.ExponentDefence, 6000);
+    EXPECT_EQ(test.state.ExponentSpeed, 4000);
+    EXPECT_EQ(test.state.ExponentInitiative, 6000);
+
+    test.form.Abilities(Ability::Shooter).SetTicked(true);
+    Calculate(test.program);
+    EXPECT_EQ(test.state.ExponentOffence, 7000);
+    EXPECT_EQ(test.state.ExponentDefence, 3000);
+    EXPECT_EQ(test.state.ExponentSpeed, 1000);
+    EXPECT_EQ(test.state.ExponentInitiative, 7500);
+}
+
+TEST(Calculate, AllowsSavingOnlyWhileTheCreatureHasAName) {
+    TestProgram test;
+    test.FillInCreature();
+    test.form.txtNC.SetText("");
+    for (const char* name : {"", "x", " ", ""}) {
+        test.form.txtNC.SetText(name);
+        Calculate(test.program);
+        EXPECT_EQ(test.form.mnuSave.Enabled(), *name != '\0');
+    }
+}
+
+TEST(TierAdvice, EachBandReachesToItsEnds) {
+    const struct {
+        double from;
+        double to;
+        std::int16_t tier;
+    } bands[] = {{1, 151, 1},     {152, 259, 2},   {260, 511, 3},    {512, 977, 4},  {978, 2051, 5},
+                 {2052, 4696, 6}, {4697, 6500, 7}, {6501, 24000, 8}, {24001, 1e9, 8}};
+    for (const auto& band : bands) {
+        EXPECT_EQ(AdviseTier(band.from), band.tier) << band.from;
+        EXPECT_EQ(AdviseTier(band.to), band.tier) << band.to;
+    }
+}
+
+TEST(TierAdvice, ComparesWithTheReferenceOfThePlainOrUpgradedCreature) {
+    constexpr std::int16_t plain[] = {78, 152, 260, 512, 978, 2052, 4697, 6500};
+    constexpr std::int16_t upgraded[] = {129, 227, 367, 723, 1336, 2463, 5954, 8000};
+    TestProgram test;
+    for (std::int16_t tier = 1; tier <= 8; ++tier)
+        for (const bool isUpgraded : {false, true}) {
+            test.form.ComboUpgrade.Select(isUpgraded ? 1 : 0);
+            test.state.Tier = tier;
+            test.state.PowerAverage = 600; // tier 4
+            const QStringList advice = test.BoxesOf([&] { AdviseOnTier(test.program); });
+            const std::int16_t reference = (isUpgraded ? upgraded : plain)[tier - 1];
+            EXPECT_EQ(test.state.TierReferencePower, reference);
+            EXPECT_EQ(test.state.PowerRatio, static_cast<float>(600.0 / reference));
+            EXPECT_EQ(test.state.AdvisedTier, 4);
+            const QString text = QString("It is recommended to %1 tier from %2 to 4")
+                                     .arg(tier < 4 ? "increase" : "lower")
+                                     .arg(tier);
+            EXPECT_EQ(advice, tier == 4 ? QStringList() : QStringList{text});
+        }
+    TestProgram russian(Russian);
+    russian.state.Tier = 2;
+    russian.state.PowerAverage = 1000;
+    EXPECT_EQ(russian.BoxesOf([&] { AdviseOnTier(russian.program); }),
+              QStringList{"Рекомендуется повысить уровень от 2 до 5"});
+}
+
+TEST(Title, SetsTheFileBesideTheCalculationOnceAFileIsOpen) {
+    TestProgram test(Russian);
+    test.FillInCreature();
+    test.form.ComboTier.Select(1);
+    Calculate(test.program);
+    BuildTitle(test.program);
+    EXPECT_EQ(test.form.frmMain.Caption(), "TALMIR v0.0.0.44");
+    test.state.CreatureFileLoaded = true;
+    test.state.CreatureName = "Орк";
+    test.state.FilePower = 7;
+    test.state.FileExperience = -8;
+    test.state.FileGrowth = 9;
+    test.state.FileGold = 32767;
+    for (const auto label : ResultLabels) // the title needs none of them
+        (test.form.*label).SetCaption(QString());
+    BuildTitle(test.program);
+    EXPECT_EQ(test.form.frmMain.Caption(),
+              "TALMIR v0.0.0.44 [Существо: Орк, Сила=7{137}, Опыт=-8{12}, Прирост=9{16}, "
+              "Золото=32767{58}]");
+}
+
+TEST(ClearCreature, EmptiesFieldsAndLabelsAndKeepsTicksAndResults) {
+    TestProgram test;
+    test.FillInCreature();
+    Calculate(test.program);
+    const double power = test.state.PowerRolvane;
+    test.form.Abilities(17).SetTicked(true);
+    for (Control* control : test.form.Controls()) {
+        if (auto* field = dynamic_cast<TextField*>(control))
+            field->SetText("5");
+        if (auto* list = dynamic_cast<ComboBox*>(control))
+            list->Select(1);
+    }
+    EXPECT_EQ(test.state.UpgradeFactor, 1.6F);
+    test.state.CreatureName = "x";
+    test.state.FilePower = 3;
+
+    ClearCreature(test.program);
+    const QStringList entries{"False",   "1",       "None", "None", "5", "10",
+                              "Unknown", "NO_TYPE", "None", "0",    "10"};
+    QStringList texts;
+    for (const ComboBox* list :
+         {&test.form.ComboUpgrade, &test.form.ComboTier, &test.form.ComboFME, &test.form.ComboSME,
+          &test.form.ComboSpeed, &test.form.ComboInitiative, &test.form.ComboFaction,
+          &test.form.ComboAlias, &test.form.ComboRange, &test.form.ComboDiapazon,
+          &test.form.ComboTTC}) {
+        texts.append(list->Text());
+        EXPECT_EQ(list->Items().value(list->Index()), list->Text());
+    }
+    EXPECT_EQ(texts, entries);
+    EXPECT_EQ(test.state.UpgradeFactor, 1.0F);
+    int zeroes = 0;
+    for (const Control* control : test.form.Controls())
+        if (const auto* field = dynamic_cast<const TextField*>(control)) {
+            const bool isText = field == &test.form.txtNC || field == &test.form.txtIDC;
+            EXPECT_EQ(field->Text(), isText ? "" : "0") << field->Name().toStdString();
+            zeroes += isText ? 0 : 1;
+        }
+    EXPECT_EQ(zeroes, 17);
+    for (const auto label : ResultLabels)
+        EXPECT_EQ((test.form.*label).Caption(), "");
+    EXPECT_EQ(test.form.cmdCalc.ToolTip(), "");
+    EXPECT_EQ(test.state.CreatureName, "Test");
+    EXPECT_EQ(test.state.PowerRolvane, power);
+    EXPECT_EQ(test.state.FilePower, 3);
+    EXPECT_TRUE(test.form.Abilities(17).Ticked());
+}
+
+} // namespace
+
+} // namespace Hesperin
