@@ -8,4 +8,7 @@ if(TALMIR_SANITIZE)
     target_compile_options(talmir_flags INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer
                                                   -fno-sanitize-recover=all)
     target_link_options(talmir_flags INTERFACE -fsanitize=address,undefined)
+    if(TALMIR_FUZZ)
+        target_compile_options(talmir_flags INTERFACE -fsanitize=fuzzer-no-link)
+    endif()
 endif()

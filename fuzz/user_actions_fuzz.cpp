@@ -1,0 +1,97 @@
+// Sequences of what a user can do, three bytes an action: what must hold holds after each.
+#include "fuzz_program.h"
+
+#include "catalogues/links.h"
+#include "creature_files/writer.h"
+#include "engine/calculate.h"
+
+#include <algorithm>
+#include <array>
+
+using namespace Hesperin;
+
+namespace {
+
+constexpr std::array<Button MainForm::*, 5> Buttons{&MainForm::cmdCalc, &MainForm::cmdRAP, &MainForm::cmdRAA,
+                                                    &MainForm::cmdRAS, &MainForm::cmdResetAll};
+constexpr std::array<MenuEntry MainForm::*, 3> Entries{&MainForm::mnuNew, &MainForm::mnuEnglish,
+                                                       &MainForm::mnuRussian};
+constexpr std::array<const char*, 10> Texts{"", "0", "1", "7", "50", "51", "-3", "99999", "2.5", "x1"};
+
+/// The charge counter, which a change of language zeroes while the ticks stay.
+int ChargesOf(const MainForm& form) {
+    int charges = 0;
+    for (const Link& link : Links)
+        charges += form.Abilities(link.ability).Ticked() ? 2 : 0;
+    for (const int i : OneSidedAbilities)
+        charges += form.Abilities(i).Ticked() ? 1 : 0;
+    for (const int j : OneSidedSpecabilities)
+        charges += form.Specabilities(j).Ticked() ? 1 : 0;
+    return charges;
+}
+
+template <typename Array>
+auto& Pick(Array& array, std::uint8_t which) {
+    return array(Array::FirstIndex + which % (Array::LastIndex - Array::FirstIndex + 1));
+}
+
+void ClickIfUsable(CheckBox& box) {
+    if (box.Usable())
+        box.SetTicked(!box.Ticked());
+}
+
+void Act(Program& program, std::uint8_t kind, std::uint8_t which, std::uint8_t how) {
+    MainForm& form = program.form;
+    switch (kind % 9) {
+    case 0:
+        return ClickIfUsable(Pick(form.Abilities, which));
+    case 1:
+        return ClickIfUsable(Pick(form.Spells, which));
+    case 2:
+        return ClickIfUsable(Pick(form.Specabilities, which));
+    case 3:
+        if (MultiOption& selector = Pick(form.saz, which); selector.Usable())
+            selector.ClickOption(how % 5);
+        return;
+    case 4:
+        if (Button& button = form.*Buttons[which % Buttons.size()]; button.Usable())
+            button.Click();
+        return;
+    case 5:
+        if (MenuEntry& entry = form.*Entries[which % Entries.size()]; entry.Usable())
+            entry.Click();
+        return;
+    case 6:
+    case 7:
+    default:
+        break;
+    }
+    Control* control = form.Controls()[which % form.Controls().size()];
+    if (!control->Usable())
+        return;
+    if (auto* field = dynamic_cast<TextField*>(control))
+        kind % 2 == 0 ? field->SetText(QLatin1String(Texts[how % Texts.size()])) : field->Type(how);
+    else if (auto* list = dynamic_cast<ComboBox*>(control); list != nullptr && !list->Items().isEmpty())
+        list->Select(static_cast<std::int16_t>(how % list->Items().size()));
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    FuzzProgram fuzzed;
+    bool languageChanged = false;
+    for (std::size_t at = 0; at + 2 < size && at < 3 * 400; at += 3) {
+        Act(fuzzed.program, data[at], data[at + 1], data[at + 2]);
+        languageChanged = languageChanged || (data[at] % 9 == 5 && data[at + 1] % Entries.size() != 0);
+        RequireInvariants(fuzzed.program);
+        Require(languageChanged || fuzzed.program.state.SpellPoints1Count == ChargesOf(fuzzed.program.form),
+                "the charge counter counts the charges");
+    }
+    Calculate(fuzzed.program);
+    const SharedState& state = fuzzed.program.state;
+    Require(state.MinDam >= 1 && state.MinDam <= state.MaxDam && state.MaxDam <= 95, "the damage is in its range");
+    Require(state.PowerRolvane >= 1 && state.AdvisedTier >= 1 && state.AdvisedTier <= 8, "the figures are there");
+    Require(BuildCreatureText(fuzzed.program, QStringLiteral("Name")).endsWith(QLatin1String("</Creature>")),
+            "it can be written");
+    return 0;
+}
