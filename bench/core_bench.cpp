@@ -74,7 +74,8 @@ void OpenFromMemory(benchmark::State& state) {
     const QByteArray bytes = SampleBytes();
     for (auto _ : state) {
         auto document = NormaliseCreature(bytes);
-        FillFromDocument(opened.program, std::get<QString>(std::move(document)), QString::fromUtf8(Sample));
+        FillFromDocument(opened.program, std::get<QString>(std::move(document)),
+                         QString::fromUtf8(Sample));
         opened.platform.messages.clear();
     }
 }
@@ -84,7 +85,8 @@ BENCHMARK(OpenFromMemory);
 
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
-    return RunAndPrintRatios(argc, argv,
-                             {{"Calculate from fields to labels", "CalculateFromFields", "BareFormulas"},
-                              {"Opening a creature file from memory", "OpenFromMemory", "XmlParserAlone"}});
+    return RunAndPrintRatios(
+        argc, argv,
+        {{"Calculate from fields to labels", "CalculateFromFields", "BareFormulas"},
+         {"Opening a creature file from memory", "OpenFromMemory", "XmlParserAlone"}});
 }

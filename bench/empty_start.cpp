@@ -1,4 +1,5 @@
-// An empty main window that ends after its first complete picture: the floor of the start benchmark.
+// An empty main window that ends after its first complete picture: the floor of the start
+// benchmark.
 #include "end_after_first_picture.h"
 
 #include <QApplication>

@@ -41,8 +41,8 @@ int RunAndPrintRatios(int argc, char** argv, const std::vector<Ratio>& ratios) {
         const double floor = keeper.medians[ratio.floor];
         const double figure = keeper.medians[ratio.figure];
         if (floor > 0 && figure > 0)
-            std::printf("%s: %.0f ns, %.2f times the floor of %.0f ns (%s)\n", ratio.what.c_str(), figure,
-                        figure / floor, floor, ratio.floor.c_str());
+            std::printf("%s: %.0f ns, %.2f times the floor of %.0f ns (%s)\n", ratio.what.c_str(),
+                        figure, figure / floor, floor, ratio.floor.c_str());
     }
     return 0;
 }

@@ -44,8 +44,8 @@ void PrintPair(const char* what, const ProcessCall& figure, const ProcessCall& f
     }
     const double floorMedian = Median(floors);
     const double figureMedian = Median(figures);
-    std::printf("%s: %.1f ms, %.2f times the floor of %.1f ms\n", what, figureMedian, figureMedian / floorMedian,
-                floorMedian);
+    std::printf("%s: %.1f ms, %.2f times the floor of %.1f ms\n", what, figureMedian,
+                figureMedian / floorMedian, floorMedian);
 }
 
 } // namespace Hesperin

@@ -1,4 +1,5 @@
-// Starts the program in its window and ends after the first complete picture. Run by the start benchmark.
+// Starts the program in its window and ends after the first complete picture. Run by the start
+// benchmark.
 #include "window/windowed_program.h"
 
 #include "end_after_first_picture.h"

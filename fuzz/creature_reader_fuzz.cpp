@@ -1,5 +1,5 @@
-// From the bytes of a creature file to the state of the window: opened in order, or refused with nothing
-// changed and a reason given.
+// From the bytes of a creature file to the state of the window: opened in order, or refused with
+// nothing changed and a reason given.
 #include "fuzz_program.h"
 
 #include "creature_files/document.h"
@@ -25,10 +25,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             "a normalised document is its own normal form");
     FillFromDocument(fuzzed.program, text, QStringLiteral("a.xdb"));
     RequireInvariants(fuzzed.program);
-    FillFromDocument(fuzzed.program, text, QStringLiteral("a.xdb")); // clears what a shooter before it left
+    FillFromDocument(fuzzed.program, text,
+                     QStringLiteral("a.xdb")); // clears what a shooter before it left
     const QByteArray second = Snapshot(fuzzed);
     FillFromDocument(fuzzed.program, text, QStringLiteral("a.xdb"));
     Require(Snapshot(fuzzed) == second, "opening a file again gives the same window");
-    Require(!BuildCreatureText(fuzzed.program, QStringLiteral("Name")).isEmpty(), "it can be written");
+    Require(!BuildCreatureText(fuzzed.program, QStringLiteral("Name")).isEmpty(),
+            "it can be written");
     return 0;
 }

@@ -19,7 +19,9 @@ void Require(bool holds, const char* what) {
     std::abort();
 }
 
-FuzzProgram::FuzzProgram() { Form_Load(program, {std::uint8_t{1}, false}); }
+FuzzProgram::FuzzProgram() {
+    Form_Load(program, {std::uint8_t{1}, false});
+}
 
 void RequireInvariants(const Program& program) {
     const MainForm& form = program.form;
@@ -27,12 +29,15 @@ void RequireInvariants(const Program& program) {
                                        [&](int i) { return form.Abilities(i).Ticked(); });
     Require(natures <= 1, "at most one nature is ticked");
     for (const Link& link : Links)
-        Require(form.Abilities(link.ability).Ticked() == form.Specabilities(link.specability).Ticked(),
+        Require(form.Abilities(link.ability).Ticked() ==
+                    form.Specabilities(link.specability).Ticked(),
                 "linked boxes agree");
     for (const CheckBox& box : form.Spells)
-        Require(box.Ticked() == form.soq(box.ArrayIndex()).Enabled(), "a spell's selector follows its box");
+        Require(box.Ticked() == form.soq(box.ArrayIndex()).Enabled(),
+                "a spell's selector follows its box");
     for (const CheckBox& box : form.Specabilities)
-        Require(box.Ticked() == form.saz(box.ArrayIndex()).Enabled(), "a special ability's selector follows its box");
+        Require(box.Ticked() == form.saz(box.ArrayIndex()).Enabled(),
+                "a special ability's selector follows its box");
     for (const MultiOption& selector : form.soq)
         Require(selector.Value() >= 0 && selector.Value() <= 4, "a mastery is 0 to 4");
     const SharedState& state = program.state;

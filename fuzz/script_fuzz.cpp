@@ -1,5 +1,5 @@
-// The reader of scripts takes any lines. Paths are replaced: a script of a fuzzer must not write where it
-// likes.
+// The reader of scripts takes any lines. Paths are replaced: a script of a fuzzer must not write
+// where it likes.
 #include "fuzz_program.h"
 
 #include "cli/script_actions.h"
@@ -23,7 +23,8 @@ QString Harmless(const QString& line, const QString& file) {
 } // namespace
 
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
-    return std::freopen("/dev/null", "w", stdout) == nullptr ? 1 : 0; // what `show` and `state` print
+    return std::freopen("/dev/null", "w", stdout) == nullptr ? 1
+                                                             : 0; // what `show` and `state` print
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

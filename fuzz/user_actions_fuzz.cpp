@@ -12,11 +12,13 @@ using namespace Hesperin;
 
 namespace {
 
-constexpr std::array<Button MainForm::*, 5> Buttons{&MainForm::cmdCalc, &MainForm::cmdRAP, &MainForm::cmdRAA,
-                                                    &MainForm::cmdRAS, &MainForm::cmdResetAll};
+constexpr std::array<Button MainForm::*, 5> Buttons{&MainForm::cmdCalc, &MainForm::cmdRAP,
+                                                    &MainForm::cmdRAA, &MainForm::cmdRAS,
+                                                    &MainForm::cmdResetAll};
 constexpr std::array<MenuEntry MainForm::*, 3> Entries{&MainForm::mnuNew, &MainForm::mnuEnglish,
                                                        &MainForm::mnuRussian};
-constexpr std::array<const char*, 10> Texts{"", "0", "1", "7", "50", "51", "-3", "99999", "2.5", "x1"};
+constexpr std::array<const char*, 10> Texts{"",   "0",  "1",     "7",   "50",
+                                            "51", "-3", "99999", "2.5", "x1"};
 
 /// The charge counter, which a change of language zeroes while the ticks stay.
 int ChargesOf(const MainForm& form) {
@@ -71,7 +73,8 @@ void Act(Program& program, std::uint8_t kind, std::uint8_t which, std::uint8_t h
         return;
     if (auto* field = dynamic_cast<TextField*>(control))
         kind % 2 == 0 ? field->SetText(QLatin1String(Texts[how % Texts.size()])) : field->Type(how);
-    else if (auto* list = dynamic_cast<ComboBox*>(control); list != nullptr && !list->Items().isEmpty())
+    else if (auto* list = dynamic_cast<ComboBox*>(control);
+             list != nullptr && !list->Items().isEmpty())
         list->Select(static_cast<std::int16_t>(how % list->Items().size()));
 }
 
@@ -82,16 +85,21 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     bool languageChanged = false;
     for (std::size_t at = 0; at + 2 < size && at < 3 * 400; at += 3) {
         Act(fuzzed.program, data[at], data[at + 1], data[at + 2]);
-        languageChanged = languageChanged || (data[at] % 9 == 5 && data[at + 1] % Entries.size() != 0);
+        languageChanged =
+            languageChanged || (data[at] % 9 == 5 && data[at + 1] % Entries.size() != 0);
         RequireInvariants(fuzzed.program);
-        Require(languageChanged || fuzzed.program.state.SpellPoints1Count == ChargesOf(fuzzed.program.form),
+        Require(languageChanged ||
+                    fuzzed.program.state.SpellPoints1Count == ChargesOf(fuzzed.program.form),
                 "the charge counter counts the charges");
     }
     Calculate(fuzzed.program);
     const SharedState& state = fuzzed.program.state;
-    Require(state.MinDam >= 1 && state.MinDam <= state.MaxDam && state.MaxDam <= 95, "the damage is in its range");
-    Require(state.PowerRolvane >= 1 && state.AdvisedTier >= 1 && state.AdvisedTier <= 8, "the figures are there");
-    Require(BuildCreatureText(fuzzed.program, QStringLiteral("Name")).endsWith(QLatin1String("</Creature>")),
+    Require(state.MinDam >= 1 && state.MinDam <= state.MaxDam && state.MaxDam <= 95,
+            "the damage is in its range");
+    Require(state.PowerRolvane >= 1 && state.AdvisedTier >= 1 && state.AdvisedTier <= 8,
+            "the figures are there");
+    Require(BuildCreatureText(fuzzed.program, QStringLiteral("Name"))
+                .endsWith(QLatin1String("</Creature>")),
             "it can be written");
     return 0;
 }

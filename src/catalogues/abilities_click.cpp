@@ -64,7 +64,8 @@ void RefuseSecondNature(MainForm& form, int i) {
 } // namespace
 
 void StepSpellPoints1(SharedState& state, bool ticked) {
-    state.SpellPoints1Count = static_cast<std::int16_t>(state.SpellPoints1Count + (ticked ? 1 : -1));
+    state.SpellPoints1Count =
+        static_cast<std::int16_t>(state.SpellPoints1Count + (ticked ? 1 : -1));
     state.SpecabilityFlag = ticked ? FlagTrue : FlagFalse;
 }
 

@@ -7,7 +7,9 @@ namespace Hesperin {
 
 namespace {
 
-QString Token(const char16_t* text) { return QString::fromUtf16(text); }
+QString Token(const char16_t* text) {
+    return QString::fromUtf16(text);
+}
 
 } // namespace
 

@@ -5,8 +5,8 @@
 namespace Hesperin {
 
 int LinkedSpecability(int ability) {
-    const auto* link =
-        std::find_if(Links.begin(), Links.end(), [ability](const Link& row) { return row.ability == ability; });
+    const auto* link = std::find_if(Links.begin(), Links.end(),
+                                    [ability](const Link& row) { return row.ability == ability; });
     return link == Links.end() ? -1 : link->specability;
 }
 

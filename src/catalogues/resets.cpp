@@ -32,7 +32,9 @@ void Reset_Parametres(Program& program) {
     ClearCreature(program);
 }
 
-void cmdRAP_Click(Program& program) { Reset_Parametres(program); }
+void cmdRAP_Click(Program& program) {
+    Reset_Parametres(program);
+}
 
 void cmdRAA_Click(Program& program) {
     program.form.Tablus.Tab(2).Switch(false);
@@ -40,7 +42,9 @@ void cmdRAA_Click(Program& program) {
     Reset_Specabilities(program);
 }
 
-void cmdRAS_Click(Program& program) { Reset_Spells(program); }
+void cmdRAS_Click(Program& program) {
+    Reset_Spells(program);
+}
 
 void cmdResetAll_Click(Program& program) {
     MainForm& form = program.form;

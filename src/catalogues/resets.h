@@ -1,4 +1,5 @@
-// The resets. Every box is cleared through its own click rules, never by writing the state behind it.
+// The resets. Every box is cleared through its own click rules, never by writing the state behind
+// it.
 #pragma once
 
 #include "engine/program.h"

@@ -19,8 +19,8 @@ void Specabilities_Click(Program& program, int j) {
     const bool ticked = box.Ticked();
 
     const int partner = LinkedAbility(j);
-    const bool oneSided = std::find(OneSidedSpecabilities.begin(), OneSidedSpecabilities.end(), j) !=
-                          OneSidedSpecabilities.end();
+    const bool oneSided = std::find(OneSidedSpecabilities.begin(), OneSidedSpecabilities.end(),
+                                    j) != OneSidedSpecabilities.end();
     if (partner >= 0)
         form.Abilities(partner).SetTicked(ticked);
     if (partner >= 0 || oneSided)

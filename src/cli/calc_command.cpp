@@ -16,7 +16,8 @@ const QString JsonOption = QStringLiteral("json");
 void Describe(QCommandLineParser& parser) {
     parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Creature files (.xdb)."),
                                  QStringLiteral("FILE..."));
-    parser.addOption({JsonOption, QStringLiteral("One JSON object a line and file instead of a table.")});
+    parser.addOption(
+        {JsonOption, QStringLiteral("One JSON object a line and file instead of a table.")});
 }
 
 int Run(const QCommandLineParser& parser) {

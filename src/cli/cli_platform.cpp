@@ -13,7 +13,9 @@ bool CliPlatform::AskYesNo(const QString& title, const QString& text) {
     return true;
 }
 
-QString CliPlatform::ProgramFolder() const { return QCoreApplication::applicationDirPath(); }
+QString CliPlatform::ProgramFolder() const {
+    return QCoreApplication::applicationDirPath();
+}
 
 bool CliPlatform::Answer(FileDialog& dialog) const {
     if (dialogPath)

@@ -14,8 +14,8 @@ struct ShownMessage {
     QString text;
 };
 
-/// The platform of the command line: every box is answered with OK and kept, dialogs give the path that
-/// the user named, nothing is started and no setting is touched.
+/// The platform of the command line: every box is answered with OK and kept, dialogs give the path
+/// that the user named, nothing is started and no setting is touched.
 class CliPlatform : public Platform {
 public:
     void ShowMessage(BoxIcon icon, const QString& title, const QString& text) override;

@@ -18,11 +18,14 @@ QString Overview() {
                                   "Balance figures and creature files without a window.\n\n"
                                   "Commands:\n");
     for (const Command* command : Commands)
-        text += QStringLiteral("  %1  %2\n").arg(QLatin1String(command->name), -6).arg(QLatin1String(command->summary));
-    text += QLatin1String("\nOptions:\n"
-                          "  -h, --help     Shows this help, or that of a command.\n"
-                          "  -v, --version  Shows the version.\n\n"
-                          "Exit code 0: all done; 1: something could not be done, the rest was; 2: wrong usage.");
+        text += QStringLiteral("  %1  %2\n")
+                    .arg(QLatin1String(command->name), -6)
+                    .arg(QLatin1String(command->summary));
+    text += QLatin1String(
+        "\nOptions:\n"
+        "  -h, --help     Shows this help, or that of a command.\n"
+        "  -v, --version  Shows the version.\n\n"
+        "Exit code 0: all done; 1: something could not be done, the rest was; 2: wrong usage.");
     return text;
 }
 
@@ -34,7 +37,8 @@ int Misused(const QString& reason) {
 int RunCommandWith(const Command& command, QStringList arguments) {
     QCommandLineParser parser;
     parser.setApplicationDescription(QLatin1String(command.summary));
-    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Shows this help."));
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
+                                  QStringLiteral("Shows this help."));
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
                                      QStringLiteral("Shows the version."));
     parser.addOption(help);

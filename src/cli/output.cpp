@@ -13,15 +13,21 @@ void Write(std::FILE* stream, const QByteArray& utf8) {
 
 } // namespace
 
-void PrintLine(const QString& line) { Write(stdout, line.toUtf8()); }
+void PrintLine(const QString& line) {
+    Write(stdout, line.toUtf8());
+}
 
-void PrintLine(const QByteArray& utf8) { Write(stdout, utf8); }
+void PrintLine(const QByteArray& utf8) {
+    Write(stdout, utf8);
+}
 
 void Complain(const QString& line) {
     std::fflush(stdout); // so that both streams tell the same story in a terminal
     Write(stderr, line.toUtf8());
 }
 
-bool FlushOutput() { return std::fflush(stdout) == 0 && std::ferror(stdout) == 0; }
+bool FlushOutput() {
+    return std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
+}
 
 } // namespace Hesperin

@@ -18,14 +18,16 @@ constexpr std::uint8_t Russian = 2;
 const QString LanguageOption = QStringLiteral("lang");
 
 void Describe(QCommandLineParser& parser) {
-    parser.addPositionalArgument(QStringLiteral("SCRIPT"),
-                                 QStringLiteral("File of user actions, one a line; - reads standard input."));
+    parser.addPositionalArgument(
+        QStringLiteral("SCRIPT"),
+        QStringLiteral("File of user actions, one a line; - reads standard input."));
     parser.addOption({LanguageOption, QStringLiteral("Language at the start: EN (default) or RU."),
                       QStringLiteral("EN|RU")});
 }
 
 std::optional<std::uint8_t> LanguageOf(const QCommandLineParser& parser) {
-    const QString code = parser.isSet(LanguageOption) ? parser.value(LanguageOption) : QStringLiteral("EN");
+    const QString code =
+        parser.isSet(LanguageOption) ? parser.value(LanguageOption) : QStringLiteral("EN");
     if (code == QLatin1String("EN"))
         return English;
     if (code == QLatin1String("RU"))
@@ -41,7 +43,9 @@ QString WithoutLineEnd(QByteArray line) {
     return QString::fromUtf8(line);
 }
 
-bool IsAction(const QString& line) { return !line.trimmed().isEmpty() && !line.startsWith(u'#'); }
+bool IsAction(const QString& line) {
+    return !line.trimmed().isEmpty() && !line.startsWith(u'#');
+}
 
 /// Plays every line; true when all could be done.
 bool Play(QFile& script, const QString& name, ScriptStage& stage) {
@@ -69,7 +73,8 @@ int Run(const QCommandLineParser& parser) {
     const QStringList names = parser.positionalArguments();
     const auto language = LanguageOf(parser);
     if (names.size() != 1 || !language) {
-        Complain(QStringLiteral("talmir-cli run: one SCRIPT (or -) is expected, and --lang EN or RU"));
+        Complain(
+            QStringLiteral("talmir-cli run: one SCRIPT (or -) is expected, and --lang EN or RU"));
         return WrongUsage;
     }
     const QString& name = names.constFirst();

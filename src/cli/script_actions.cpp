@@ -66,7 +66,8 @@ QString Choose(ScriptStage& stage, const QString& arguments) {
         const int index = words.rest.toInt(&isNumber);
         if (!isNumber || index < 0 || index >= list.Items().size())
             return QStringLiteral("'%1' has no entry '%2'; it has 0 to %3")
-                .arg(list.Name(), words.rest).arg(list.Items().size() - 1);
+                .arg(list.Name(), words.rest)
+                .arg(list.Items().size() - 1);
         list.Select(static_cast<std::int16_t>(index));
         return QString();
     });
@@ -79,9 +80,13 @@ QString SetBox(ScriptStage& stage, const QString& name, bool ticked) {
     });
 }
 
-QString Tick(ScriptStage& stage, const QString& arguments) { return SetBox(stage, arguments, true); }
+QString Tick(ScriptStage& stage, const QString& arguments) {
+    return SetBox(stage, arguments, true);
+}
 
-QString Untick(ScriptStage& stage, const QString& arguments) { return SetBox(stage, arguments, false); }
+QString Untick(ScriptStage& stage, const QString& arguments) {
+    return SetBox(stage, arguments, false);
+}
 
 QString Mastery(ScriptStage& stage, const QString& arguments) {
     const Words words = SplitFirst(arguments);
@@ -103,13 +108,15 @@ QString Press(ScriptStage& stage, const QString& arguments) {
 }
 
 /// The entries that a script may pick. The others open windows or end the program.
-constexpr const char* ScriptEntries[] = {"mnuNew",    "mnuOpen",   "mnuSave",  "mnuEnglish",
-                                         "mnuRussian", "mnuFrench", "mnuGerman", "mnuAlternativeMethod"};
+constexpr const char* ScriptEntries[] = {
+    "mnuNew",     "mnuOpen",   "mnuSave",   "mnuEnglish",
+    "mnuRussian", "mnuFrench", "mnuGerman", "mnuAlternativeMethod"};
 
 QString Menu(ScriptStage& stage, const QString& arguments) {
     const Words words = SplitFirst(arguments);
-    const bool known = std::any_of(std::begin(ScriptEntries), std::end(ScriptEntries),
-                                   [&](const char* entry) { return words.first == QLatin1String(entry); });
+    const bool known =
+        std::any_of(std::begin(ScriptEntries), std::end(ScriptEntries),
+                    [&](const char* entry) { return words.first == QLatin1String(entry); });
     if (!known)
         return NoSuch("menu entry for scripts", words.first);
     return Operate<MenuEntry>(stage, "menu entry", words.first, [&](MenuEntry& entry) {
@@ -143,8 +150,8 @@ struct Action {
 };
 
 constexpr Action Actions[] = {
-    {"set", Set},       {"keys", Keys},       {"choose", Choose}, {"tick", Tick}, {"untick", Untick},
-    {"mastery", Mastery}, {"press", Press},   {"menu", Menu},     {"show", Show}, {"state", State},
+    {"set", Set},         {"keys", Keys},   {"choose", Choose}, {"tick", Tick}, {"untick", Untick},
+    {"mastery", Mastery}, {"press", Press}, {"menu", Menu},     {"show", Show}, {"state", State},
 };
 
 } // namespace

@@ -11,9 +11,9 @@ struct ScriptStage {
     CliPlatform& platform;
 };
 
-/// Plays one line of a script: an action name, one blank, and what the action takes. Gives the reason
-/// when the user could not do that at this moment, or when it failed; the empty text when it is done.
-/// `show` and `state` print.
+/// Plays one line of a script: an action name, one blank, and what the action takes. Gives the
+/// reason when the user could not do that at this moment, or when it failed; the empty text when it
+/// is done. `show` and `state` print.
 QString PlayLine(ScriptStage& stage, const QString& line);
 
 } // namespace Hesperin

@@ -33,7 +33,8 @@ QJsonObject Lists(const MainForm& form) {
     QJsonObject lists;
     for (const Control* control : form.Controls())
         if (const auto* list = dynamic_cast<const ComboBox*>(control))
-            lists.insert(list->Name(), QJsonObject{{"index", list->Index()}, {"text", list->Text()}});
+            lists.insert(list->Name(),
+                         QJsonObject{{"index", list->Index()}, {"text", list->Text()}});
     return lists;
 }
 
@@ -57,7 +58,8 @@ QJsonObject Masteries(const Boxes& boxes, const Selectors& selectors) {
     QJsonObject masteries;
     for (const CheckBox& box : boxes)
         if (box.Ticked())
-            masteries.insert(QString::number(box.ArrayIndex()), selectors(box.ArrayIndex()).Value());
+            masteries.insert(QString::number(box.ArrayIndex()),
+                             selectors(box.ArrayIndex()).Value());
     return masteries;
 }
 
@@ -73,12 +75,15 @@ QJsonObject EnabledFlags(const MainForm& form) {
 
 } // namespace
 
-QByteArray JsonLine(const QJsonObject& object) { return QJsonDocument(object).toJson(QJsonDocument::Compact); }
+QByteArray JsonLine(const QJsonObject& object) {
+    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+}
 
 QJsonArray MessagesJson(const std::vector<ShownMessage>& messages) {
     QJsonArray list;
     for (const ShownMessage& message : messages)
-        list.append(QJsonObject{{"icon", IconName(message.icon)}, {"title", message.title}, {"text", message.text}});
+        list.append(QJsonObject{
+            {"icon", IconName(message.icon)}, {"title", message.title}, {"text", message.text}});
     return list;
 }
 

@@ -21,7 +21,8 @@ QString Reason(const SharedState& state, const ReadProblem& problem) {
 }
 
 QString Reason(const SharedState& state, const XmlProblem& problem) {
-    const QString place = Fill(state.MsgAtLine, {QString::number(problem.line), QString::number(problem.column)});
+    const QString place =
+        Fill(state.MsgAtLine, {QString::number(problem.line), QString::number(problem.column)});
     switch (problem.kind) {
     case XmlProblem::Kind::EndsEarly:
         return state.MsgEndsEarly + place;
@@ -52,7 +53,8 @@ std::variant<QString, OpenProblem> LoadCreatureDocument(const QString& path) {
 }
 
 QString OpenProblemText(const SharedState& state, const QString& path, const OpenProblem& problem) {
-    const QString reason = std::visit([&state](const auto& cause) { return Reason(state, cause); }, problem);
+    const QString reason =
+        std::visit([&state](const auto& cause) { return Reason(state, cause); }, problem);
     return Fill(state.MsgFileRefused, {path, reason});
 }
 

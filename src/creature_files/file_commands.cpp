@@ -1,12 +1,12 @@
 #include "creature_files/file_commands.h"
 
+#include "catalogues/resets.h"
 #include "creature_files/document.h"
 #include "creature_files/reader.h"
 #include "creature_files/writer.h"
 #include "engine/calculate.h"
 #include "engine/clear_creature.h"
 #include "engine/numbers.h"
-#include "catalogues/resets.h"
 #include "form/version_record.h"
 #include "localisation/string_tables.h"
 #include "platform/save_file.h"
@@ -31,10 +31,13 @@ void ShowFilePage(MainForm& form) {
 /// The same words in every language, until Calculate writes its summary.
 void ShowFileFigures(Program& program) {
     const SharedState& state = program.state;
-    program.form.frmMain.SetCaption(
-        VersionRecord::TitleAndVersion() + QLatin1String(" [Creature: ") + state.CreatureName +
-        QStringLiteral(", Power=%1, Experience=%2, Growth=%3, Cost=%4]")
-            .arg(state.FilePower).arg(state.FileExperience).arg(state.FileGrowth).arg(state.FileGold));
+    program.form.frmMain.SetCaption(VersionRecord::TitleAndVersion() +
+                                    QLatin1String(" [Creature: ") + state.CreatureName +
+                                    QStringLiteral(", Power=%1, Experience=%2, Growth=%3, Cost=%4]")
+                                        .arg(state.FilePower)
+                                        .arg(state.FileExperience)
+                                        .arg(state.FileGrowth)
+                                        .arg(state.FileGold));
 }
 
 /// The number before the extension in "Creature_183.xdb"; numbers up to 179 are the game's own.

@@ -108,7 +108,8 @@ private:
             return std::nullopt;
         }
         if (number.limited)
-            limited.append(QStringLiteral("%1 %2 (%3)").arg(ElementName(openingTag), number.text)
+            limited.append(QStringLiteral("%1 %2 (%3)")
+                               .arg(ElementName(openingTag), number.text)
                                .arg(number.value));
         return number.value;
     }
@@ -176,7 +177,8 @@ private:
     void ReadSpecabilities() {
         constexpr qsizetype windowLength = 128;
         for (int j = 1; j <= SpecabilityCount; ++j) {
-            if (FindSpecabilityToken(state, text, SpecabilityTokens()[static_cast<std::size_t>(j)]) == 0)
+            if (FindSpecabilityToken(state, text,
+                                     SpecabilityTokens()[static_cast<std::size_t>(j)]) == 0)
                 continue;
             form.Specabilities(j).SetTicked(true);
             form.RTBSPEC.SetText(text.Text().mid(state.SpecabilityTokenPosition, windowLength));
@@ -184,9 +186,10 @@ private:
         }
     }
 
-    /// Index of the first entry of `list` that follows the prefix in the text; selects it, and the same
-    /// entry of `twin` if there is one.
-    void MatchList(QStringView openingTag, QStringView prefix, ComboBox& list, ComboBox* twin = nullptr) {
+    /// Index of the first entry of `list` that follows the prefix in the text; selects it, and the
+    /// same entry of `twin` if there is one.
+    void MatchList(QStringView openingTag, QStringView prefix, ComboBox& list,
+                   ComboBox* twin = nullptr) {
         NoteIfMissing(openingTag);
         for (std::int16_t index = 0; index < list.Items().size(); ++index) {
             if (FindToken(state, text, prefix.toString() + list.Items()[index]) == 0)
@@ -212,7 +215,8 @@ private:
     }
 
     /// Mana makes a caster, shots make a shooter.
-    void SwitchSupply(std::optional<std::int16_t> number, Frame& frame, TextField& field, int ability) {
+    void SwitchSupply(std::optional<std::int16_t> number, Frame& frame, TextField& field,
+                      int ability) {
         if (!number)
             return;
         const bool supplied = *number > 0;
@@ -226,7 +230,8 @@ private:
     void ReadManaAndShots() {
         SwitchSupply(Number(u"<SpellPoints>", u"</SpellPoints>"), form.FrameMana, form.txtMana,
                      Ability::Caster);
-        SwitchSupply(Number(u"<Shots>", u"</Shots>"), form.FrameShots, form.txtShots, Ability::Shooter);
+        SwitchSupply(Number(u"<Shots>", u"</Shots>"), form.FrameShots, form.txtShots,
+                     Ability::Shooter);
     }
 
     /// Nothing is unticked here: what an earlier element or a link ticked stays.
@@ -257,9 +262,10 @@ private:
 
     void ReadName() {
         const bool marked = SharedMarkText(text) != QLatin1String("0");
-        const auto name = HrefLeaf(text, u"MonsterShared href=",
-                                   marked ? u".(AdvMapMonsterShared).xdb#xpointer(/AdvMapMonsterShared)"
-                                          : u".xdb#xpointer(/AdvMapMonsterShared)");
+        const auto name =
+            HrefLeaf(text, u"MonsterShared href=",
+                     marked ? u".(AdvMapMonsterShared).xdb#xpointer(/AdvMapMonsterShared)"
+                            : u".xdb#xpointer(/AdvMapMonsterShared)");
         if (!name) {
             missing.append(QStringLiteral("MonsterShared"));
             return;
@@ -288,6 +294,8 @@ private:
 
 } // namespace
 
-void ScanCreature(Program& program) { Scan(program).Run(); }
+void ScanCreature(Program& program) {
+    Scan(program).Run();
+}
 
 } // namespace Hesperin

@@ -30,7 +30,8 @@ std::int16_t Find(const TextBuffer& buffer, QStringView token, std::int16_t& pos
 
 } // namespace
 
-TagNumberResult TagNumber(const TextBuffer& buffer, QStringView openingTag, QStringView closingTag) {
+TagNumberResult TagNumber(const TextBuffer& buffer, QStringView openingTag,
+                          QStringView closingTag) {
     const qsizetype opening = buffer.ExactSearch(openingTag);
     const qsizetype closing = opening > 0 ? buffer.ExactSearch(closingTag) : 0;
     const qsizetype start = opening + openingTag.size();
@@ -67,7 +68,8 @@ QString SharedMarkText(const TextBuffer& buffer) {
     return QString::number(buffer.ExactSearch(u".(AdvMapMonsterShared)"));
 }
 
-std::optional<QString> HrefLeaf(const TextBuffer& buffer, QStringView startMark, QStringView endMark) {
+std::optional<QString> HrefLeaf(const TextBuffer& buffer, QStringView startMark,
+                                QStringView endMark) {
     const qsizetype end = buffer.ExactSearch(endMark);
     const qsizetype start = buffer.ExactSearch(startMark);
     if (end == 0 || start == 0 || end < start)

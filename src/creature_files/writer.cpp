@@ -12,10 +12,11 @@ namespace Hesperin {
 
 namespace {
 
-/// These travel by other elements: CASTER by SpellPoints, FLYER by Flying, LARGE_CREATURE by CombatSize,
-/// SHOOTER by Shots; FLESH_AND_BLOOD is inferred on reading.
-constexpr std::array<int, 5> UnwrittenAbilities{Ability::Caster, Ability::FleshAndBlood, Ability::Flyer,
-                                                Ability::LargeCreature, Ability::Shooter};
+/// These travel by other elements: CASTER by SpellPoints, FLYER by Flying, LARGE_CREATURE by
+/// CombatSize, SHOOTER by Shots; FLESH_AND_BLOOD is inferred on reading.
+constexpr std::array<int, 5> UnwrittenAbilities{Ability::Caster, Ability::FleshAndBlood,
+                                                Ability::Flyer, Ability::LargeCreature,
+                                                Ability::Shooter};
 
 /// Collects lines, each with its number of tabs.
 class Lines {
@@ -32,8 +33,9 @@ public:
 
     /// <name>value</name>
     void Element(int tabs, const char* name, const QString& value, const char* prefix = "") {
-        Add(tabs, QLatin1String("<"), QLatin1String(name), QLatin1String(">"), QLatin1String(prefix), value,
-            QLatin1String("</"), QLatin1String(name), QLatin1String(">"));
+        Add(tabs, QLatin1String("<"), QLatin1String(name), QLatin1String(">"),
+            QLatin1String(prefix), value, QLatin1String("</"), QLatin1String(name),
+            QLatin1String(">"));
     }
 
     QString Take() { return std::move(text); }
@@ -42,12 +44,16 @@ private:
     QString text;
 };
 
-QString ZeroIfEmpty(const QString& text) { return text.isEmpty() ? QStringLiteral("0") : text; }
+QString ZeroIfEmpty(const QString& text) {
+    return text.isEmpty() ? QStringLiteral("0") : text;
+}
 
-void AddKnownSpell(Lines& lines, const char* prefix, const CheckBox& box, const MultiOption& selector) {
+void AddKnownSpell(Lines& lines, const char* prefix, const CheckBox& box,
+                   const MultiOption& selector) {
     lines.Add(2, QLatin1String("<Item>"));
     lines.Element(3, "Spell", box.Caption(), prefix);
-    lines.Element(3, "Mastery", QString::fromUtf16(MasteryToken.at(static_cast<std::size_t>(selector.Value()))),
+    lines.Element(3, "Mastery",
+                  QString::fromUtf16(MasteryToken.at(static_cast<std::size_t>(selector.Value()))),
                   "MASTERY_");
     lines.Add(2, QLatin1String("</Item>"));
 }
@@ -78,7 +84,8 @@ void AddAbilities(Lines& lines, const MainForm& form) {
         const bool unwritten = std::find(UnwrittenAbilities.begin(), UnwrittenAbilities.end(), i) !=
                                UnwrittenAbilities.end();
         if (form.Abilities(i).Ticked() && !unwritten)
-            lines.Element(2, "Item", QString::fromUtf16(AbilityCatalogue[static_cast<std::size_t>(i)].token),
+            lines.Element(2, "Item",
+                          QString::fromUtf16(AbilityCatalogue[static_cast<std::size_t>(i)].token),
                           "ABILITY_");
     }
     lines.Add(1, QLatin1String("</Abilities>"));
@@ -133,7 +140,8 @@ QString BuildCreatureText(const Program& program, const QString& creatureName) {
     lines.Element(2, "First", form.ComboFME.Text().toUpper(), "ELEMENT_");
     lines.Element(2, "Second", form.ComboSME.Text().toUpper(), "ELEMENT_");
     lines.Add(1, QLatin1String("</MagicElement>"));
-    lines.Element(1, "WeeklyGrowth", WholeText(AverageOf(state.GrowthHesperin, state.GrowthRolvane)));
+    lines.Element(1, "WeeklyGrowth",
+                  WholeText(AverageOf(state.GrowthHesperin, state.GrowthRolvane)));
     AddCost(lines, form);
     lines.Element(1, "SubjectOfRandomGeneration", QStringLiteral("true"));
     lines.Add(1, QLatin1String("<MonsterShared href=\"/MapObjects/Neutral/"), creatureName,
@@ -151,6 +159,8 @@ QString BuildCreatureText(const Program& program, const QString& creatureName) {
     return lines.Take();
 }
 
-QByteArray CreatureFileBytes(const QString& text) { return text.toUtf8() + "\r\n"; }
+QByteArray CreatureFileBytes(const QString& text) {
+    return text.toUtf8() + "\r\n";
+}
 
 } // namespace Hesperin

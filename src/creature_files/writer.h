@@ -5,10 +5,12 @@
 namespace Hesperin {
 
 /// The text of the creature file for what the window shows, with a line feed between lines and none
-/// behind the last. `creatureName` names the shared map object and the visual that the file links to.
+/// behind the last. `creatureName` names the shared map object and the visual that the file links
+/// to.
 QString BuildCreatureText(const Program& program, const QString& creatureName);
 
-/// The bytes of such a file on disk: the text as UTF-8 and one carriage return and line feed behind it.
+/// The bytes of such a file on disk: the text as UTF-8 and one carriage return and line feed behind
+/// it.
 QByteArray CreatureFileBytes(const QString& text);
 
 } // namespace Hesperin

@@ -20,9 +20,9 @@ void FormAbilityProduct(Program& program) {
 }
 
 Creature ValidatedCreature(const SharedState& state, bool shooter) {
-    return {state.Attack, state.Defence,    state.Health, state.MinDam,         state.MaxDam,
-            state.Speed,  state.Initiative, state.Tier,   state.AbilityProduct, state.UpgradeFactor,
-            shooter};
+    return {state.Attack,         state.Defence,       state.Health,     state.MinDam,
+            state.MaxDam,         state.Speed,         state.Initiative, state.Tier,
+            state.AbilityProduct, state.UpgradeFactor, shooter};
 }
 
 void StoreExponents(SharedState& state, const Exponents& exponents) {
@@ -32,7 +32,9 @@ void StoreExponents(SharedState& state, const Exponents& exponents) {
     state.ExponentInitiative = exponents.Initiative;
 }
 
-void Show(Label& label, double whole) { label.SetCaption(WholeDigits(whole).View()); }
+void Show(Label& label, double whole) {
+    label.SetCaption(WholeDigits(whole).View());
+}
 
 void StorePowers(Program& program, const Powers& powers) {
     SharedState& state = program.state;
@@ -98,6 +100,8 @@ void Calculate(Program& program) {
     form.frmMain.SetCaption(SummaryTitle(state));
 }
 
-void cmdCalc_Click(Program& program) { Calculate(program); }
+void cmdCalc_Click(Program& program) {
+    Calculate(program);
+}
 
 } // namespace Hesperin

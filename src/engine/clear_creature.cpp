@@ -13,17 +13,17 @@ struct InitialEntry {
 
 // In the order in which the entries are selected: each selection may run the list's own rule.
 constexpr InitialEntry InitialEntries[] = {
-    {&MainForm::ComboUpgrade, 0},    {&MainForm::ComboTier, 0},       {&MainForm::ComboFME, 0},
-    {&MainForm::ComboSME, 0},        {&MainForm::ComboSpeed, 4},      {&MainForm::ComboInitiative, 9},
-    {&MainForm::ComboFaction, 8},    {&MainForm::ComboAlias, 8},      {&MainForm::ComboRange, 0},
-    {&MainForm::ComboDiapazon, 0},   {&MainForm::ComboTTC, 0},
+    {&MainForm::ComboUpgrade, 0},  {&MainForm::ComboTier, 0},  {&MainForm::ComboFME, 0},
+    {&MainForm::ComboSME, 0},      {&MainForm::ComboSpeed, 4}, {&MainForm::ComboInitiative, 9},
+    {&MainForm::ComboFaction, 8},  {&MainForm::ComboAlias, 8}, {&MainForm::ComboRange, 0},
+    {&MainForm::ComboDiapazon, 0}, {&MainForm::ComboTTC, 0},
 };
 
 constexpr TextField MainForm::*NumberFields[] = {
-    &MainForm::txtShots,   &MainForm::txtMana,     &MainForm::txtAttack,   &MainForm::txtDefence,
-    &MainForm::txtHealth,  &MainForm::txtMinDam,   &MainForm::txtMaxDam,   &MainForm::txtPower,
-    &MainForm::txtExp,     &MainForm::txtGoldf,    &MainForm::txtGrowthf,  &MainForm::txtWoodf,
-    &MainForm::txtOref,    &MainForm::txtMercuryf, &MainForm::txtCrystalf, &MainForm::txtSulfurf,
+    &MainForm::txtShots,  &MainForm::txtMana,     &MainForm::txtAttack,   &MainForm::txtDefence,
+    &MainForm::txtHealth, &MainForm::txtMinDam,   &MainForm::txtMaxDam,   &MainForm::txtPower,
+    &MainForm::txtExp,    &MainForm::txtGoldf,    &MainForm::txtGrowthf,  &MainForm::txtWoodf,
+    &MainForm::txtOref,   &MainForm::txtMercuryf, &MainForm::txtCrystalf, &MainForm::txtSulfurf,
     &MainForm::txtGemf,
 };
 

@@ -9,7 +9,9 @@ namespace Hesperin {
 
 namespace {
 
-double Widen(FixedPoint value) { return static_cast<double>(value) / 10000.0; }
+double Widen(FixedPoint value) {
+    return static_cast<double>(value) / 10000.0;
+}
 
 struct Growth {
     std::int16_t Rolvane;
@@ -20,8 +22,8 @@ struct Growth {
 constexpr std::int16_t FirstTierOfFixedGrowth = 5;
 constexpr std::array<std::int16_t, 4> FixedGrowth{3, 2, 1, 1};
 
-/// Plain and upgraded growth numerator added up; the second method takes their mean. The 1.6 here is
-/// a 64-bit constant and not the creature's own upgrade factor.
+/// Plain and upgraded growth numerator added up; the second method takes their mean. The 1.6 here
+/// is a 64-bit constant and not the creature's own upgrade factor.
 double BothNumerators(std::int16_t tier) {
     const double base = GrowthBase[static_cast<std::size_t>(tier)];
     return base / 1.6 + base;
@@ -29,7 +31,8 @@ double BothNumerators(std::int16_t tier) {
 
 Growth ComputeGrowth(std::int16_t tier, std::int16_t numerator, double powerRolvane) {
     if (tier >= FirstTierOfFixedGrowth) {
-        const std::int16_t fixed = FixedGrowth[static_cast<std::size_t>(tier - FirstTierOfFixedGrowth)];
+        const std::int16_t fixed =
+            FixedGrowth[static_cast<std::size_t>(tier - FirstTierOfFixedGrowth)];
         return {fixed, fixed};
     }
     return {RoundTo16Bits(WholeValue(numerator / powerRolvane)),
@@ -43,8 +46,8 @@ double ComputeCostRolvane(std::int16_t tier, const Powers& powers) {
                       2);
 }
 
-/// A divisor of 0, which a strong creature at a low tier has, counts as 1: the cost is then the gold
-/// base, as it is on both sides of that band.
+/// A divisor of 0, which a strong creature at a low tier has, counts as 1: the cost is then the
+/// gold base, as it is on both sides of that band.
 double ComputeCostHesperin(std::int16_t goldBase, double divisor) {
     const double s = divisor == 0 ? 1 : divisor;
     return WholeValue(0.5 * WholeValue(goldBase / (s / 2)));
@@ -60,15 +63,14 @@ Powers ComputePowers(const Creature& creature) {
     Powers powers{};
     powers.OffenceScore = std::pow(1.035, creature.Attack) * (damageSum / 2.0);
     powers.DefenceScore = std::pow(1.028, creature.Defence) * creature.Health;
-    powers.PowerHesperin =
-        WholeValue(std::sqrt(damageSum * static_cast<double>(DamageScale) *
-                             (creature.Attack * 0.05 + 1) * creature.Health *
-                             (creature.Defence * 0.05 + 1) * creature.Initiative * product));
-    powers.PowerRolvane = WholeValue(std::pow(powers.OffenceScore, Widen(exponents.Offence)) *
-                                     std::pow(powers.DefenceScore / 4, Widen(exponents.Defence)) *
-                                     std::pow(creature.Speed / 6.0, Widen(exponents.Speed)) *
-                                     std::pow(creature.Initiative / 10.0, Widen(exponents.Initiative)) *
-                                     product * 50);
+    powers.PowerHesperin = WholeValue(
+        std::sqrt(damageSum * static_cast<double>(DamageScale) * (creature.Attack * 0.05 + 1) *
+                  creature.Health * (creature.Defence * 0.05 + 1) * creature.Initiative * product));
+    powers.PowerRolvane = WholeValue(
+        std::pow(powers.OffenceScore, Widen(exponents.Offence)) *
+        std::pow(powers.DefenceScore / 4, Widen(exponents.Defence)) *
+        std::pow(creature.Speed / 6.0, Widen(exponents.Speed)) *
+        std::pow(creature.Initiative / 10.0, Widen(exponents.Initiative)) * product * 50);
     return powers;
 }
 
@@ -76,7 +78,9 @@ double ExpHesperinOf(double powerHesperin, std::int16_t tier) {
     return WholeValue(powerHesperin / ExpDivisor[static_cast<std::size_t>(tier)]);
 }
 
-double AverageOf(double first, double second) { return WholeValue((first + second) / 2.0); }
+double AverageOf(double first, double second) {
+    return WholeValue((first + second) / 2.0);
+}
 
 Figures ComputeFigures(const Creature& creature, const Powers& powers) {
     const std::int16_t tier = creature.Tier;

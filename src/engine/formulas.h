@@ -63,8 +63,8 @@ struct Figures {
     double PowerAverage;
 };
 
-/// `powers.PowerRolvane` must not be 0. The second method's Growth and Cost lean on the first method's
-/// Power, and the first method's Cost on both.
+/// `powers.PowerRolvane` must not be 0. The second method's Growth and Cost lean on the first
+/// method's Power, and the first method's Cost on both.
 Figures ComputeFigures(const Creature& creature, const Powers& powers);
 
 /// Experience by the second method, which is stored nowhere.

@@ -83,7 +83,9 @@ double WholeValue(double x) {
     return std::floor(x * 100) > lastHundredthOfOne ? std::floor(x) : 1;
 }
 
-QString WholeText(double whole) { return WholeDigits(whole).View().toString(); }
+QString WholeText(double whole) {
+    return WholeDigits(whole).View().toString();
+}
 
 WholeDigits::WholeDigits(double whole)
     : WholeDigits(static_cast<std::int64_t>(std::clamp(whole, -ExactIntegers, ExactIntegers))) {}
@@ -100,9 +102,11 @@ WholeDigits::WholeDigits(std::int64_t whole) {
 
 QString FloatText(float value) {
     constexpr int significantDigits = 7;
-    std::array<char, 32> buffer; // a sign, seven digits, a full stop and an exponent fit in many times
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), static_cast<double>(value),
-                                   std::chars_format::general, significantDigits);
+    std::array<char, 32>
+        buffer; // a sign, seven digits, a full stop and an exponent fit in many times
+    const auto end =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), static_cast<double>(value),
+                      std::chars_format::general, significantDigits);
     return QString::fromLatin1(buffer.data(), end.ptr - buffer.data());
 }
 

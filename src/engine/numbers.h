@@ -1,5 +1,5 @@
-// Numbers out of texts, texts out of numbers, and the two roundings of the balance model. None of them
-// regards the locale.
+// Numbers out of texts, texts out of numbers, and the two roundings of the balance model. None of
+// them regards the locale.
 #pragma once
 
 #include <QString>
@@ -23,16 +23,16 @@ std::int16_t RoundTo16Bits(double value);
 /// Whether RoundTo16Bits can hold the value without limiting it.
 bool FitsIn16Bits(double value);
 
-/// The rounding of nearly every figure: 1 below 0.51, 0 from 0.51 up to but not including 1, and from
-/// 1 on the value with its fraction cut off.
+/// The rounding of nearly every figure: 1 below 0.51, 0 from 0.51 up to but not including 1, and
+/// from 1 on the value with its fraction cut off.
 double WholeValue(double x);
 
 /// The decimal text of a whole number.
 QString WholeText(double whole);
 
 /// The decimal text of a whole number in a buffer of its own, to be compared or appended without an
-/// allocation. Calculate makes some twenty of them a run. A double is limited to 2^53 either way; no
-/// creature's Power reaches a thousandth of it.
+/// allocation. Calculate makes some twenty of them a run. A double is limited to 2^53 either way;
+/// no creature's Power reaches a thousandth of it.
 class WholeDigits {
 public:
     explicit WholeDigits(std::int64_t whole);
@@ -50,8 +50,8 @@ private:
 /// A 32-bit float with at most seven significant digits and no trailing zeros: "1.05".
 QString FloatText(float value);
 
-/// The first letter of each word in upper case, all other letters in lower case. Words are parted by
-/// white space; an underscore doesn't begin one.
+/// The first letter of each word in upper case, all other letters in lower case. Words are parted
+/// by white space; an underscore doesn't begin one.
 QString ProperCase(const QString& text);
 
 } // namespace Hesperin

@@ -19,7 +19,9 @@ struct Program {
     QString failure;
 
     /// A message box with the warning title.
-    void Warn(BoxIcon icon, const QString& text) { platform.ShowMessage(icon, state.WarningTitle, text); }
+    void Warn(BoxIcon icon, const QString& text) {
+        platform.ShowMessage(icon, state.WarningTitle, text);
+    }
 
     /// Locks the main window and opens the status window with these words.
     void ShowStatus(const QString& message) {

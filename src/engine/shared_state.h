@@ -1,5 +1,5 @@
-// The one creature that the program works on: what the engine reads, computes and remembers about it,
-// as a flat set of fields. The widths are part of the results.
+// The one creature that the program works on: what the engine reads, computes and remembers about
+// it, as a flat set of fields. The widths are part of the results.
 #pragma once
 
 #include "engine/ability_index.h"
@@ -34,8 +34,8 @@ struct SharedState {
     // Abilities.
     std::array<float, Ability::Count + 1> AbilityCurrentValue{}; ///< from 1; 1.0 while unticked
     float AbilityProduct = 1.0F;                                 ///< as of the last calculation
-    std::int16_t SpellPoints1Count = 0;                          ///< charge counter of the click rules
-    std::int16_t SpecabilityFlag = FlagFalse;                    ///< sense of the last rule that wrote it
+    std::int16_t SpellPoints1Count = 0;       ///< charge counter of the click rules
+    std::int16_t SpecabilityFlag = FlagFalse; ///< sense of the last rule that wrote it
 
     /// 1.0 for a plain creature, 1.6 for an upgraded one.
     float UpgradeFactor = 1.0F;

@@ -19,14 +19,16 @@ std::int16_t AdviseTier(double power) {
     return static_cast<std::int16_t>(1 + std::distance(BandEnds.begin(), band));
 }
 
-const QString& TierAdvicePrefix(const SharedState& state, std::int16_t current, std::int16_t advised) {
+const QString& TierAdvicePrefix(const SharedState& state, std::int16_t current,
+                                std::int16_t advised) {
     return current < advised ? state.MsgIncreaseTier : state.MsgLowerTier;
 }
 
 void AdviseOnTier(Program& program) {
     SharedState& state = program.state;
     const auto tier = static_cast<std::size_t>(state.Tier);
-    state.TierReferencePower = state.UpgradeFactor == 1.0F ? TierPower[tier] : TierPowerUpgraded[tier];
+    state.TierReferencePower =
+        state.UpgradeFactor == 1.0F ? TierPower[tier] : TierPowerUpgraded[tier];
     state.PowerRatio = static_cast<float>(state.PowerAverage / state.TierReferencePower);
     state.AdvisedTier = AdviseTier(state.PowerAverage);
     if (state.AdvisedTier != state.Tier)

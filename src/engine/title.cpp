@@ -12,7 +12,8 @@ namespace {
 double AverageExperience(const SharedState& state) {
     if (state.Tier == 0)
         return 0;
-    return RoundTo16Bits(AverageOf(ExpHesperinOf(state.PowerHesperin, state.Tier), state.ExpRolvane));
+    return RoundTo16Bits(
+        AverageOf(ExpHesperinOf(state.PowerHesperin, state.Tier), state.ExpRolvane));
 }
 
 /// One figure of the title: what the open file has, and in braces what was computed.
@@ -31,17 +32,21 @@ QString SummaryTitle(const SharedState& state) {
     title += VersionRecord::TitleAndVersion();
     title += state.SumCreature;
     title += state.CreatureName;
-    AppendPair(title, state.SumPower, state.FilePower, AverageOf(state.PowerRolvane, state.PowerHesperin));
+    AppendPair(title, state.SumPower, state.FilePower,
+               AverageOf(state.PowerRolvane, state.PowerHesperin));
     AppendPair(title, state.SumExperience, state.FileExperience, AverageExperience(state));
-    AppendPair(title, state.SumGrowth, state.FileGrowth, AverageOf(state.GrowthHesperin, state.GrowthRolvane));
-    AppendPair(title, state.SumGold, state.FileGold, AverageOf(state.CostHesperin, state.CostRolvane));
+    AppendPair(title, state.SumGrowth, state.FileGrowth,
+               AverageOf(state.GrowthHesperin, state.GrowthRolvane));
+    AppendPair(title, state.SumGold, state.FileGold,
+               AverageOf(state.CostHesperin, state.CostRolvane));
     title += u"}]";
     return title;
 }
 
 void BuildTitle(Program& program) {
-    program.form.frmMain.SetCaption(program.state.CreatureFileLoaded ? SummaryTitle(program.state)
-                                                                    : VersionRecord::TitleAndVersion());
+    program.form.frmMain.SetCaption(program.state.CreatureFileLoaded
+                                        ? SummaryTitle(program.state)
+                                        : VersionRecord::TitleAndVersion());
 }
 
 } // namespace Hesperin

@@ -90,7 +90,8 @@ struct ListRule {
 
 constexpr ListRule ListRules[] = {
     {&MainForm::ComboSpeed, &SharedState::Speed, 9, "Value for 'Speed' out of the range!"},
-    {&MainForm::ComboInitiative, &SharedState::Initiative, 20, "Value for 'Initiative' out of the range!"},
+    {&MainForm::ComboInitiative, &SharedState::Initiative, 20,
+     "Value for 'Initiative' out of the range!"},
     {&MainForm::ComboTier, &SharedState::Tier, 8, "Value for 'Tier' out of the range!"},
 };
 

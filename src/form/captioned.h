@@ -7,7 +7,8 @@ namespace Hesperin {
 
 class Captioned : public Control {
 public:
-    Captioned(ControlRegistry& registry, const char* name, const QString& initialCaption = {}, int index = -1)
+    Captioned(ControlRegistry& registry, const char* name, const QString& initialCaption = {},
+              int index = -1)
         : Control(registry, name, index), caption(initialCaption) {}
 
     const QString& Caption() const { return caption; }

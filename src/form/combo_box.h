@@ -6,8 +6,8 @@
 
 namespace Hesperin {
 
-/// A list with a selected entry and a text of its own. Selecting an entry sets the text; setting the
-/// text selects nothing.
+/// A list with a selected entry and a text of its own. Selecting an entry sets the text; setting
+/// the text selects nothing.
 class ComboBox : public Control {
 public:
     using Control::Control;
@@ -15,15 +15,15 @@ public:
     const QStringList& Items() const { return items; }
     void AddItem(const QString& item);
 
-    /// Empties the list and fills it anew: nothing is selected and the text is empty afterwards. The
-    /// click operation doesn't run.
+    /// Empties the list and fills it anew: nothing is selected and the text is empty afterwards.
+    /// The click operation doesn't run.
     void SetItems(const QStringList& values);
 
     /// Index of the selected entry, -1 when there is none.
     std::int16_t Index() const { return index; }
 
-    /// Selects entry `value`, 0 to the number of entries - 1; any other value does nothing. The text
-    /// becomes that entry in any case; the click operation runs when the index really changed.
+    /// Selects entry `value`, 0 to the number of entries - 1; any other value does nothing. The
+    /// text becomes that entry in any case; the click operation runs when the index really changed.
     void Select(std::int16_t value);
 
     const QString& Text() const { return text; }

@@ -45,11 +45,17 @@ QString Control::Name() const {
     return arrayName + QLatin1Char('(') + QString::number(arrayIndex) + QLatin1Char(')');
 }
 
-void Control::SetEnabled(bool value) { Store(enabled, value, Property::Enabled); }
+void Control::SetEnabled(bool value) {
+    Store(enabled, value, Property::Enabled);
+}
 
-void Control::SetVisible(bool value) { Store(visible, value, Property::Visible); }
+void Control::SetVisible(bool value) {
+    Store(visible, value, Property::Visible);
+}
 
-void Control::SetToolTip(const QString& value) { Store(toolTip, value, Property::ToolTip); }
+void Control::SetToolTip(const QString& value) {
+    Store(toolTip, value, Property::ToolTip);
+}
 
 bool Control::Usable() const {
     for (const Control* control = this; control != nullptr; control = control->parent)

@@ -15,16 +15,17 @@ class Control;
 
 /// What of a control has just changed.
 enum class Property : std::uint8_t {
-    Caption,   ///< caption, or the title of the window
-    Text,      ///< text of a field, list or buffer
-    State,     ///< tick of a box, check mark of a menu entry, options of a mastery selector
-    Items,     ///< entries of a list
-    Enabled,   ///< the control's own flag
-    Visible,   ///< the control's own flag
+    Caption, ///< caption, or the title of the window
+    Text,    ///< text of a field, list or buffer
+    State,   ///< tick of a box, check mark of a menu entry, options of a mastery selector
+    Items,   ///< entries of a list
+    Enabled, ///< the control's own flag
+    Visible, ///< the control's own flag
     ToolTip,
 };
 
-/// Shows one control. Told after the control has stored a change and before its click operation runs.
+/// Shows one control. Told after the control has stored a change and before its click operation
+/// runs.
 class ControlView {
 public:
     virtual ~ControlView() = default;
@@ -55,7 +56,9 @@ public:
 
     /// The full name: "txtAttack", "Abilities(66)".
     QString Name() const;
-    bool HasName(QLatin1String base, int index) const { return arrayName == base && arrayIndex == index; }
+    bool HasName(QLatin1String base, int index) const {
+        return arrayName == base && arrayIndex == index;
+    }
     QLatin1String ArrayName() const { return arrayName; }
     int ArrayIndex() const { return arrayIndex; }
 
@@ -70,10 +73,12 @@ public:
     const Control* Parent() const { return parent; }
     void SetParent(const Control& value) { parent = &value; }
 
-    /// Whether the user can reach and operate it now: it and all that hold it are enabled and visible.
+    /// Whether the user can reach and operate it now: it and all that hold it are enabled and
+    /// visible.
     bool Usable() const;
 
-    /// Its text, caption or state on one line, line breaks and backslashes written as \n, \r and \\.
+    /// Its text, caption or state on one line, line breaks and backslashes written as \n, \r and
+    /// \\.
     QString Shown() const;
 
     /// At most one view at a time; null takes it away. The view must outlive its use.

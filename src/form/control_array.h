@@ -20,7 +20,9 @@ public:
 
     /// `index` must lie in First to Last.
     T& operator()(int index) { return elements[static_cast<std::size_t>(index - First)]; }
-    const T& operator()(int index) const { return elements[static_cast<std::size_t>(index - First)]; }
+    const T& operator()(int index) const {
+        return elements[static_cast<std::size_t>(index - First)];
+    }
 
     auto begin() { return elements.begin(); }
     auto end() { return elements.end(); }

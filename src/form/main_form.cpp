@@ -79,24 +79,34 @@ void HoldParameters(MainForm& form) {
 
 void HoldResults(MainForm& form) {
     Hold(form.Tablus.Tab(0), {&form.frmMM, &form.frmAM});
-    Hold(form.frmMM,
-         {&form.lblValues, &form.FramePower, &form.FrameExperience, &form.FrameGrowth, &form.FrameCost,
-          &form.lblValuesX, &form.FramePowerX, &form.FrameExperienceX, &form.FrameGrowthX, &form.FrameCostX,
-          &form.lblValuesA, &form.FramePowerA, &form.FrameExperienceA, &form.FrameGrowthA, &form.FrameCostA});
-    Hold(form.frmAM,
-         {&form.lblValuesS, &form.FramePowerS, &form.FrameExperienceS, &form.FrameGrowthS, &form.FrameCostS,
-          &form.lblValuesD, &form.FramePowerD, &form.FrameExperienceD, &form.FrameGrowthD, &form.FrameCostD});
+    Hold(form.frmMM, {&form.lblValues, &form.FramePower, &form.FrameExperience, &form.FrameGrowth,
+                      &form.FrameCost, &form.lblValuesX, &form.FramePowerX, &form.FrameExperienceX,
+                      &form.FrameGrowthX, &form.FrameCostX, &form.lblValuesA, &form.FramePowerA,
+                      &form.FrameExperienceA, &form.FrameGrowthA, &form.FrameCostA});
+    Hold(form.frmAM, {&form.lblValuesS, &form.FramePowerS, &form.FrameExperienceS,
+                      &form.FrameGrowthS, &form.FrameCostS, &form.lblValuesD, &form.FramePowerD,
+                      &form.FrameExperienceD, &form.FrameGrowthD, &form.FrameCostD});
     const std::initializer_list<std::pair<Frame*, Label*>> results{
-        {&form.FramePower, &form.lblPowerRolvane},   {&form.FrameExperience, &form.lblExpRolvane},
-        {&form.FrameGrowth, &form.lblGrowthRolvane}, {&form.FrameCost, &form.lblCostRolvane},
-        {&form.FramePowerX, &form.lblPowerHesperin}, {&form.FrameExperienceX, &form.lblExpHesperin},
-        {&form.FrameGrowthX, &form.lblGrowthHesperin}, {&form.FrameCostX, &form.lblCostHesperin},
-        {&form.FramePowerA, &form.lblPowerAverage},  {&form.FrameExperienceA, &form.lblExpAverage},
-        {&form.FrameGrowthA, &form.lblGrowthAverage}, {&form.FrameCostA, &form.lblCostAverage},
-        {&form.FramePowerS, &form.lblPowerS},        {&form.FrameExperienceS, &form.lblExpS},
-        {&form.FrameGrowthS, &form.lblGrowthS},      {&form.FrameCostS, &form.lblCostS},
-        {&form.FramePowerD, &form.lblPowerD},        {&form.FrameExperienceD, &form.lblExpD},
-        {&form.FrameGrowthD, &form.lblGrowthD},      {&form.FrameCostD, &form.lblCostD},
+        {&form.FramePower, &form.lblPowerRolvane},
+        {&form.FrameExperience, &form.lblExpRolvane},
+        {&form.FrameGrowth, &form.lblGrowthRolvane},
+        {&form.FrameCost, &form.lblCostRolvane},
+        {&form.FramePowerX, &form.lblPowerHesperin},
+        {&form.FrameExperienceX, &form.lblExpHesperin},
+        {&form.FrameGrowthX, &form.lblGrowthHesperin},
+        {&form.FrameCostX, &form.lblCostHesperin},
+        {&form.FramePowerA, &form.lblPowerAverage},
+        {&form.FrameExperienceA, &form.lblExpAverage},
+        {&form.FrameGrowthA, &form.lblGrowthAverage},
+        {&form.FrameCostA, &form.lblCostAverage},
+        {&form.FramePowerS, &form.lblPowerS},
+        {&form.FrameExperienceS, &form.lblExpS},
+        {&form.FrameGrowthS, &form.lblGrowthS},
+        {&form.FrameCostS, &form.lblCostS},
+        {&form.FramePowerD, &form.lblPowerD},
+        {&form.FrameExperienceD, &form.lblExpD},
+        {&form.FrameGrowthD, &form.lblGrowthD},
+        {&form.FrameCostD, &form.lblCostD},
     };
     for (const auto& [frame, label] : results)
         label->SetParent(*frame);
@@ -106,7 +116,8 @@ void HoldResults(MainForm& form) {
 
 MainForm::MainForm() {
     HoldMenus(*this);
-    Hold(frmMain, {&Tablus, &cmdCalc, &cmdRAP, &cmdRAA, &cmdRAS, &cmdResetAll, &RTBTEMP, &RTBSPEC, &ComDialog});
+    Hold(frmMain, {&Tablus, &cmdCalc, &cmdRAP, &cmdRAA, &cmdRAS, &cmdResetAll, &RTBTEMP, &RTBSPEC,
+                   &ComDialog});
     HoldParameters(*this);
     HoldResults(*this);
     HoldAll(Tablus.Tab(1), Abilities);
@@ -119,9 +130,9 @@ MainForm::MainForm() {
     HoldAll(frmMain, utbD);
 
     Tablus.Tab(4).SetCaption(QStringLiteral("XDB"));
-    Disable({&mnuSave, &mnuFrench, &mnuGerman, &mnuAlternativeMethod, &mnuHelp, &FrameIDC, &FrameShots,
-             &txtShots, &FrameMana, &txtMana, &FrameRange, &ComboRange, &frmMM, &frmAM, &cmdRAS,
-             &Specabilities(0)});
+    Disable({&mnuSave, &mnuFrench, &mnuGerman, &mnuAlternativeMethod, &mnuHelp, &FrameIDC,
+             &FrameShots, &txtShots, &FrameMana, &txtMana, &FrameRange, &ComboRange, &frmMM, &frmAM,
+             &cmdRAS, &Specabilities(0)});
     Hide({&frmAM, &FrameAlias, &FrameDiapazon, &RTBTEMP, &RTBSPEC});
     for (auto& text : utbN)
         text.SetVisible(false);

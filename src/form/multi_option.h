@@ -10,7 +10,8 @@ namespace Hesperin {
 /// only stores: `Redraw` brings the buttons into line with the two.
 class MultiOption : public Control {
 public:
-    /// One radio button of the row: its name, and the tool tip that tells its meaning in every language.
+    /// One radio button of the row: its name, and the tool tip that tells its meaning in every
+    /// language.
     struct Option {
         const char* name;
         const char* toolTip;

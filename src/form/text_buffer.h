@@ -13,11 +13,14 @@ public:
     const QString& Text() const { return text; }
     void SetText(const QString& value);
 
-    /// 1-based position of the first occurrence of `needle`, letter case counting; 0 when there is none.
-    qsizetype ExactSearch(QStringView needle) const { return Search(needle, Qt::CaseSensitive) + 1; }
-
-    /// 0-based position of the first occurrence of `needle`, letter case not counting; -1 when there is
+    /// 1-based position of the first occurrence of `needle`, letter case counting; 0 when there is
     /// none.
+    qsizetype ExactSearch(QStringView needle) const {
+        return Search(needle, Qt::CaseSensitive) + 1;
+    }
+
+    /// 0-based position of the first occurrence of `needle`, letter case not counting; -1 when
+    /// there is none.
     qsizetype LooseSearch(QStringView needle) const { return Search(needle, Qt::CaseInsensitive); }
 
     /// The part from the 1-based position `start`, `length` units long; what there is of it when it

@@ -38,7 +38,8 @@ void TextIndex::Build(QStringView source) {
 }
 
 qsizetype TextIndex::Find(QStringView needle, Qt::CaseSensitivity sensitivity) const {
-    const qsizetype lead = needle.size() - GroupLength; // what stands in the needle before its last group
+    const qsizetype lead =
+        needle.size() - GroupLength; // what stands in the needle before its last group
     std::array<char16_t, GroupLength> group{};
     std::transform(needle.utf16() + lead, needle.utf16() + needle.size(), group.begin(), Fold);
 

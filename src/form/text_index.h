@@ -30,9 +30,9 @@ private:
     static std::size_t Slot(const char16_t* folded);
 
     QStringView text;
-    std::vector<char16_t> folded;                        // the text, letter case folded
-    std::vector<std::uint16_t> next;                     // next later group of the same slot
-    std::array<std::uint16_t, 1 << TableBits> first{};   // first group of each slot
+    std::vector<char16_t> folded;                      // the text, letter case folded
+    std::vector<std::uint16_t> next;                   // next later group of the same slot
+    std::array<std::uint16_t, 1 << TableBits> first{}; // first group of each slot
 };
 
 } // namespace Hesperin

@@ -14,8 +14,8 @@ inline constexpr const char16_t* LegalNotice = u"\u00A9 2026 The TALMIR develope
 
 /// Title and version as the main window shows them: "TALMIR v0.0.0.44".
 inline const QString& TitleAndVersion() {
-    static const QString text =
-        QString::fromUtf16(Title) + QStringLiteral(" v0.%1.%2.%3").arg(Major).arg(Minor).arg(Revision);
+    static const QString text = QString::fromUtf16(Title) +
+                                QStringLiteral(" v0.%1.%2.%3").arg(Major).arg(Minor).arg(Revision);
     return text;
 }
 

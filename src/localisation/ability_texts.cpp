@@ -64,8 +64,9 @@ void AbilityTextFiles(SharedState& state, int index) {
         state.AbilityDescFile = QStringLiteral("description");
         break;
     case TextFileNames::Odd: {
-        const auto* odd = std::find_if(std::begin(OddTextFiles), std::end(OddTextFiles),
-                                       [index](const OddNames& names) { return names.index == index; });
+        const auto* odd =
+            std::find_if(std::begin(OddTextFiles), std::end(OddTextFiles),
+                         [index](const OddNames& names) { return names.index == index; });
         state.AbilityNameFile = QString::fromUtf16(odd->nameFile);
         state.AbilityDescFile = QString::fromUtf16(odd->descFile);
         break;
@@ -78,8 +79,9 @@ void LoadAbilityTexts(Program& program) {
     const CodePage fallback =
         state.LanguageCode == QLatin1String("RU") ? CodePage::Windows1251 : CodePage::Windows1252;
     PathLookup program_folder(program.platform.ProgramFolder());
-    const QString root = program_folder.Find({state.LanguageCode, QStringLiteral("Text"), QStringLiteral("Game"),
-                                              QStringLiteral("Creatures"), QStringLiteral("Creature_abilities")});
+    const QString root =
+        program_folder.Find({state.LanguageCode, QStringLiteral("Text"), QStringLiteral("Game"),
+                             QStringLiteral("Creatures"), QStringLiteral("Creature_abilities")});
     if (root.isEmpty()) {
         for (int i = 1; i <= Ability::Count; ++i) {
             program.form.utbN(i).SetText({});
@@ -94,7 +96,8 @@ void LoadAbilityTexts(Program& program) {
         const QString extension = QStringLiteral(".txt");
         const QString name = LoadText(tree, {stem, state.AbilityNameFile + extension}, fallback);
         program.form.utbN(i).SetText(WithoutLineEnd(name));
-        program.form.utbD(i).SetText(LoadText(tree, {stem, state.AbilityDescFile + extension}, fallback));
+        program.form.utbD(i).SetText(
+            LoadText(tree, {stem, state.AbilityDescFile + extension}, fallback));
     }
 }
 

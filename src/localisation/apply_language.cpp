@@ -42,7 +42,8 @@ void ApplyLanguage(Program& program, std::int16_t languageId) {
     SetCaptions(form, MenuRows, column);
     for (std::size_t page = 0; page < PageRows.size(); ++page)
         if (PageRows[page][column] != nullptr)
-            form.Tablus.Tab(static_cast<int>(page)).SetCaption(QString::fromUtf16(PageRows[page][column]));
+            form.Tablus.Tab(static_cast<int>(page))
+                .SetCaption(QString::fromUtf16(PageRows[page][column]));
     SetCaptions(form, FrameRows, column);
     SetItems(form.ComboFaction, FactionRows, column);
     SetItems(form.ComboRange, RangeRows, column);

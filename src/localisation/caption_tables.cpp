@@ -128,6 +128,7 @@ const std::span<const Texts> PageRows(Pages);
 const std::span<const Texts> FactionRows(Factions);
 const std::span<const Texts> RangeRows(Ranges);
 
-const Texts AverageToolTip{u"Average values (by Rolvane and Hesperin)", u"Усреднённые значения (по Rolvane'у и Hesperin'ю)", nullptr, nullptr};
+const Texts AverageToolTip{u"Average values (by Rolvane and Hesperin)",
+                           u"Усреднённые значения (по Rolvane'у и Hesperin'ю)", nullptr, nullptr};
 
 } // namespace Hesperin

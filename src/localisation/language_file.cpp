@@ -16,7 +16,9 @@ constexpr std::array<const char*, 5> Codes{"", "EN", "RU", "FR", "DE"};
 constexpr std::uint8_t English = 1;
 constexpr std::uint8_t Russian = 2;
 
-QString FileIn(const QString& folder) { return folder + QLatin1String("/lang.ini"); }
+QString FileIn(const QString& folder) {
+    return folder + QLatin1String("/lang.ini");
+}
 
 QByteArray FirstLine(const QByteArray& content) {
     const auto end = std::find_if(content.begin(), content.end(),

@@ -23,12 +23,20 @@ void ReloadAbilityTexts(Program& program) {
     BuildTitle(program);
 }
 
-void mnuEnglish_Click(Program& program) { SwitchLanguage(program, 1); }
+void mnuEnglish_Click(Program& program) {
+    SwitchLanguage(program, 1);
+}
 
-void mnuRussian_Click(Program& program) { SwitchLanguage(program, 2); }
+void mnuRussian_Click(Program& program) {
+    SwitchLanguage(program, 2);
+}
 
-void mnuFrench_Click(Program& program) { SwitchLanguage(program, 3); }
+void mnuFrench_Click(Program& program) {
+    SwitchLanguage(program, 3);
+}
 
-void mnuGerman_Click(Program& program) { SwitchLanguage(program, 4); }
+void mnuGerman_Click(Program& program) {
+    SwitchLanguage(program, 4);
+}
 
 } // namespace Hesperin

@@ -27,7 +27,8 @@ const QHash<QString, QString>& PathLookup::Names(const QString& path) {
     if (known != listed.constEnd())
         return *known;
     QHash<QString, QString> names;
-    const QStringList entries = QDir(path).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden);
+    const QStringList entries =
+        QDir(path).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden);
     for (const QString& entry : entries) {
         if (!names.contains(entry.toCaseFolded()))
             names.insert(entry.toCaseFolded(), entry);

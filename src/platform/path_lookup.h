@@ -12,8 +12,8 @@ class PathLookup {
 public:
     explicit PathLookup(QString root) : folder(std::move(root)) {}
 
-    /// Path of the file at `levels` below the folder: as spelled where that exists, else without regard
-    /// to letter case, level by level; empty when there is none.
+    /// Path of the file at `levels` below the folder: as spelled where that exists, else without
+    /// regard to letter case, level by level; empty when there is none.
     QString Find(const QStringList& levels);
 
 private:

@@ -11,7 +11,8 @@ std::variant<QByteArray, ReadProblem> ReadFile(const QString& path, qint64 limit
         const QFileInfo info(path);
         if (info.isDir())
             return ReadProblem{ReadProblem::Kind::IsFolder, {}};
-        return ReadProblem{info.exists() ? ReadProblem::Kind::Unreadable : ReadProblem::Kind::Missing,
+        return ReadProblem{info.exists() ? ReadProblem::Kind::Unreadable
+                                         : ReadProblem::Kind::Missing,
                            file.errorString()};
     }
     if (file.size() > limit)

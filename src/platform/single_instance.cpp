@@ -4,7 +4,8 @@
 
 namespace Hesperin {
 
-SingleInstance::SingleInstance(const QString& folder) : lock(folder + QLatin1String("/talmir.lock")) {
+SingleInstance::SingleInstance(const QString& folder)
+    : lock(folder + QLatin1String("/talmir.lock")) {
     QDir().mkpath(folder);
     lock.setStaleLockTime(0); // a lock never goes stale by age alone
 }

@@ -10,8 +10,9 @@ public:
     /// `folder` is made if it is missing.
     explicit SingleInstance(const QString& folder);
 
-    /// True when another running process holds the lock. A lock left by a process that no longer runs
-    /// is taken over; a folder that can't be written counts as free, so that the program still starts.
+    /// True when another running process holds the lock. A lock left by a process that no longer
+    /// runs is taken over; a folder that can't be written counts as free, so that the program still
+    /// starts.
     bool OtherRuns();
 
 private:

@@ -80,7 +80,8 @@ public:
 private:
     static bool IsWhiteSpace(QStringView characters) {
         return std::all_of(characters.begin(), characters.end(), [](QChar character) {
-            return character == u' ' || character == u'\t' || character == u'\n' || character == u'\r';
+            return character == u' ' || character == u'\t' || character == u'\n' ||
+                   character == u'\r';
         });
     }
 
@@ -156,14 +157,16 @@ std::variant<QString, XmlProblem> NormaliseXml(const QByteArray& bytes, QStringV
             normaliser.Characters(reader.text());
             break;
         case QXmlStreamReader::EntityReference:
-            return XmlProblem{XmlProblem::Kind::NotWellFormed,
-                              QStringLiteral("Entity '%1' is not declared here.").arg(reader.name()),
-                              reader.lineNumber(), reader.columnNumber() + 1};
+            return XmlProblem{
+                XmlProblem::Kind::NotWellFormed,
+                QStringLiteral("Entity '%1' is not declared here.").arg(reader.name()),
+                reader.lineNumber(), reader.columnNumber() + 1};
         default:
             break;
         }
         if (normaliser.Length() > longest && !reader.hasError())
-            return XmlProblem{XmlProblem::Kind::TooLong, {}, reader.lineNumber(), reader.columnNumber() + 1};
+            return XmlProblem{
+                XmlProblem::Kind::TooLong, {}, reader.lineNumber(), reader.columnNumber() + 1};
     }
     if (reader.hasError())
         return ProblemOf(reader);

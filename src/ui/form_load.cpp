@@ -36,8 +36,8 @@ void AddNumbers(ComboBox& list, int last) {
 void FillLists(MainForm& form) {
     for (ComboBox* element : {&form.ComboFME, &form.ComboSME})
         AddItems(*element, {"None", "Air", "Earth", "Fire", "Water"});
-    AddItems(form.ComboAlias, {"HEAVEN", "INFERNO", "NECROMANCY", "PRESERVE", "DUNGEON", "ACADEMY", "FORTRESS",
-                               "STRONGHOLD", "NO_TYPE"});
+    AddItems(form.ComboAlias, {"HEAVEN", "INFERNO", "NECROMANCY", "PRESERVE", "DUNGEON", "ACADEMY",
+                               "FORTRESS", "STRONGHOLD", "NO_TYPE"});
     AddItems(form.ComboDiapazon, {"0", "-1", "-2"});
     AddItems(form.ComboTTC, {"10", "15"});
     AddNumbers(form.ComboTier, 8);
@@ -73,9 +73,9 @@ bool Form_Load(Program& program, const StartOptions& options) {
         form.Tablus.Tab(page).Switch(page != 2 && page != 4);
     NameLanguages(form);
     form.mnuSave.SetEnabled(false);
-    state.LanguageId = options.languageId
-                           ? *options.languageId
-                           : ReadLanguageFile({program.platform.ProgramFolder(), program.platform.SettingsFolder()});
+    state.LanguageId = options.languageId ? *options.languageId
+                                          : ReadLanguageFile({program.platform.ProgramFolder(),
+                                                              program.platform.SettingsFolder()});
     ApplyLanguage(program, state.LanguageId);
     if (program.platform.OtherInstanceRuns()) {
         program.Warn(BoxIcon::Critical, state.MsgSecondInstance);

@@ -7,14 +7,16 @@ namespace {
 constexpr std::int16_t Backspace = 8;
 
 constexpr TextField MainForm::*DigitFields[] = {
-    &MainForm::txtAttack,  &MainForm::txtDefence,  &MainForm::txtHealth,   &MainForm::txtMana,
-    &MainForm::txtMinDam,  &MainForm::txtMaxDam,   &MainForm::txtPower,    &MainForm::txtExp,
-    &MainForm::txtShots,   &MainForm::txtGoldf,    &MainForm::txtGrowthf,  &MainForm::txtWoodf,
-    &MainForm::txtOref,    &MainForm::txtMercuryf, &MainForm::txtCrystalf, &MainForm::txtSulfurf,
+    &MainForm::txtAttack, &MainForm::txtDefence,  &MainForm::txtHealth,   &MainForm::txtMana,
+    &MainForm::txtMinDam, &MainForm::txtMaxDam,   &MainForm::txtPower,    &MainForm::txtExp,
+    &MainForm::txtShots,  &MainForm::txtGoldf,    &MainForm::txtGrowthf,  &MainForm::txtWoodf,
+    &MainForm::txtOref,   &MainForm::txtMercuryf, &MainForm::txtCrystalf, &MainForm::txtSulfurf,
     &MainForm::txtGemf,
 };
 
-bool IsBetween(std::int16_t code, char first, char last) { return code >= first && code <= last; }
+bool IsBetween(std::int16_t code, char first, char last) {
+    return code >= first && code <= last;
+}
 
 } // namespace
 

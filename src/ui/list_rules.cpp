@@ -17,16 +17,25 @@ void KeepElementsApart(ComboBox& changed, const ComboBox& other) {
 
 } // namespace
 
-void ComboFaction_Click(Program& program) { CopyPosition(program.form.ComboFaction, program.form.ComboAlias); }
+void ComboFaction_Click(Program& program) {
+    CopyPosition(program.form.ComboFaction, program.form.ComboAlias);
+}
 
-void ComboRange_Click(Program& program) { CopyPosition(program.form.ComboRange, program.form.ComboDiapazon); }
+void ComboRange_Click(Program& program) {
+    CopyPosition(program.form.ComboRange, program.form.ComboDiapazon);
+}
 
-void ComboFME_Click(Program& program) { KeepElementsApart(program.form.ComboFME, program.form.ComboSME); }
+void ComboFME_Click(Program& program) {
+    KeepElementsApart(program.form.ComboFME, program.form.ComboSME);
+}
 
-void ComboSME_Click(Program& program) { KeepElementsApart(program.form.ComboSME, program.form.ComboFME); }
+void ComboSME_Click(Program& program) {
+    KeepElementsApart(program.form.ComboSME, program.form.ComboFME);
+}
 
 void ComboUpgrade_Click(Program& program) {
-    program.state.UpgradeFactor = program.form.ComboUpgrade.Text() == QLatin1String("False") ? 1.0F : 1.6F;
+    program.state.UpgradeFactor =
+        program.form.ComboUpgrade.Text() == QLatin1String("False") ? 1.0F : 1.6F;
 }
 
 } // namespace Hesperin

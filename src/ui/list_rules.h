@@ -1,5 +1,5 @@
-// What a new selection in a list of the parameters page does. Each runs when the selection has really
-// changed.
+// What a new selection in a list of the parameters page does. Each runs when the selection has
+// really changed.
 #pragma once
 
 #include "engine/program.h"

@@ -9,14 +9,19 @@ bool ConfirmQuit(Program& program) {
     const SharedState& state = program.state;
     if (!program.platform.AskYesNo(state.MsgQuitTitle, state.MsgQuitQuestion))
         return false;
-    WriteLanguageFile({program.platform.ProgramFolder(), program.platform.SettingsFolder()}, state.LanguageId);
+    WriteLanguageFile({program.platform.ProgramFolder(), program.platform.SettingsFolder()},
+                      state.LanguageId);
     program.platform.EndProcess();
     return true;
 }
 
-void mnuQuit_Click(Program& program) { ConfirmQuit(program); }
+void mnuQuit_Click(Program& program) {
+    ConfirmQuit(program);
+}
 
-bool Form_Unload(Program& program) { return ConfirmQuit(program); }
+bool Form_Unload(Program& program) {
+    return ConfirmQuit(program);
+}
 
 void mnuAbout_Click(Program& program) {
     program.form.frmMain.SetEnabled(false);

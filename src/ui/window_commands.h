@@ -5,8 +5,8 @@
 
 namespace Hesperin {
 
-/// Asks MsgQuitQuestion. After a Yes the language is remembered and the process ends; after a No nothing
-/// has happened. True for Yes.
+/// Asks MsgQuitQuestion. After a Yes the language is remembered and the process ends; after a No
+/// nothing has happened. True for Yes.
 bool ConfirmQuit(Program& program);
 
 void mnuQuit_Click(Program& program);
@@ -24,8 +24,8 @@ void mnuAlternativeMethod_Click(Program& program);
 /// starts.
 void mnuCalculator_Click(Program& program);
 
-/// A right click on the ability box `index`, 1 to 174: locks the main window and opens the ability's
-/// information window. The tick stays as it is.
+/// A right click on the ability box `index`, 1 to 174: locks the main window and opens the
+/// ability's information window. The tick stays as it is.
 void Abilities_RightClick(Program& program, std::int16_t index);
 
 } // namespace Hesperin

@@ -35,25 +35,23 @@ constexpr Wire<MenuEntry> MenuWires[] = {
 };
 
 constexpr Wire<Button> ButtonWires[] = {
-    {&MainForm::cmdCalc, cmdCalc_Click},
-    {&MainForm::cmdRAP, cmdRAP_Click},
-    {&MainForm::cmdRAA, cmdRAA_Click},
-    {&MainForm::cmdRAS, cmdRAS_Click},
+    {&MainForm::cmdCalc, cmdCalc_Click},         {&MainForm::cmdRAP, cmdRAP_Click},
+    {&MainForm::cmdRAA, cmdRAA_Click},           {&MainForm::cmdRAS, cmdRAS_Click},
     {&MainForm::cmdResetAll, cmdResetAll_Click},
 };
 
 constexpr Wire<ComboBox> ListWires[] = {
-    {&MainForm::ComboFaction, ComboFaction_Click},
-    {&MainForm::ComboRange, ComboRange_Click},
-    {&MainForm::ComboFME, ComboFME_Click},
-    {&MainForm::ComboSME, ComboSME_Click},
+    {&MainForm::ComboFaction, ComboFaction_Click}, {&MainForm::ComboRange, ComboRange_Click},
+    {&MainForm::ComboFME, ComboFME_Click},         {&MainForm::ComboSME, ComboSME_Click},
     {&MainForm::ComboUpgrade, ComboUpgrade_Click},
 };
 
 template <typename T, std::size_t Count>
 void WireAll(Program& program, const Wire<T> (&wires)[Count]) {
     for (const Wire<T>& wire : wires)
-        (program.form.*wire.control).SetClick([&program, handler = wire.handler] { handler(program); });
+        (program.form.*wire.control).SetClick([&program, handler = wire.handler] {
+            handler(program);
+        });
 }
 
 template <typename Array>

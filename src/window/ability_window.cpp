@@ -21,7 +21,7 @@ namespace {
 
 constexpr int ClientWidth = Pixels(10815);
 constexpr int LineHeight = Pixels(600);
-constexpr int BelowText = Pixels(1950);      // of the window's height, all that isn't the description
+constexpr int BelowText = Pixels(1950); // of the window's height, all that isn't the description
 constexpr int ButtonBelowText = Pixels(1095);
 
 /// Lines of `text` as wrapped at a width in pixels.
@@ -63,16 +63,19 @@ AbilityWindow::AbilityWindow(Program& owner, QWidget* mainWindow)
     ground.setColor(QPalette::Base, palette().color(QPalette::Window));
     description->setPalette(ground);
     constexpr int scrollBar = 20; // the text must not need one because it shows one
-    const int wanted = WrappedLines(form.utbD(index).Text(), ReadingFace(), Pixels(10575) - scrollBar) *
-                       std::max(LineHeight, QFontMetrics(ReadingFace()).lineSpacing());
+    const int wanted =
+        WrappedLines(form.utbD(index).Text(), ReadingFace(), Pixels(10575) - scrollBar) *
+        std::max(LineHeight, QFontMetrics(ReadingFace()).lineSpacing());
     const int room = screen()->availableGeometry().height() - BelowText - LineHeight;
     const int height = std::min(wanted, std::max(room, LineHeight));
     if (height < wanted)
         description->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     description->setGeometry(Pixels(120), Pixels(960), Pixels(10575), height);
 
-    AddButton("cmdQuit", form.mnuQuit.Caption(), {Pixels(4440), height + ButtonBelowText, Pixels(1815), Pixels(375)});
-    ShowCentred({ClientWidth, height + BelowText - Pixels(345)}); // a window's height has its title bar in it
+    AddButton("cmdQuit", form.mnuQuit.Caption(),
+              {Pixels(4440), height + ButtonBelowText, Pixels(1815), Pixels(375)});
+    ShowCentred({ClientWidth,
+                 height + BelowText - Pixels(345)}); // a window's height has its title bar in it
 }
 
 void AbilityWindow::paintEvent(QPaintEvent*) {

@@ -4,8 +4,8 @@
 
 namespace Hesperin {
 
-/// Name and description of the ability that was right-clicked, in the language of the moment. Grows with
-/// its text; what would be taller than the screen scrolls.
+/// Name and description of the ability that was right-clicked, in the language of the moment. Grows
+/// with its text; what would be taller than the screen scrolls.
 class AbilityWindow : public SecondaryWindowView {
 public:
     AbilityWindow(Program& program, QWidget* mainWindow);

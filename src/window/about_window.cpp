@@ -46,7 +46,9 @@ QImage DrawPictures() {
 /// The largest face up to `face` in which the text, wrapped, fits into `room`.
 QFont FittingWrapped(QFont face, const QString& text, QSize room) {
     const auto height = [&] {
-        return QFontMetrics(face).boundingRect(QRect(0, 0, room.width(), 0), Qt::TextWordWrap, text).height();
+        return QFontMetrics(face)
+            .boundingRect(QRect(0, 0, room.width(), 0), Qt::TextWordWrap, text)
+            .height();
     };
     while (face.pixelSize() > 9 && height() > room.height())
         face.setPixelSize(face.pixelSize() - 1);
@@ -62,8 +64,8 @@ AboutWindow::AboutWindow(Program& owner, QWidget* mainWindow)
     setWindowTitle(program.form.mnuAbout.Caption());
     setAccessibleDescription(QStringLiteral("A golden dragon carries a balance on its wings."));
 
-    const auto add = [this](const char* name, const QString& text, const QRect& place, const QFont& face,
-                            Qt::Alignment alignment) {
+    const auto add = [this](const char* name, const QString& text, const QRect& place,
+                            const QFont& face, Qt::Alignment alignment) {
         constexpr int side = 6;
         constexpr int above = 2;
         QLabel* label = AddText(*this, name, text, place, face, alignment);
@@ -73,15 +75,19 @@ AboutWindow::AboutWindow(Program& owner, QWidget* mainWindow)
         label->setFont(FittingWrapped(face, text, place.size() - QSize(2 * side, 2 * above)));
     };
     add("utbInfo",
-        VersionRecord::TitleAndVersion() + QLatin1String(" - ") + QString::fromUtf16(VersionRecord::LegalNotice),
+        VersionRecord::TitleAndVersion() + QLatin1String(" - ") +
+            QString::fromUtf16(VersionRecord::LegalNotice),
         PixelRect(720, 120, 7575, 495), HeadingFace(), Qt::AlignCenter);
-    add("utbWhatis", state.MsgWhatIs + product + u'?', PixelRect(4080, 720, 4215, 375), HeadingFace(), Qt::AlignCenter);
-    add("utbAbout", product + state.MsgAppDescription, PixelRect(4080, 1200, 4215, 3735), FigureFace(),
-        Qt::AlignLeft | Qt::AlignTop);
+    add("utbWhatis", state.MsgWhatIs + product + u'?', PixelRect(4080, 720, 4215, 375),
+        HeadingFace(), Qt::AlignCenter);
+    add("utbAbout", product + state.MsgAppDescription, PixelRect(4080, 1200, 4215, 3735),
+        FigureFace(), Qt::AlignLeft | Qt::AlignTop);
     AddButton("cmdQuit", program.form.mnuQuit.Caption(), PixelRect(1080, 4560, 1815, 375));
     ShowCentred(ClientSize);
 }
 
-void AboutWindow::paintEvent(QPaintEvent*) { QPainter(this).drawImage(rect(), pictures); }
+void AboutWindow::paintEvent(QPaintEvent*) {
+    QPainter(this).drawImage(rect(), pictures);
+}
 
 } // namespace Hesperin

@@ -25,7 +25,8 @@ struct Column {
     int selectorLeft = 0;
 };
 
-constexpr Column AbilityColumns[] = {{90, 3480}, {3630, 3290}, {6980, 2920}, {9960, 2810}, {12830, 2420}};
+constexpr Column AbilityColumns[] = {
+    {90, 3480}, {3630, 3290}, {6980, 2920}, {9960, 2810}, {12830, 2420}};
 constexpr Column SpellColumns[] = {{1380, 3300, 120}, {6030, 3030, 4755}, {10350, 4800, 9075}};
 constexpr Column SpecabilityColumns[] = {{1380, 3400, 120}, {6120, 4800, 4875}};
 
@@ -44,8 +45,8 @@ BoxView* AddBox(CheckBox& box, QWidget& page, std::span<const Column> columns, i
     return new BoxView(box, &page, PlaceOf(place, column.boxLeft, column.boxWidth, BoxHeight, top));
 }
 
-void AddSelector(MultiOption& selector, const CheckBox& box, QWidget& page, std::span<const Column> columns,
-                 int place, int top) {
+void AddSelector(MultiOption& selector, const CheckBox& box, QWidget& page,
+                 std::span<const Column> columns, int place, int top) {
     const Column& column = ColumnOf(columns, place);
     const QRect rect = PlaceOf(place, column.selectorLeft, SelectorWidth, SelectorHeight, top);
     new SelectorView(selector, &page, rect.translated(0, 1), box.Caption());

@@ -6,8 +6,8 @@ class QWidget;
 
 namespace Hesperin {
 
-// The pages of check boxes, each in columns of 35 rows. `page` begins `top` pixels below the top of the
-// tab control.
+// The pages of check boxes, each in columns of 35 rows. `page` begins `top` pixels below the top of
+// the tab control.
 
 void BuildAbilitiesPage(Program& program, QWidget& page, int top);
 void BuildSpellsPage(Program& program, QWidget& page, int top);

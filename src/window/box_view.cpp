@@ -19,7 +19,9 @@ BoxView::BoxView(CheckBox& box, QWidget* parent, const QRect& place) : View(box,
     SyncAll();
 }
 
-void BoxView::Sync() { setChecked(control.Ticked()); }
+void BoxView::Sync() {
+    setChecked(control.Ticked());
+}
 
 void BoxView::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::RightButton && rightClick)

@@ -11,8 +11,8 @@ namespace Hesperin {
 
 namespace {
 
-/// The first of `wanted` that is installed, or the last. Asks for the list of names, which costs the
-/// start a fifth of what a question for each name would: that one goes through all substitutes.
+/// The first of `wanted` that is installed, or the last. Asks for the list of names, which costs
+/// the start a fifth of what a question for each name would: that one goes through all substitutes.
 QString Installed(const QStringList& wanted) {
     static const QStringList installed = QFontDatabase::families();
     for (const QString& family : wanted)
@@ -23,8 +23,9 @@ QString Installed(const QStringList& wanted) {
 
 QFont Chancery(int pixelSize, QFont::Weight weight) {
     static const QString family =
-        Installed({QStringLiteral("Monotype Corsiva"), QStringLiteral("Z003"), QStringLiteral("URW Chancery L"),
-                   QStringLiteral("Apple Chancery"), QStringLiteral("serif")});
+        Installed({QStringLiteral("Monotype Corsiva"), QStringLiteral("Z003"),
+                   QStringLiteral("URW Chancery L"), QStringLiteral("Apple Chancery"),
+                   QStringLiteral("serif")});
     QFont face(family);
     face.setStyleHint(QFont::Serif);
     face.setPixelSize(pixelSize);
@@ -35,19 +36,30 @@ QFont Chancery(int pixelSize, QFont::Weight weight) {
 
 } // namespace
 
-QFont CaptionFace() { return Chancery(15, QFont::Normal); }
+QFont CaptionFace() {
+    return Chancery(15, QFont::Normal);
+}
 
-QFont HeadingFace() { return Chancery(15, QFont::Bold); }
+QFont HeadingFace() {
+    return Chancery(15, QFont::Bold);
+}
 
-QFont FigureFace() { return Chancery(19, QFont::Bold); }
+QFont FigureFace() {
+    return Chancery(19, QFont::Bold);
+}
 
-QFont NameFace() { return Chancery(16, QFont::Bold); }
+QFont NameFace() {
+    return Chancery(16, QFont::Bold);
+}
 
-QFont ReadingFace() { return Chancery(32, QFont::Normal); }
+QFont ReadingFace() {
+    return Chancery(32, QFont::Normal);
+}
 
 QFont BoxFace() {
-    static const QString family = Installed({QStringLiteral("MS Sans Serif"), QStringLiteral("Microsoft Sans Serif"),
-                                             QGuiApplication::font().family()});
+    static const QString family =
+        Installed({QStringLiteral("MS Sans Serif"), QStringLiteral("Microsoft Sans Serif"),
+                   QGuiApplication::font().family()});
     QFont face(family);
     face.setStyleHint(QFont::SansSerif);
     face.setPixelSize(11);

@@ -10,12 +10,14 @@
 
 namespace Hesperin {
 
-FieldView::FieldView(TextField& field, QWidget* parent, const QRect& place, const QFont& fieldFace, QRgb ink)
+FieldView::FieldView(TextField& field, QWidget* parent, const QRect& place, const QFont& fieldFace,
+                     QRgb ink)
     : View(field, parent), face(fieldFace) {
     setGeometry(place);
     setPalette(InkPalette(ink));
     setFont(face);
-    connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { control.SetText(text); });
+    connect(this, &QLineEdit::textEdited, this,
+            [this](const QString& text) { control.SetText(text); });
     SyncAll();
 }
 
@@ -29,15 +31,17 @@ void FieldView::Sync() {
 }
 
 bool FieldView::Admits(const QString& typed) const {
-    const bool allAccepted = std::all_of(typed.begin(), typed.end(),
-                                         [this](QChar key) { return control.Accepts(key.unicode()); });
+    const bool allAccepted = std::all_of(
+        typed.begin(), typed.end(), [this](QChar key) { return control.Accepts(key.unicode()); });
     const qsizetype length = text().size() - selectedText().size() + typed.size();
-    return allAccepted && (control.MaxLength() == TextField::NoLimit || length <= control.MaxLength());
+    return allAccepted &&
+           (control.MaxLength() == TextField::NoLimit || length <= control.MaxLength());
 }
 
 void FieldView::keyPressEvent(QKeyEvent* event) {
     const QString typed = event->text();
-    const bool command = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    const bool command =
+        event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
     if (!command && !typed.isEmpty() && typed.at(0).isPrint() && !Admits(typed))
         return; // swallowed
     QLineEdit::keyPressEvent(event);

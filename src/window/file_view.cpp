@@ -15,6 +15,8 @@ FileView::FileView(TextBuffer& buffer, QWidget* parent) : View(buffer, parent) {
     SyncAll();
 }
 
-void FileView::Sync() { setPlainText(control.Text()); }
+void FileView::Sync() {
+    setPlainText(control.Text());
+}
 
 } // namespace Hesperin

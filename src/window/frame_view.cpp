@@ -27,7 +27,8 @@ void FrameView::Sync() {
     NameFields();
     const QString caption = control.Caption().trimmed();
     fitting = FittingFace(face, caption, width() - 2 * CaptionLeft);
-    captionPlace = {CaptionLeft, 0, QFontMetrics(fitting).horizontalAdvance(caption) + 1, QFontMetrics(face).height()};
+    captionPlace = {CaptionLeft, 0, QFontMetrics(fitting).horizontalAdvance(caption) + 1,
+                    QFontMetrics(face).height()};
     update();
 }
 
@@ -50,7 +51,8 @@ void FrameView::paintEvent(QPaintEvent*) {
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, lineTop + 0.5, -0.5, -0.5), 4, 4);
     painter.fillRect(captionPlace.adjusted(-CaptionGap, 0, CaptionGap, 0), palette().window());
     painter.setPen(palette().color(QPalette::Active, QPalette::WindowText));
-    painter.drawText(captionPlace, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, control.Caption().trimmed());
+    painter.drawText(captionPlace, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip,
+                     control.Caption().trimmed());
 }
 
 } // namespace Hesperin

@@ -7,14 +7,14 @@
 
 namespace Hesperin {
 
-/// A frame with its caption in the line; the caption shrinks until it fits. It lends its caption to the
-/// fields inside as their accessible name.
+/// A frame with its caption in the line; the caption shrinks until it fits. It lends its caption to
+/// the fields inside as their accessible name.
 class FrameView : public View<QGroupBox, Frame> {
 public:
     FrameView(Frame& frame, QWidget* parent, const QFont& face, const QRect& place);
 
-    /// Gives each field inside the caption as its accessible name, behind it the text of the label whose
-    /// buddy it is.
+    /// Gives each field inside the caption as its accessible name, behind it the text of the label
+    /// whose buddy it is.
     void NameFields();
 
 protected:

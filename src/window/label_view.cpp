@@ -6,12 +6,13 @@
 
 namespace Hesperin {
 
-LabelView::LabelView(Label& label, QWidget* parent, const QRect& place, const QFont& labelFace, QRgb ink,
-                     Qt::Alignment alignment)
+LabelView::LabelView(Label& label, QWidget* parent, const QRect& place, const QFont& labelFace,
+                     QRgb ink, Qt::Alignment alignment)
     : View(label, parent), face(labelFace) {
     setGeometry(place);
     QPalette inks = InkPalette(ink);
-    inks.setColor(QPalette::Disabled, QPalette::WindowText, QColor(ink)); // results stand in disabled frames
+    inks.setColor(QPalette::Disabled, QPalette::WindowText,
+                  QColor(ink)); // results stand in disabled frames
     setPalette(inks);
     setAlignment(alignment);
     setTextFormat(Qt::PlainText);
@@ -23,7 +24,8 @@ void LabelView::Sync() {
     setAccessibleName(control.Caption());
     if (!control.Caption().isEmpty())
         setFont(FittingFace(face, control.Caption(), width()));
-    if (auto* frame = dynamic_cast<FrameView*>(parentWidget()); frame != nullptr && buddy() != nullptr)
+    if (auto* frame = dynamic_cast<FrameView*>(parentWidget());
+        frame != nullptr && buddy() != nullptr)
         frame->NameFields();
 }
 

@@ -42,7 +42,10 @@ void ListView::paintEvent(QPaintEvent*) {
     initStyleOption(&option);
     option.currentText = control.Text();
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
-    const int room = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this).width();
+    const int room =
+        style()
+            ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this)
+            .width();
     painter.setFont(FittingFace(face, option.currentText, room - 4));
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }

@@ -10,7 +10,8 @@ using namespace Hesperin;
 
 namespace {
 
-/// The answer to --help, --version or a misuse, which needs no display; -1 when the program is to start.
+/// The answer to --help, --version or a misuse, which needs no display; -1 when the program is to
+/// start.
 int AnswerWithoutWindow(const StartArguments& start) {
     if (start.answer.isEmpty())
         return -1;

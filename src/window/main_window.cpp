@@ -31,14 +31,16 @@ struct ButtonPlace {
 constexpr int ButtonTop = 9360;
 constexpr int ButtonHeight = 435;
 constexpr ButtonPlace ButtonRow[] = {
-    {&MainForm::cmdCalc, 120, 1560},   {&MainForm::cmdRAP, 1800, 3960}, {&MainForm::cmdRAA, 5880, 3720},
-    {&MainForm::cmdRAS, 9720, 3360},   {&MainForm::cmdResetAll, 13200, 2130},
+    {&MainForm::cmdCalc, 120, 1560},       {&MainForm::cmdRAP, 1800, 3960},
+    {&MainForm::cmdRAA, 5880, 3720},       {&MainForm::cmdRAS, 9720, 3360},
+    {&MainForm::cmdResetAll, 13200, 2130},
 };
 
 /// The one local file that is being dragged; empty when it is anything else.
 QString DraggedFile(const QMimeData& data) {
     const QList<QUrl> urls = data.urls();
-    return urls.size() == 1 && urls.constFirst().isLocalFile() ? urls.constFirst().toLocalFile() : QString();
+    return urls.size() == 1 && urls.constFirst().isLocalFile() ? urls.constFirst().toLocalFile()
+                                                               : QString();
 }
 
 } // namespace
@@ -65,7 +67,9 @@ MainWindow::MainWindow(Program& owner) : program(owner) {
     setWindowTitle(form.frmMain.Caption());
 }
 
-MainWindow::~MainWindow() { program.form.frmMain.SetView(nullptr); }
+MainWindow::~MainWindow() {
+    program.form.frmMain.SetView(nullptr);
+}
 
 void MainWindow::BuildButtonRow(QWidget& content) {
     for (const ButtonPlace& place : ButtonRow)
@@ -73,7 +77,9 @@ void MainWindow::BuildButtonRow(QWidget& content) {
                        PixelRect(place.left, ButtonTop, place.width, ButtonHeight));
 }
 
-QWidget* MainWindow::WidgetOf(const Control& control) const { return findChild<QWidget*>(control.Name()); }
+QWidget* MainWindow::WidgetOf(const Control& control) const {
+    return findChild<QWidget*>(control.Name());
+}
 
 /// A disabled main window is locked by the secondary window in front of it, which is modal to it.
 void MainWindow::Changed(Control&, Property what) {

@@ -40,7 +40,9 @@ EntryView::EntryView(MenuEntry& entry, QAction& shown) : control(entry), action(
     Sync();
 }
 
-void EntryView::Changed(Control&, Property) { Sync(); }
+void EntryView::Changed(Control&, Property) {
+    Sync();
+}
 
 void EntryView::Sync() {
     action.setText(control.Caption());

@@ -17,7 +17,8 @@ QPalette ProgramPalette() {
     QPalette palette;
     for (const auto role : {QPalette::Window, QPalette::Button})
         palette.setColor(role, QColor(Colours::Ground));
-    for (const auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text, QPalette::ToolTipText})
+    for (const auto role :
+         {QPalette::WindowText, QPalette::ButtonText, QPalette::Text, QPalette::ToolTipText})
         palette.setColor(role, QColor(Colours::Text));
     for (const auto role : {QPalette::Base, QPalette::ToolTipBase})
         palette.setColor(role, QColor(Colours::Field));

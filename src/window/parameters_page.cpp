@@ -73,10 +73,12 @@ void BuildDamageFields(MainForm& form, FrameView& frame) {
     const int half = (frame.width() - 2 * Margin) / 2;
     const auto pair = [&](Label& label, TextField& field, int left) {
         const QRect captionPlace(left, FieldTop, labelWidth, FieldHeight);
-        const QRect fieldPlace(left + labelWidth + gap, FieldTop, half - labelWidth - gap, FieldHeight);
+        const QRect fieldPlace(left + labelWidth + gap, FieldTop, half - labelWidth - gap,
+                               FieldHeight);
         auto* caption = new LabelView(label, &frame, captionPlace, CaptionFace(), Colours::Text,
                                       Qt::AlignRight | Qt::AlignVCenter);
-        caption->setBuddy(new FieldView(field, &frame, fieldPlace, FigureFace(), Colours::Parameter));
+        caption->setBuddy(
+            new FieldView(field, &frame, fieldPlace, FigureFace(), Colours::Parameter));
     };
     pair(form.lblMin, form.txtMinDam, Margin);
     pair(form.lblMax, form.txtMaxDam, Margin + half);
@@ -86,7 +88,8 @@ void BuildDamageFields(MainForm& form, FrameView& frame) {
 
 void BuildParametersPage(MainForm& form, QWidget& page, int top) {
     for (const FrameRow& row : FrameRowsOfPage) {
-        const QRect place = PixelRect(row.left, row.top, row.width, FrameHeight).translated(0, -top);
+        const QRect place =
+            PixelRect(row.left, row.top, row.width, FrameHeight).translated(0, -top);
         auto* frame = new FrameView(form.*row.frame, &page, CaptionFace(), place);
         const QRect inside(Margin, FieldTop, place.width() - 2 * Margin, FieldHeight);
         if (row.field != nullptr) {

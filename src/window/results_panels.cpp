@@ -57,19 +57,22 @@ constexpr int GroupPitch = HeadingHeight + 2 * FrameHeight + FrameGap + 5;
 constexpr int Margin = 7;
 
 void BuildGroup(MainForm& form, FrameView& panel, const Group& group, int top) {
-    new LabelView(form.*group.heading, &panel, {Margin, top, panel.width() - 2 * Margin, HeadingHeight}, HeadingFace(),
+    new LabelView(form.*group.heading, &panel,
+                  {Margin, top, panel.width() - 2 * Margin, HeadingHeight}, HeadingFace(),
                   group.ink, Qt::AlignCenter);
     const int width = (panel.width() - 2 * Margin - FrameGap) / 2;
     for (int place = 0; place < 4; ++place) {
         const QRect rect(Margin + (place % 2) * (width + FrameGap),
-                         top + HeadingHeight + (place / 2) * (FrameHeight + FrameGap), width, FrameHeight);
+                         top + HeadingHeight + (place / 2) * (FrameHeight + FrameGap), width,
+                         FrameHeight);
         auto* frame = new FrameView(form.*group.frames[place], &panel, CaptionFace(), rect);
-        new LabelView(form.*group.figures[place], frame, {4, 15, width - 8, FrameHeight - 17}, FigureFace(), group.ink,
-                      Qt::AlignCenter);
+        new LabelView(form.*group.figures[place], frame, {4, 15, width - 8, FrameHeight - 17},
+                      FigureFace(), group.ink, Qt::AlignCenter);
     }
 }
 
-void BuildPanel(MainForm& form, QWidget& page, Frame& frame, const QRect& place, std::span<const Group> groups) {
+void BuildPanel(MainForm& form, QWidget& page, Frame& frame, const QRect& place,
+                std::span<const Group> groups) {
     auto* panel = new FrameView(frame, &page, HeadingFace(), place);
     int top = FirstGroupTop;
     for (const Group& group : groups) {
@@ -81,8 +84,10 @@ void BuildPanel(MainForm& form, QWidget& page, Frame& frame, const QRect& place,
 } // namespace
 
 void BuildResultPanels(MainForm& form, QWidget& page, int top) {
-    BuildPanel(form, page, form.frmMM, PixelRect(12360, 480, 2730, 5330).translated(0, -top), MainMethod);
-    BuildPanel(form, page, form.frmAM, PixelRect(9480, 480, 2730, 3625).translated(0, -top), AlternativeMethod);
+    BuildPanel(form, page, form.frmMM, PixelRect(12360, 480, 2730, 5330).translated(0, -top),
+               MainMethod);
+    BuildPanel(form, page, form.frmAM, PixelRect(9480, 480, 2730, 3625).translated(0, -top),
+               AlternativeMethod);
 }
 
 } // namespace Hesperin

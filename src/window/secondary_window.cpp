@@ -9,13 +9,15 @@
 namespace Hesperin {
 
 SecondaryWindowView::SecondaryWindowView(Program& owner, QWidget* mainWindow, const char* name)
-    : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint), program(owner) {
+    : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+      program(owner) {
     setObjectName(QLatin1String(name));
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
 }
 
-QPushButton& SecondaryWindowView::AddButton(const char* name, const QString& caption, const QRect& place) {
+QPushButton& SecondaryWindowView::AddButton(const char* name, const QString& caption,
+                                            const QRect& place) {
     button = new QPushButton(caption, this);
     button->setObjectName(QLatin1String(name));
     button->setGeometry(place);
@@ -42,8 +44,8 @@ void SecondaryWindowView::closeEvent(QCloseEvent* event) {
     QDialog::closeEvent(event);
 }
 
-QLabel* AddText(QWidget& window, const char* name, const QString& text, const QRect& place, const QFont& face,
-                Qt::Alignment alignment) {
+QLabel* AddText(QWidget& window, const char* name, const QString& text, const QRect& place,
+                const QFont& face, Qt::Alignment alignment) {
     auto* label = new QLabel(text, &window);
     label->setObjectName(QLatin1String(name));
     label->setGeometry(place);

@@ -8,9 +8,9 @@
 
 namespace Hesperin {
 
-/// What the secondary windows have in common: a fixed size, a place in the middle of the screen, one
-/// button. The button, the window manager's close button and Escape all do the same: they enable the main
-/// window and unload this one.
+/// What the secondary windows have in common: a fixed size, a place in the middle of the screen,
+/// one button. The button, the window manager's close button and Escape all do the same: they
+/// enable the main window and unload this one.
 class SecondaryWindowView : public QDialog {
 public:
     SecondaryWindowView(Program& program, QWidget* mainWindow, const char* name);
@@ -35,7 +35,7 @@ private:
 };
 
 /// A text of such a window that can be read and not changed.
-QLabel* AddText(QWidget& window, const char* name, const QString& text, const QRect& place, const QFont& face,
-                Qt::Alignment alignment);
+QLabel* AddText(QWidget& window, const char* name, const QString& text, const QRect& place,
+                const QFont& face, Qt::Alignment alignment);
 
 } // namespace Hesperin

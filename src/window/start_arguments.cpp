@@ -5,11 +5,12 @@
 namespace Hesperin {
 
 StartArguments ReadStartArguments(const QStringList& arguments) {
-    const QString usage = QStringLiteral("Usage: talmir [FILE]\n"
-                                         "Balance calculator and creature-file editor.\n\n"
-                                         "  FILE           Creature file (.xdb) to open at the start.\n"
-                                         "  -h, --help     Shows this help.\n"
-                                         "  -v, --version  Shows the version.");
+    const QString usage =
+        QStringLiteral("Usage: talmir [FILE]\n"
+                       "Balance calculator and creature-file editor.\n\n"
+                       "  FILE           Creature file (.xdb) to open at the start.\n"
+                       "  -h, --help     Shows this help.\n"
+                       "  -v, --version  Shows the version.");
     StartArguments start;
     for (const QString& argument : arguments) {
         if (argument == QLatin1String("-h") || argument == QLatin1String("--help"))
@@ -17,7 +18,8 @@ StartArguments ReadStartArguments(const QStringList& arguments) {
         if (argument == QLatin1String("-v") || argument == QLatin1String("--version"))
             return {VersionRecord::TitleAndVersion(), false, {}};
         if (argument.startsWith(u'-') || !start.creatureFile.isEmpty())
-            return {QStringLiteral("talmir: '%1' is not understood\n").arg(argument) + usage, true, {}};
+            return {
+                QStringLiteral("talmir: '%1' is not understood\n").arg(argument) + usage, true, {}};
         start.creatureFile = argument;
     }
     return start;

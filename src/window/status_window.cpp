@@ -22,12 +22,13 @@ StatusWindow::StatusWindow(Program& owner, QWidget* mainWindow, const QString& m
     : SecondaryWindowView(owner, mainWindow, "frmStatus") {
     setWindowTitle(QStringLiteral("Average values"));
     AddButton("Command1", QStringLiteral("OK"), PixelRect(4200, 2880, 2235, 375));
-    AddText(*this, "Label1", QStringLiteral("Последнее выполненное действие: "), PixelRect(120, 3600, 4575, 375),
-            CaptionFace(), Qt::AlignLeft | Qt::AlignVCenter);
+    AddText(*this, "Label1", QStringLiteral("Последнее выполненное действие: "),
+            PixelRect(120, 3600, 4575, 375), CaptionFace(), Qt::AlignLeft | Qt::AlignVCenter);
 
     QFont face = BoxFace();
     face.setPixelSize(13);
-    QLabel* words = AddText(*this, "lblStatus", message, WordsPlace, face, Qt::AlignLeft | Qt::AlignTop);
+    QLabel* words =
+        AddText(*this, "lblStatus", message, WordsPlace, face, Qt::AlignLeft | Qt::AlignTop);
     words->setWordWrap(true);
     words->setTextInteractionFlags(Qt::TextSelectableByMouse);
     const int height = std::max(WordsPlace.height(), words->heightForWidth(WordsPlace.width()));

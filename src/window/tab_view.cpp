@@ -93,7 +93,8 @@ void TabView::BuildPage(int page) {
         BuildSpecabilitiesPage(program, widget, BarHeight);
         break;
     default:
-        (new FileView(program.form.RTBData, &widget))->setGeometry(PixelRect(120, 480, 15045, 8595).translated(0, -BarHeight));
+        (new FileView(program.form.RTBData, &widget))
+            ->setGeometry(PixelRect(120, 480, 15045, 8595).translated(0, -BarHeight));
     }
 }
 

@@ -8,8 +8,8 @@
 namespace Hesperin {
 
 /// The tab control with its five pages. A page that is off has no tab; when it was in front, page 0
-/// comes forward. The pages of check boxes are built when they are first shown, or when the program has
-/// nothing else to do.
+/// comes forward. The pages of check boxes are built when they are first shown, or when the program
+/// has nothing else to do.
 class TabView : public QWidget {
 public:
     TabView(Program& program, QWidget* parent);

@@ -6,8 +6,9 @@
 
 namespace Hesperin {
 
-/// A widget that shows one control of the form under the control's own name. It holds no state of its
-/// own: what the user does goes through the control's setters, and what changes is read back from it.
+/// A widget that shows one control of the form under the control's own name. It holds no state of
+/// its own: what the user does goes through the control's setters, and what changes is read back
+/// from it.
 template <typename Widget, typename ControlType>
 class View : public Widget, public ControlView {
 public:

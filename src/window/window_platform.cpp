@@ -1,8 +1,8 @@
 #include "window/window_platform.h"
 
 #include "localisation/string_tables.h"
-#include "window/about_window.h"
 #include "window/ability_window.h"
+#include "window/about_window.h"
 #include "window/main_window.h"
 #include "window/status_window.h"
 
@@ -18,7 +18,9 @@ namespace Hesperin {
 
 namespace {
 
-QString SettingsFolderOfUser() { return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation); }
+QString SettingsFolderOfUser() {
+    return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
+}
 
 QMessageBox::Icon IconOf(BoxIcon icon) {
     switch (icon) {
@@ -41,7 +43,8 @@ QString FilterText(const FileDialog& dialog) {
 void Prepare(QFileDialog& shown, const FileDialog& dialog, QFileDialog::AcceptMode mode) {
     shown.setObjectName(dialog.Name());
     shown.setAcceptMode(mode);
-    shown.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    shown.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile
+                                                      : QFileDialog::AnyFile);
     shown.setNameFilter(FilterText(dialog));
     shown.setDefaultSuffix(dialog.DefaultExtension);
     const QFileInfo last(dialog.FileName);
@@ -124,7 +127,9 @@ void WindowPlatform::Open(SecondaryWindow which) {
         new AbilityWindow(*program, window);
 }
 
-void WindowPlatform::ShowStatus(const QString& message) { new StatusWindow(*program, window, message); }
+void WindowPlatform::ShowStatus(const QString& message) {
+    new StatusWindow(*program, window, message);
+}
 
 bool WindowPlatform::StartProgram(const QString& name) {
     const QString path = QStandardPaths::findExecutable(name);
@@ -135,14 +140,19 @@ QStringList WindowPlatform::CalculatorNames() const {
 #ifdef Q_OS_WIN
     return {QStringLiteral("calc.exe")};
 #else
-    return {QStringLiteral("gnome-calculator"), QStringLiteral("kcalc"),         QStringLiteral("mate-calc"),
-            QStringLiteral("galculator"),       QStringLiteral("qalculate-gtk"), QStringLiteral("xcalc")};
+    return {QStringLiteral("gnome-calculator"), QStringLiteral("kcalc"),
+            QStringLiteral("mate-calc"),        QStringLiteral("galculator"),
+            QStringLiteral("qalculate-gtk"),    QStringLiteral("xcalc")};
 #endif
 }
 
-QString WindowPlatform::ProgramFolder() const { return QCoreApplication::applicationDirPath(); }
+QString WindowPlatform::ProgramFolder() const {
+    return QCoreApplication::applicationDirPath();
+}
 
-QString WindowPlatform::SettingsFolder() const { return SettingsFolderOfUser(); }
+QString WindowPlatform::SettingsFolder() const {
+    return SettingsFolderOfUser();
+}
 
 void WindowPlatform::EndProcess() {
     window->LetGo();

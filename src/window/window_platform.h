@@ -8,14 +8,14 @@ namespace Hesperin {
 struct Program;
 class MainWindow;
 
-/// The platform of the window: message boxes, dialogs and secondary windows of the toolkit, programs of
-/// the system.
+/// The platform of the window: message boxes, dialogs and secondary windows of the toolkit,
+/// programs of the system.
 class WindowPlatform : public Platform {
 public:
     WindowPlatform();
 
-    /// What the boxes and windows stand in front of. Before this, boxes stand alone and no secondary
-    /// window opens.
+    /// What the boxes and windows stand in front of. Before this, boxes stand alone and no
+    /// secondary window opens.
     void Attach(Program& owner, MainWindow& front);
 
     void ShowMessage(BoxIcon icon, const QString& title, const QString& text) override;

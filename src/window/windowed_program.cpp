@@ -25,7 +25,8 @@ bool WindowedProgram::Start(const QString& creatureFile) {
     window->move(0, 0);
     window->show();
     if (!creatureFile.isEmpty())
-        QTimer::singleShot(0, window.get(), [this, creatureFile] { OpenCreatureFile(program, creatureFile); });
+        QTimer::singleShot(0, window.get(),
+                           [this, creatureFile] { OpenCreatureFile(program, creatureFile); });
     return true;
 }
 

@@ -14,8 +14,8 @@ public:
     /// Style, palette, name and icon of the application, which must exist by then.
     static void DressApplication();
 
-    /// Starts the program and shows the window; then opens `creatureFile`, unless that is empty. False:
-    /// another instance runs, the user has been told, and nothing is shown.
+    /// Starts the program and shows the window; then opens `creatureFile`, unless that is empty.
+    /// False: another instance runs, the user has been told, and nothing is shown.
     bool Start(const QString& creatureFile);
 
     MainWindow& Window() { return *window; }

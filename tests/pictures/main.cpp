@@ -3,8 +3,8 @@
 #include "creature_files/file_commands.h"
 #include "support/scripted_platform.h"
 #include "ui/form_load.h"
-#include "window/about_window.h"
 #include "window/ability_window.h"
+#include "window/about_window.h"
 #include "window/faces.h"
 #include "window/main_window.h"
 #include "window/palette.h"
@@ -21,7 +21,8 @@ namespace {
 /// A program in its window, in one language, that takes pictures of itself.
 class Studio {
 public:
-    Studio(std::uint8_t language, const QString& folder) : prefix(folder + (language == 1 ? "/en-" : "/ru-")) {
+    Studio(std::uint8_t language, const QString& folder)
+        : prefix(folder + (language == 1 ? "/en-" : "/ru-")) {
         platform.programFolder = QCoreApplication::applicationDirPath();
         platform.settingsFolder = platform.programFolder;
         Form_Load(program, {language, true});
@@ -49,15 +50,15 @@ public:
     void TakeSecondaryWindows() {
         if (program.form.utbN(68).Text().isEmpty()) {
             program.form.utbN(68).SetText(QStringLiteral("Frightful Presence"));
-            program.form.utbD(68).SetText(QStringLiteral(
-                "Enemies next to the creature are so frightened that they may flee at the start of their turn, "
-                "and never strike back on the turn after."));
+            program.form.utbD(68).SetText(
+                QStringLiteral("Enemies next to the creature are so frightened that they may flee "
+                               "at the start of their turn, "
+                               "and never strike back on the turn after."));
         }
         program.state.AbilityInfoIndex = 68;
         Take(*new AbilityWindow(program, window.get()), "ability");
         Take(*new AboutWindow(program, window.get()), "about");
-        Take(*new StatusWindow(program, window.get(),
-                               program.state.MsgNoCalculator), "status");
+        Take(*new StatusWindow(program, window.get(), program.state.MsgNoCalculator), "status");
     }
 
 private:
