@@ -32,13 +32,31 @@ constexpr OddNames OddTextFiles[] = {
 /// No text of the game comes near it.
 constexpr qint64 LargestText = 1 << 20;
 
+constexpr const char* TextTree = "Text/Game/Creatures/Creature_abilities";
+const QString Extension = QStringLiteral(".txt");
+
+QString Stem(int index) {
+    return QString::fromUtf16(AbilityCatalogue[static_cast<std::size_t>(index)].stem);
+}
+
 QString LoadText(PathLookup& tree, const QStringList& levels, CodePage fallback) {
-    const QString path = tree.Find(levels);
-    if (path.isEmpty())
-        return {};
-    const auto content = ReadFile(path, LargestText);
+    auto content = ReadFile(tree.Spelled(levels), LargestText);
+    if (std::holds_alternative<ReadProblem>(content)) {
+        const QString otherCase = tree.Find(levels);
+        if (otherCase.isEmpty())
+            return {};
+        content = ReadFile(otherCase, LargestText);
+    }
     const auto* bytes = std::get_if<QByteArray>(&content);
     return bytes == nullptr ? QString() : DecodeText(*bytes, fallback);
+}
+
+/// The texts of every ability when the language has no tree.
+void ClearAbilityTexts(MainForm& form) {
+    for (StoredText& name : form.utbN)
+        name.SetText({});
+    for (StoredText& desc : form.utbD)
+        desc.SetText({});
 }
 
 QString WithoutLineEnd(const QString& text) {
@@ -53,7 +71,7 @@ QString WithoutLineEnd(const QString& text) {
 
 void AbilityTextFiles(SharedState& state, int index) {
     const AbilityRow& row = AbilityCatalogue[static_cast<std::size_t>(index)];
-    const QString stem = QString::fromUtf16(row.stem);
+    const QString stem = Stem(index);
     switch (row.files) {
     case TextFileNames::Stem:
         state.AbilityNameFile = stem + QLatin1String("_name");
@@ -74,30 +92,26 @@ void AbilityTextFiles(SharedState& state, int index) {
     }
 }
 
+QString AbilityTextFolder(const QString& languageCode, int index) {
+    return languageCode + u'/' + QLatin1String(TextTree) + u'/' + Stem(index);
+}
+
 void LoadAbilityTexts(Program& program) {
     SharedState& state = program.state;
     const CodePage fallback =
         state.LanguageCode == QLatin1String("RU") ? CodePage::Windows1251 : CodePage::Windows1252;
-    PathLookup program_folder(program.platform.ProgramFolder());
-    const QString root =
-        program_folder.Find({state.LanguageCode, QStringLiteral("Text"), QStringLiteral("Game"),
-                             QStringLiteral("Creatures"), QStringLiteral("Creature_abilities")});
-    if (root.isEmpty()) {
-        for (int i = 1; i <= Ability::Count; ++i) {
-            program.form.utbN(i).SetText({});
-            program.form.utbD(i).SetText({});
-        }
-        return;
-    }
+    const QStringList levels =
+        QStringList(state.LanguageCode) + QString(QLatin1String(TextTree)).split(u'/');
+    const QString root = PathLookup(program.platform.ProgramFolder()).Find(levels);
+    if (root.isEmpty())
+        return ClearAbilityTexts(program.form);
     PathLookup tree(root);
     for (int i = 1; i <= Ability::Count; ++i) {
         AbilityTextFiles(state, i);
-        const QString stem = QString::fromUtf16(AbilityCatalogue[static_cast<std::size_t>(i)].stem);
-        const QString extension = QStringLiteral(".txt");
-        const QString name = LoadText(tree, {stem, state.AbilityNameFile + extension}, fallback);
+        const QString name = LoadText(tree, {Stem(i), state.AbilityNameFile + Extension}, fallback);
+        const QString desc = LoadText(tree, {Stem(i), state.AbilityDescFile + Extension}, fallback);
         program.form.utbN(i).SetText(WithoutLineEnd(name));
-        program.form.utbD(i).SetText(
-            LoadText(tree, {stem, state.AbilityDescFile + extension}, fallback));
+        program.form.utbD(i).SetText(desc);
     }
 }
 

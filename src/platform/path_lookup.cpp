@@ -6,7 +6,7 @@
 namespace Hesperin {
 
 QString PathLookup::Find(const QStringList& levels) {
-    const QString spelled = folder + u'/' + levels.join(u'/');
+    QString spelled = Spelled(levels);
     if (QFileInfo::exists(spelled))
         return spelled;
     QString path = folder;

@@ -12,6 +12,9 @@ class PathLookup {
 public:
     explicit PathLookup(QString root) : folder(std::move(root)) {}
 
+    /// The path as spelled, whether there is such a file or not.
+    QString Spelled(const QStringList& levels) const { return folder + u'/' + levels.join(u'/'); }
+
     /// Path of the file at `levels` below the folder: as spelled where that exists, else without
     /// regard to letter case, level by level; empty when there is none.
     QString Find(const QStringList& levels);

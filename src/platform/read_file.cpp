@@ -15,9 +15,12 @@ std::variant<QByteArray, ReadProblem> ReadFile(const QString& path, qint64 limit
                                          : ReadProblem::Kind::Missing,
                            file.errorString()};
     }
-    if (file.size() > limit)
+    const qint64 told = file.size(); // 0 for a file that doesn't tell
+    if (told > limit)
         return ReadProblem{ReadProblem::Kind::TooLarge, {}};
-    QByteArray bytes = file.read(limit + 1);
+    QByteArray bytes = file.read(told > 0 ? told + 1 : limit + 1);
+    if (told > 0 && bytes.size() > told) // it grows
+        bytes += file.read(limit + 1 - bytes.size());
     if (file.error() != QFileDevice::NoError)
         return ReadProblem{ReadProblem::Kind::Unreadable, file.errorString()};
     if (bytes.size() > limit)

@@ -40,9 +40,11 @@ const Column& ColumnOf(std::span<const Column> columns, int place) {
     return columns[static_cast<std::size_t>(place / RowsPerColumn)];
 }
 
-BoxView* AddBox(CheckBox& box, QWidget& page, std::span<const Column> columns, int place, int top) {
+void AddBox(CheckBox& box, QWidget& page, std::span<const Column> columns, int place, int top,
+            ClickOperation rightClick = {}) {
     const Column& column = ColumnOf(columns, place);
-    return new BoxView(box, &page, PlaceOf(place, column.boxLeft, column.boxWidth, BoxHeight, top));
+    new BoxView(box, &page, PlaceOf(place, column.boxLeft, column.boxWidth, BoxHeight, top),
+                std::move(rightClick));
 }
 
 void AddSelector(MultiOption& selector, const CheckBox& box, QWidget& page,
@@ -56,10 +58,9 @@ void AddSelector(MultiOption& selector, const CheckBox& box, QWidget& page,
 
 void BuildAbilitiesPage(Program& program, QWidget& page, int top) {
     for (CheckBox& box : program.form.Abilities) {
-        const int index = box.ArrayIndex();
-        AddBox(box, page, AbilityColumns, index - 1, top)->SetRightClick([&program, index] {
-            Abilities_RightClick(program, static_cast<std::int16_t>(index));
-        });
+        const auto index = static_cast<std::int16_t>(box.ArrayIndex());
+        AddBox(box, page, AbilityColumns, index - 1, top,
+               [&program, index] { Abilities_RightClick(program, index); });
     }
 }
 

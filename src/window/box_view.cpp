@@ -6,7 +6,8 @@
 
 namespace Hesperin {
 
-BoxView::BoxView(CheckBox& box, QWidget* parent, const QRect& place) : View(box, parent) {
+BoxView::BoxView(CheckBox& box, QWidget* parent, const QRect& place, ClickOperation rightClick)
+    : View(box, parent), rightClicked(std::move(rightClick)) {
     constexpr int indicator = 22; // with its gap to the caption
     setGeometry(place);
     setText(control.Caption());
@@ -24,8 +25,8 @@ void BoxView::Sync() {
 }
 
 void BoxView::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::RightButton && rightClick)
-        rightClick();
+    if (event->button() == Qt::RightButton && rightClicked)
+        rightClicked();
     else
         QCheckBox::mousePressEvent(event);
 }

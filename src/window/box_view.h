@@ -10,17 +10,15 @@ namespace Hesperin {
 /// A check box whose caption shrinks until it fits.
 class BoxView : public View<QCheckBox, CheckBox> {
 public:
-    BoxView(CheckBox& box, QWidget* parent, const QRect& place);
-
-    /// What a right click does; nothing by default.
-    void SetRightClick(ClickOperation operation) { rightClick = std::move(operation); }
+    /// `rightClick` runs at a click with the right button, which leaves the tick alone.
+    BoxView(CheckBox& box, QWidget* parent, const QRect& place, ClickOperation rightClick = {});
 
 protected:
     void Sync() override;
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
-    ClickOperation rightClick;
+    ClickOperation rightClicked;
 };
 
 } // namespace Hesperin

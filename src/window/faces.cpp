@@ -11,12 +11,18 @@ namespace Hesperin {
 
 namespace {
 
-/// The first of `wanted` that is installed, or the last. Asks for the list of names, which costs
-/// the start a fifth of what a question for each name would: that one goes through all substitutes.
+/// A listed family carries its foundry behind it where there are several: "Z003 [urw]".
+bool IsFamily(const QString& listed, const QString& family) {
+    return listed == family || listed.startsWith(family + QLatin1String(" ["));
+}
+
+/// The first of `wanted` that is installed, or the last. Asks for the list of names once: a
+/// question for a single name goes through all its substitutes.
 QString Installed(const QStringList& wanted) {
-    static const QStringList installed = QFontDatabase::families();
+    static const QStringList listed = QFontDatabase::families();
     for (const QString& family : wanted)
-        if (installed.contains(family))
+        if (std::any_of(listed.begin(), listed.end(),
+                        [&family](const QString& name) { return IsFamily(name, family); }))
             return family;
     return wanted.constLast();
 }

@@ -1,6 +1,7 @@
 #include "window/window_platform.h"
 
 #include "localisation/string_tables.h"
+#include "platform/save_file.h"
 #include "window/ability_window.h"
 #include "window/about_window.h"
 #include "window/main_window.h"
@@ -11,7 +12,6 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QProcess>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 namespace Hesperin {
@@ -51,15 +51,6 @@ void Prepare(QFileDialog& shown, const FileDialog& dialog, QFileDialog::AcceptMo
     shown.setDirectory(last.isAbsolute() ? last.absolutePath() : dialog.InitialDirectory);
     if (!dialog.FileName.isEmpty())
         shown.selectFile(last.fileName());
-}
-
-/// Why nothing can be written there; empty when it can. Leaves what is there as it is.
-QString WriteObstacle(const QString& path) {
-    QSaveFile probe(path);
-    const bool writable = probe.open(QIODevice::WriteOnly);
-    const QString reason = probe.errorString();
-    probe.cancelWriting();
-    return writable ? QString() : reason;
 }
 
 } // namespace
@@ -102,7 +93,7 @@ bool WindowPlatform::ShowSaveDialog(FileDialog& dialog) {
     Prepare(shown, dialog, QFileDialog::AcceptSave);
     while (shown.exec() == QDialog::Accepted) {
         const QString path = shown.selectedFiles().value(0);
-        const QString obstacle = WriteObstacle(path);
+        const QString obstacle = SaveObstacle(path);
         if (obstacle.isEmpty()) {
             dialog.FileName = path;
             return true;
