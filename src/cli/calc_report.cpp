@@ -142,10 +142,9 @@ QJsonObject CalcJson(const QString& file, bool opened, const Program& program,
 QString CalcTable(const QString& file, const Program& program, const CliPlatform& platform) {
     const SharedState& state = program.state;
     const MainForm& form = program.form;
+    const QString upgraded = state.UpgradeFactor == 1.0F ? QString() : QStringLiteral(", upgraded");
     QString text = QStringLiteral("%1: %2, tier %3%4\n")
-                       .arg(file, state.CreatureName)
-                       .arg(state.Tier)
-                       .arg(state.UpgradeFactor == 1.0F ? QString() : QStringLiteral(", upgraded"));
+                       .arg(file, state.CreatureName, QString::number(state.Tier), upgraded);
     text += QStringLiteral("  %1%2%3%4%5\n")
                 .arg(QString(), -12)
                 .arg(QStringLiteral("Rolvane"), 10)

@@ -61,7 +61,7 @@ bool Play(QFile& script, const QString& name, ScriptStage& stage) {
         if (reason.isEmpty())
             continue;
         allDone = false;
-        Complain(QStringLiteral("%1:%2: %3").arg(name).arg(number).arg(reason));
+        Complain(QStringLiteral("%1:%2: %3").arg(name, QString::number(number), reason));
     }
     if (script.error() == QFileDevice::NoError)
         return allDone;

@@ -66,8 +66,7 @@ QString Choose(ScriptStage& stage, const QString& arguments) {
         const int index = words.rest.toInt(&isNumber);
         if (!isNumber || index < 0 || index >= list.Items().size())
             return QStringLiteral("'%1' has no entry '%2'; it has 0 to %3")
-                .arg(list.Name(), words.rest)
-                .arg(list.Items().size() - 1);
+                .arg(list.Name(), words.rest, QString::number(list.Items().size() - 1));
         list.Select(static_cast<std::int16_t>(index));
         return QString();
     });

@@ -64,8 +64,10 @@ void mnuOpen_Click(Program& program) {
     dialog.InitialDirectory = program.platform.ProgramFolder();
     dialog.Filter = QStringLiteral("Heroes of Might and Magic V Files (*.xdb )|*.xdb");
     dialog.DefaultExtension = QStringLiteral("xdb");
-    if (program.platform.ShowOpenDialog(dialog) && !dialog.FileName.isEmpty())
-        OpenCreatureFile(program, dialog.FileName);
+    const QString lastName = dialog.FileName;
+    if (program.platform.ShowOpenDialog(dialog) && !dialog.FileName.isEmpty() &&
+        !OpenCreatureFile(program, dialog.FileName))
+        dialog.FileName = lastName;
 }
 
 bool OpenCreatureFile(Program& program, const QString& path) {

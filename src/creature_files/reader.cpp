@@ -1,7 +1,6 @@
 #include "creature_files/reader.h"
 
-#include "catalogues/ability_catalogue.h"
-#include "catalogues/spell_catalogue.h"
+#include "creature_files/file_tokens.h"
 #include "creature_files/scanning.h"
 #include "localisation/string_tables.h"
 
@@ -39,39 +38,6 @@ constexpr NumberElement GrowthAndCostNumbers[] = {
     {u"<Gold>", u"</Gold>", &MainForm::txtGoldf, &SharedState::FileGold},
 };
 
-/// Every token of a catalogue behind its prefix, made once for the life of the process.
-template <std::size_t Count, typename TokenOf>
-std::array<QString, Count> Prefixed(const char* prefix, TokenOf tokenOf) {
-    std::array<QString, Count> tokens;
-    for (std::size_t i = 0; i < Count; ++i)
-        tokens[i] = QLatin1String(prefix) + QString::fromUtf16(tokenOf(i));
-    return tokens;
-}
-
-const auto& AbilityTokens() {
-    static const auto tokens = Prefixed<Ability::Count + 1>(
-        "ABILITY_", [](std::size_t i) { return AbilityCatalogue[i].token; });
-    return tokens;
-}
-
-const auto& SpellTokens() {
-    static const auto tokens =
-        Prefixed<SpellCount + 1>("SPELL_", [](std::size_t i) { return SpellToken[i]; });
-    return tokens;
-}
-
-const auto& SpecabilityTokens() {
-    static const auto tokens = Prefixed<SpecabilityCount + 1>(
-        "SPELL_ABILITY_", [](std::size_t i) { return SpecabilityToken[i]; });
-    return tokens;
-}
-
-const auto& MasteryTokens() {
-    static const auto tokens =
-        Prefixed<MasteryCount>("MASTERY_", [](std::size_t level) { return MasteryToken[level]; });
-    return tokens;
-}
-
 class Scan {
 public:
     explicit Scan(Program& owner)
@@ -108,9 +74,9 @@ private:
             return std::nullopt;
         }
         if (number.limited)
-            limited.append(QStringLiteral("%1 %2 (%3)")
-                               .arg(ElementName(openingTag), number.text)
-                               .arg(number.value));
+            limited.append(
+                QStringLiteral("%1 %2 (%3)")
+                    .arg(ElementName(openingTag), number.text, QString::number(number.value)));
         return number.value;
     }
 

@@ -44,7 +44,7 @@ constexpr MessageRow Messages[] = {
     {&SharedState::MsgFileUnreadable,  {u"It cannot be read: %1.",                                u"Его не удаётся прочитать: %1.",                            nullptr,                                                nullptr}},
     {&SharedState::MsgFileTooLarge,    {u"It is larger than %1 bytes; a creature file never is.", u"Он больше %1 байт, а файл существа всегда меньше.",        nullptr,                                                nullptr}},
     {&SharedState::MsgNotWellFormed,   {u"It is not well-formed XML: %1",                         u"Это не правильно построенный XML.",                        nullptr,                                                nullptr}},
-    {&SharedState::MsgEndsEarly,       {u"It ends too early: an element is not closed.",          u"Он обрывается: элемент не закрыт.",                        nullptr,                                                nullptr}},
+    {&SharedState::MsgEndsEarly,       {u"It ends too early; one whole <Creature> element was expected.",          u"Он обрывается, а нужен один целый элемент <Creature>.",                        nullptr,                                                nullptr}},
     {&SharedState::MsgWrongRoot,       {u"Its root element is <%1>; <Creature> was expected.",    u"Его корневой элемент <%1>, а нужен <Creature>.",           nullptr,                                                nullptr}},
     {&SharedState::MsgTextTooLong,
      {u"Its text is longer than %1 characters; a creature file never is.",

@@ -23,7 +23,9 @@ QString SaveFile(const QString& path, const QByteArray& bytes) {
     const QString obstacle = Open(file);
     if (!obstacle.isEmpty())
         return obstacle;
-    const bool complete = file.write(bytes) == bytes.size() && file.commit();
+    // commit() alone doesn't notice that its last write failed: on a full disk it would replace the
+    // old file by half of the new one.
+    const bool complete = file.write(bytes) == bytes.size() && file.flush() && file.commit();
     return complete ? QString() : file.errorString();
 }
 

@@ -26,7 +26,8 @@ QString DecodeText(const QByteArray& bytes, CodePage fallback) {
         return DecodeUtf16(bytes, QStringConverter::Utf16LE);
     if (bytes.startsWith("\xFE\xFF"))
         return DecodeUtf16(bytes, QStringConverter::Utf16BE);
-    QStringDecoder utf8(QStringConverter::Utf8);
+    // Stateless: a character that the end cuts off is an error too.
+    QStringDecoder utf8(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
     const QString text = utf8(bytes);
     if (!utf8.hasError() && !bytes.contains('\0'))
         return text;

@@ -74,7 +74,7 @@ public:
         out += u'>';
     }
 
-    qsizetype Length() const { return out.size() + text.size(); }
+    qsizetype Length() const { return out.size(); }
     QString Take() { return std::move(out); }
 
 private:

@@ -107,6 +107,7 @@ TEST(Open, KeepsTheNormalisedTextAndForgetsTheCreatureBefore) {
     TestProgram test;
     TestProgram fresh;
     OpenCaster(test);
+    test.form.Specabilities(1).SetTicked(true); // no ability box reaches it
     const QByteArray bytes = CreatureXml().Bytes();
     for (TestProgram* program : {&test, &fresh})
         ASSERT_TRUE(OpenCreatureFile(program->program, test.Write("Creature_179.xdb", bytes)));
