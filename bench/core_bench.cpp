@@ -1,15 +1,23 @@
-// Calculate beside the bare formulas, and opening a creature file beside the XML parser alone.
+// What happens inside one process: Calculate beside the bare formulas, opening a creature file beside the XML
+// parser alone, saving beside writing the same bytes, a language switch beside reading the same files.
+#include "lay_texts.h"
 #include "ratios.h"
 
 #include "cli/cli_platform.h"
 #include "creature_files/document.h"
 #include "creature_files/file_commands.h"
+#include "creature_files/writer.h"
 #include "engine/calculate.h"
 #include "engine/formulas.h"
+#include "localisation/ability_texts.h"
+#include "localisation/language_menu.h"
+#include "platform/save_file.h"
 #include "ui/form_load.h"
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QSaveFile>
+#include <QTemporaryDir>
 #include <QXmlStreamReader>
 
 using namespace Hesperin;
@@ -28,7 +36,7 @@ QByteArray SampleBytes() {
 /// A program with the sample opened: no Calculate on it shows a warning.
 struct OpenedProgram {
     OpenedProgram() {
-        Form_Load(program, {1, false});
+        Form_Load(program, {std::uint8_t{1}, false});
         OpenCreatureFile(program, QString::fromUtf8(Sample));
     }
     CliPlatform platform;
@@ -81,6 +89,75 @@ void OpenFromMemory(benchmark::State& state) {
 }
 BENCHMARK(OpenFromMemory);
 
+/// A creature with every box ticked that can be, saved over and over at one place.
+struct FullProgram {
+    FullProgram() {
+        Form_Load(program, {std::uint8_t{1}, false});
+        for (CheckBox& box : program.form.Abilities)
+            box.SetTicked(true);
+        for (CheckBox& box : program.form.Spells)
+            box.SetTicked(true);
+    }
+    QTemporaryDir folder;
+    QString path = folder.filePath(QStringLiteral("full.xdb"));
+    CliPlatform platform;
+    Program program{platform};
+};
+
+void SaveBytesAlone(benchmark::State& state) {
+    const FullProgram full;
+    const QByteArray bytes =
+        CreatureFileBytes(BuildCreatureText(full.program, QStringLiteral("Full")));
+    for (auto _ : state) {
+        QSaveFile file(full.path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+            state.SkipWithError("the file could not be written");
+    }
+}
+BENCHMARK(SaveBytesAlone);
+
+void BuildAndSave(benchmark::State& state) {
+    const FullProgram full;
+    for (auto _ : state) {
+        const QString text = BuildCreatureText(full.program, QStringLiteral("Full"));
+        if (!SaveFile(full.path, CreatureFileBytes(text)).isEmpty())
+            state.SkipWithError("the file could not be written");
+    }
+}
+BENCHMARK(BuildAndSave);
+
+/// Paths of the 348 texts of one language.
+QStringList TextPaths(const QString& folder) {
+    QStringList paths;
+    SharedState state;
+    for (int i = 1; i <= Ability::Count; ++i) {
+        AbilityTextFiles(state, i);
+        const QString stem = folder + u'/' + AbilityTextFolder(QStringLiteral("EN"), i) + u'/';
+        paths += {stem + state.AbilityNameFile + QLatin1String(".txt"),
+                  stem + state.AbilityDescFile + QLatin1String(".txt")};
+    }
+    return paths;
+}
+
+void ReadTextsAlone(benchmark::State& state) {
+    const QStringList paths = TextPaths(QCoreApplication::applicationDirPath());
+    for (auto _ : state)
+        for (const QString& path : paths) {
+            QFile file(path);
+            if (!file.open(QIODevice::ReadOnly))
+                state.SkipWithError("a text is missing");
+            benchmark::DoNotOptimize(file.readAll());
+        }
+}
+BENCHMARK(ReadTextsAlone);
+
+void SwitchLanguage(benchmark::State& state) {
+    OpenedProgram opened;
+    for (auto _ : state)
+        mnuEnglish_Click(opened.program);
+}
+BENCHMARK(SwitchLanguage);
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -88,5 +165,7 @@ int main(int argc, char** argv) {
     return RunAndPrintRatios(
         argc, argv,
         {{"Calculate from fields to labels", "CalculateFromFields", "BareFormulas"},
-         {"Opening a creature file from memory", "OpenFromMemory", "XmlParserAlone"}});
+         {"Opening a creature file from memory", "OpenFromMemory", "XmlParserAlone"},
+                              {"Building and writing a full creature file", "BuildAndSave", "SaveBytesAlone"},
+                              {"Language switch, 348 texts", "SwitchLanguage", "ReadTextsAlone"}});
 }

@@ -1,9 +1,7 @@
 // Whole processes, in turn, each beside its floor: the window to its first complete picture with
 // the 348 ability texts on disk, and the command line on one file.
+#include "lay_texts.h"
 #include "start_pairs.h"
-
-#include "catalogues/ability_catalogue.h"
-#include "localisation/ability_texts.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -13,26 +11,30 @@
 
 using namespace Hesperin;
 
+static const QString SamplesFolder = QStringLiteral(TALMIR_SOURCE_DIR "/samples/");
+
 namespace {
 
-/// Lays a text tree of both languages beside the program that is measured.
-void LayTexts(const QString& programFolder) {
-    SharedState state;
-    for (const char* language : {"EN", "RU"})
-        for (int i = 1; i <= Ability::Count; ++i) {
-            AbilityTextFiles(state, i);
-            const QString folder =
-                programFolder + u'/' + QLatin1String(language) +
-                QLatin1String("/Text/Game/Creatures/Creature_abilities/") +
-                QString::fromUtf16(AbilityCatalogue[static_cast<std::size_t>(i)].stem);
-            QDir().mkpath(folder);
-            for (const QString& name : {state.AbilityNameFile, state.AbilityDescFile}) {
-                QFile file(folder + u'/' + name + QLatin1String(".txt"));
-                if (file.open(QIODevice::WriteOnly))
-                    file.write(
-                        QString(QStringLiteral("Text of an ability ") + name).repeated(4).toUtf8());
-            }
-        }
+/// Copies of the samples with other values, so many that a whole mod has no more.
+QStringList MakeMod(const QString& folder) {
+    constexpr int count = 2000;
+    QDir().mkpath(folder);
+    QList<QByteArray> samples;
+    for (const QString& name : QDir(SamplesFolder).entryList({QStringLiteral("*.xdb")})) {
+        QFile file(SamplesFolder + name);
+        if (file.open(QIODevice::ReadOnly))
+            samples.append(file.readAll());
+    }
+    QStringList paths;
+    for (int i = 0; i < count; ++i) {
+        QByteArray creature = samples[i % samples.size()];
+        creature.replace("<AttackSkill>", "<AttackSkill>" + QByteArray::number(i % 5));
+        paths.append(QStringLiteral("%1/creature_%2.xdb").arg(folder).arg(i));
+        QFile file(paths.constLast());
+        if (file.open(QIODevice::WriteOnly))
+            file.write(creature);
+    }
+    return paths;
 }
 
 } // namespace
@@ -47,7 +49,10 @@ int main(int argc, char** argv) {
               {here + "/start/empty_start", {}});
     PrintPair("Process start to result, one file",
               {here + "/talmir-cli",
-               {"calc", QStringLiteral(TALMIR_SOURCE_DIR "/samples/frost_witch.xdb")}},
+               {"calc", SamplesFolder + "frost_witch.xdb"}},
               {here + "/start/one_line", {}});
+    const QStringList mod = MakeMod(here + QLatin1String("/start/mod"));
+    PrintPair("2,000 files on the command line", {here + "/talmir-cli", QStringList{"calc", "--json"} + mod},
+              {here + "/start/read_all", mod});
     return 0;
 }

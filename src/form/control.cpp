@@ -17,7 +17,7 @@ SplitName Split(const QString& name) {
     const QStringView digits = QStringView(name).mid(open + 1, name.size() - open - 2);
     bool isNumber = false;
     const int index = digits.toInt(&isNumber);
-    const bool canonical = isNumber && QString::number(index) == digits;
+    const bool canonical = isNumber && index >= 0 && QString::number(index) == digits;
     return canonical ? SplitName{name.left(open), index} : SplitName{name, -1};
 }
 

@@ -63,9 +63,11 @@ AbilityWindow::AbilityWindow(Program& owner, QWidget* mainWindow)
     ground.setColor(QPalette::Base, palette().color(QPalette::Window));
     description->setPalette(ground);
     constexpr int scrollBar = 20; // the text must not need one because it shows one
+    constexpr int slack = 4;      // the field leaves a little room around its lines
+    const int lines =
+        WrappedLines(form.utbD(index).Text(), ReadingFace(), Pixels(10575) - scrollBar);
     const int wanted =
-        WrappedLines(form.utbD(index).Text(), ReadingFace(), Pixels(10575) - scrollBar) *
-        std::max(LineHeight, QFontMetrics(ReadingFace()).lineSpacing());
+        std::max(lines * LineHeight, lines * QFontMetrics(ReadingFace()).lineSpacing() + slack);
     const int room = screen()->availableGeometry().height() - BelowText - LineHeight;
     const int height = std::min(wanted, std::max(room, LineHeight));
     if (height < wanted)

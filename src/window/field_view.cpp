@@ -40,11 +40,11 @@ bool FieldView::Admits(const QString& typed) const {
 
 void FieldView::keyPressEvent(QKeyEvent* event) {
     const QString typed = event->text();
-    const bool command =
-        event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-    if (!command && !typed.isEmpty() && typed.at(0).isPrint() && !Admits(typed))
-        return; // swallowed
-    QLineEdit::keyPressEvent(event);
+    const auto modifiers = event->modifiers() & ~Qt::ShiftModifier;
+    const bool isCommand = modifiers == Qt::ControlModifier || typed.isEmpty() ||
+                           typed.at(0).unicode() < u' ' || typed.at(0) == QChar(0x7F);
+    if (isCommand || Admits(typed))
+        QLineEdit::keyPressEvent(event); // any other key is swallowed
 }
 
 void FieldView::inputMethodEvent(QInputMethodEvent* event) {

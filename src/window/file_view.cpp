@@ -2,6 +2,8 @@
 
 #include "window/faces.h"
 
+#include <QKeyEvent>
+
 namespace Hesperin {
 
 FileView::FileView(TextBuffer& buffer, QWidget* parent) : View(buffer, parent) {
@@ -17,6 +19,18 @@ FileView::FileView(TextBuffer& buffer, QWidget* parent) : View(buffer, parent) {
 
 void FileView::Sync() {
     setPlainText(control.Text());
+}
+
+bool FileView::event(QEvent* event) {
+    // Here Ctrl+C and Ctrl+A copy and select; they don't reach the menu.
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (key->matches(QKeySequence::Copy) || key->matches(QKeySequence::SelectAll)) {
+            event->accept();
+            return true;
+        }
+    }
+    return QPlainTextEdit::event(event);
 }
 
 } // namespace Hesperin

@@ -14,6 +14,7 @@ public:
 
 protected:
     void Sync() override;
+    bool event(QEvent* event) override;
 };
 
 } // namespace Hesperin

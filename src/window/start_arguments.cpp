@@ -4,6 +4,16 @@
 
 namespace Hesperin {
 
+namespace {
+
+const QStringList ToolkitOptions{
+    QStringLiteral("-platform"),        QStringLiteral("-platformpluginpath"),
+    QStringLiteral("-platformtheme"),   QStringLiteral("-plugin"),
+    QStringLiteral("-qwindowgeometry"), QStringLiteral("-style"),
+    QStringLiteral("-display"),         QStringLiteral("-geometry")};
+
+} // namespace
+
 StartArguments ReadStartArguments(const QStringList& arguments) {
     const QString usage =
         QStringLiteral("Usage: talmir [FILE]\n"
@@ -12,7 +22,12 @@ StartArguments ReadStartArguments(const QStringList& arguments) {
                        "  -h, --help     Shows this help.\n"
                        "  -v, --version  Shows the version.");
     StartArguments start;
-    for (const QString& argument : arguments) {
+    for (qsizetype at = 0; at < arguments.size(); ++at) {
+        const QString& argument = arguments[at];
+        if (ToolkitOptions.contains(argument)) {
+            ++at; // and its value
+            continue;
+        }
         if (argument == QLatin1String("-h") || argument == QLatin1String("--help"))
             return {usage, false, {}};
         if (argument == QLatin1String("-v") || argument == QLatin1String("--version"))

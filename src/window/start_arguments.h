@@ -11,7 +11,8 @@ struct StartArguments {
     QString creatureFile; ///< to be opened at the start; empty for none
 };
 
-/// `arguments` without the program's own name. Options of the toolkit have been taken out before.
+/// `arguments` without the program's own name. Options of the toolkit ("-platform offscreen") are
+/// passed over.
 StartArguments ReadStartArguments(const QStringList& arguments);
 
 } // namespace Hesperin

@@ -34,9 +34,9 @@ private:
         const QFontMetrics metrics(bar.font());
         bar.setTabText(index, metrics.elidedText(page.Caption(), Qt::ElideMiddle, LongestCaption));
         bar.setTabToolTip(index, page.Caption());
+        if (bar.currentIndex() == index && !page.On())
+            bar.setCurrentIndex(0); // before the bar looks for a neighbour
         bar.setTabEnabled(index, page.Enabled());
-        if (bar.currentIndex() == index && !page.Visible())
-            bar.setCurrentIndex(0);
         bar.setTabVisible(index, page.Visible());
     }
 

@@ -124,15 +124,13 @@ TEST(Calculate, TheMinimumDamageFollowsTheMaximum) {
         const char* minimumAfter;
         const char* maximumAfter;
     } cases[] = {
-        {"20", "20", {}, "20", "20"},
-        {"90", "95", {}, "90", "95"},
-        {"95", "95", {low}, "90", "95"},
-        {"30", "20", {order}, "20", "20"},
-        {"100", "20", {low, order}, "20", "20"},
-        {"50", "0", {high, order}, "1", "1"},
-        {"0", "200", {low, high}, "1", "95"},
-        {"2.5", "1.6", {}, "2.5", "1.6"},
+        // clang-format off
+        {"20", "20", {}, "20", "20"},            {"90", "95", {}, "90", "95"},
+        {"95", "95", {low}, "90", "95"},         {"30", "20", {order}, "20", "20"},
+        {"100", "20", {low, order}, "20", "20"}, {"50", "0", {high, order}, "1", "1"},
+        {"0", "200", {low, high}, "1", "95"},    {"2.5", "1.6", {}, "2.5", "1.6"},
         {"3.4", "1.6", {order}, "2", "2"},
+        // clang-format on
     };
     for (const auto& row : cases) {
         SCOPED_TRACE(testing::Message() << row.minimum << " to " << row.maximum);

@@ -98,7 +98,6 @@ TEST(ControlRegistry, FindsControlsByTheirExactNameOnly) {
                              "txtAttack ",
                              " txtAttack",
                              "txtAttack(0)",
-                             "txtAttack(-1)",
                              "txtAttack()",
                              "Abilities",
                              "Abilities()",
@@ -122,6 +121,12 @@ TEST(ControlRegistry, FindsControlsByTheirExactNameOnly) {
         EXPECT_EQ(form.Find(QString::fromUtf8(name)), nullptr);
     }
     EXPECT_EQ(form.Find(QString::fromLatin1("txtAttack\0", 10)), nullptr);
+}
+
+TEST(ControlRegistry, AControlWithoutAnIndexHasNoNegativeOneEither) {
+    const MainForm form;
+    EXPECT_EQ(form.Find("txtAttack(-1)"), nullptr);
+    EXPECT_EQ(form.Find("Tablus.Tab(-1)"), nullptr);
 }
 
 TEST(ControlRegistry, EveryControlHasANameOfItsOwnAndAPlaceInTheWindow) {

@@ -1,0 +1,173 @@
+#include "localisation/ability_texts.h"
+
+#include "localisation/language_menu.h"
+#include "support/test_program.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+
+namespace Hesperin {
+
+namespace {
+
+/// Writes a file of the text tree; `name` begins with the language's folder.
+void WriteText(const TestProgram& test, const QString& language, const QString& name,
+               const QByteArray& bytes) {
+    const QString path = language + "/Text/Game/Creatures/Creature_abilities/" + name + ".txt";
+    QDir(test.folder.path()).mkpath(QFileInfo(path).path());
+    test.Write(path, bytes);
+}
+
+TEST(AbilityTexts, LieUnderTheGamesFileNames) {
+    const struct {
+        int index;
+        const char* nameFile;
+        const char* descFile;
+    } cases[] = {
+        // The eight odd ones.
+        {37, "Cursing_attack/Cursing_attack_name", "Cursing_attack/Cursin_attack_desc"},
+        {68, "Frightful_presence/Frightful_precence_name",
+         "Frightful_presence/Frightful_presence_desc"},
+        {95, "Life_drain/Life_drain_name", "Life_drain/Life_drain_desct"},
+        {98, "Lizard_bite_name/Lizard_bite_name", "Lizard_bite_name/Lizard_bite_desc"},
+        {102, "Magic_proof_50/Magic_proof50_name", "Magic_proof_50/Magic_proof50_desc"},
+        {103, "Magic_proof_75/Magic_proof75_name", "Magic_proof_75/Magic_proof75_desc"},
+        {132, "Rebirth/Rebrith_name", "Rebirth/Rebrith_desc"},
+        {145, "Shiled_other/Shield_other_name", "Shiled_other/Shield_other_desc"},
+        // Named after their folder.
+        {2, "Acid_breath/Acid_breath_name", "Acid_breath/Acid_breath_desc"},
+        {15, "Balor_summoning/Balor_summoning_name", "Balor_summoning/Balor_summoning_desc"},
+        {168, "War_dance_combo/War_dance_combo_name", "War_dance_combo/War_dance_combo_desc"},
+        {174, "Wound/Wound_name", "Wound/Wound_desc"},
+        // Plainly named.
+        {1, "AcidBlood/name", "AcidBlood/description"},
+        {28, "Presence_of_the_storm/name", "Presence_of_the_storm/description"},
+        {64, "Firestorm/name", "Firestorm/description"},
+        {173, "Whirlwind/name", "Whirlwind/description"},
+    };
+    TestProgram test;
+    WriteText(test, "EN", "Life_drain/Life_drain_desc", "not this one");
+    WriteText(test, "EN", "Rebirth/Rebirth_name", "not this one");
+    for (const auto& row : cases) {
+        WriteText(test, "EN", row.nameFile, row.nameFile);
+        WriteText(test, "EN", row.descFile, row.descFile);
+    }
+    LoadAbilityTexts(test.program);
+    int loaded = 0;
+    for (const StoredText& text : test.form.utbN)
+        loaded += text.Text().isEmpty() ? 0 : 1;
+    EXPECT_EQ(loaded, static_cast<int>(std::size(cases)));
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.index);
+        EXPECT_EQ(test.form.utbN(row.index).Text(), row.nameFile);
+        EXPECT_EQ(test.form.utbD(row.index).Text(), row.descFile);
+        AbilityTextFiles(test.state, row.index);
+        EXPECT_EQ(test.state.AbilityNameFile, QString(row.nameFile).section('/', 1));
+        EXPECT_EQ(test.state.AbilityDescFile, QString(row.descFile).section('/', 1));
+    }
+}
+
+/// Both texts of an ability, loaded in that language from these bytes.
+void ExpectDecoded(const char* language, const QByteArray& bytes, const char* text) {
+    TestProgram test;
+    test.state.LanguageCode = language;
+    WriteText(test, language, "Bash/Bash_name", bytes);
+    WriteText(test, language, "Bash/Bash_desc", bytes);
+    LoadAbilityTexts(test.program);
+    EXPECT_EQ(test.form.utbN(16).Text(), text);
+    EXPECT_EQ(test.form.utbD(16).Text(), text);
+}
+
+TEST(AbilityTexts, AreDecodedByTheirBytes) {
+    const QByteArray utf16le("\x16\x04\x61\0\x2C\x67", 6); // "Жa本"
+    const QByteArray utf16be("\x04\x16\0\x61\x67\x2C", 6);
+    const struct {
+        const char* what;
+        const char* language;
+        QByteArray bytes;
+        const char* text;
+    } cases[] = {
+        {"UTF-16 LE with a mark", "EN", QByteArray("\xFF\xFE") + utf16le, "Жa本"},
+        {"UTF-16 BE with a mark", "EN", QByteArray("\xFE\xFF") + utf16be, "Жa本"},
+        {"UTF-8", "EN", "Жa本", "Жa本"},
+        {"UTF-8 with a mark", "EN", "\xEF\xBB\xBFЖa本", "Жa本"},
+        {"UTF-8 in Russian", "RU", "Жар", "Жар"},
+        {"UTF-16 LE without a mark", "EN", QByteArray("F\0i\0r\0e\0", 8), "Fire"},
+        {"Windows-1252", "EN", "caf\xE9 \x80", "café €"},
+        {"Windows-1252 in German", "DE", "Z\xE4h", "Zäh"},
+        {"Windows-1251", "RU", "\xC6\xE0\xF0", "Жар"},
+        {"only the mark", "EN", "\xFF\xFE", ""},
+        {"empty", "EN", "", ""},
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.what);
+        ExpectDecoded(row.language, row.bytes, row.text);
+    }
+}
+
+TEST(AbilityTexts, ALetterThatWouldBeginAUtf8SequenceIsKeptAtTheEnd) {
+    ExpectDecoded("FR", "Agilit\xE9", "Agilité");
+    ExpectDecoded("DE", "\xC4", "Ä");
+    ExpectDecoded("RU", "2 \xE8", "2 и");
+}
+
+TEST(AbilityTexts, ANameLosesOneLineEndAndADescriptionNone) {
+    const struct {
+        const char* bytes;
+        const char* name;
+    } cases[] = {
+        // clang-format off
+        {"Bash\r\n", "Bash"},  {"Bash\n", "Bash"},      {"Bash\r", "Bash"},
+        {"Bash\n\n", "Bash\n"}, {"Bash\r\n\r\n", "Bash\r\n"}, {"A\nB", "A\nB"},
+        {"\n", ""},             {" Bash ", " Bash "},
+        // clang-format on
+    };
+    for (const auto& row : cases) {
+        TestProgram test;
+        WriteText(test, "EN", "Bash/Bash_name", row.bytes);
+        WriteText(test, "EN", "Bash/Bash_desc", row.bytes);
+        LoadAbilityTexts(test.program);
+        EXPECT_EQ(test.form.utbN(16).Text(), row.name);
+        EXPECT_EQ(test.form.utbD(16).Text(), row.bytes);
+    }
+}
+
+TEST(AbilityTexts, AreFoundInOtherLetterCase) {
+    TestProgram test;
+    const QString path = "en/TEXT/game/Creatures/creature_Abilities/BASH/bash_NAME.TXT";
+    QDir(test.folder.path()).mkpath(QFileInfo(path).path());
+    test.Write(path, "Bash");
+    LoadAbilityTexts(test.program);
+    EXPECT_EQ(test.form.utbN(16).Text(), "Bash");
+    WriteText(test, "EN", "Bash/Bash_name", "exact"); // the exact spelling is preferred
+    LoadAbilityTexts(test.program);
+    EXPECT_EQ(test.form.utbN(16).Text(), "exact");
+}
+
+TEST(AbilityTexts, FollowTheLanguageAndAreEmptyWhereTheTreeIsNot) {
+    TestProgram test;
+    WriteText(test, "EN", "Bash/Bash_name", "Bash");
+    WriteText(test, "RU", "Bash/Bash_name", "Оглушение");
+    WriteText(test, "RU", "Wound/Wound_desc", "Рана");
+    mnuEnglish_Click(test.program);
+    EXPECT_EQ(test.form.utbN(16).Text(), "Bash");
+    mnuRussian_Click(test.program);
+    EXPECT_EQ(test.form.utbN(16).Text(), "Оглушение");
+    EXPECT_EQ(test.form.utbN(174).Text(), "");
+    EXPECT_EQ(test.form.utbD(174).Text(), "Рана");
+    mnuEnglish_Click(test.program);
+    EXPECT_EQ(test.form.utbD(174).Text(), "");
+    mnuGerman_Click(test.program); // no such folder
+    EXPECT_EQ(test.form.utbN(16).Text(), "");
+    QDir(test.folder.path())
+        .mkpath("EN/Text/Game/Creatures/Creature_abilities/Wound/Wound_name.txt");
+    mnuEnglish_Click(test.program);
+    EXPECT_EQ(test.form.utbN(174).Text(), ""); // a folder in a file's place
+    EXPECT_EQ(test.form.utbN(16).Text(), "Bash");
+    EXPECT_TRUE(test.platform.boxes.empty());
+}
+
+} // namespace
+
+} // namespace Hesperin

@@ -1,0 +1,270 @@
+// What mouse, keys, clipboard and wheel do to the fields and lists of the first page.
+#include "window/agreement.h"
+
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QWheelEvent>
+
+namespace Hesperin {
+
+namespace {
+
+/// A caster and shooter, so that every field but the one of the number is open.
+void OpenAllFields(const WindowInUse& use) {
+    use.form.Abilities(29).SetTicked(true);
+    use.form.Abilities(147).SetTicked(true);
+}
+
+QString TextOf(const WindowInUse& use, const QString& field) {
+    return use.Find<QLineEdit>(field).text();
+}
+
+TEST(Fields, TakeTypedKeysThatTheyKnowUpToTheirLength) {
+    const struct {
+        const char* field;
+        const char* expected;
+    } cases[] = {
+        {"txtNC", "aZ_bc"},      {"txtAttack", "12"},     {"txtDefence", "12"},
+        {"txtMinDam", "12"},     {"txtMaxDam", "12"},     {"txtHealth", "123"},
+        {"txtShots", "12"},      {"txtMana", "123"},      {"txtPower", "12345"},
+        {"txtExp", "1234"},      {"txtGoldf", "1234"},    {"txtGrowthf", "12345"},
+        {"txtWoodf", "12345"},   {"txtOref", "1234"},     {"txtMercuryf", "12345"},
+        {"txtCrystalf", "1234"}, {"txtSulfurf", "12345"}, {"txtGemf", "1234"},
+    };
+    const WindowInUse use;
+    OpenAllFields(use);
+    for (const auto& test : cases) {
+        use.Type(test.field, "a-1Z.2_ 3/b4:c56");
+        EXPECT_EQ(TextOf(use, test.field), test.expected) << test.field;
+    }
+    EXPECT_EQ(Disagreements(use), "");
+}
+
+TEST(Fields, AreTypedIntoWhereTheCursorStands) {
+    const WindowInUse use;
+    use.Type("txtHealth", "13");
+    use.Key(Qt::Key_Left);
+    use.Key(Qt::Key_2);
+    EXPECT_EQ(TextOf(use, "txtHealth"), "123");
+    use.Key(Qt::Key_9);
+    EXPECT_EQ(TextOf(use, "txtHealth"), "123") << "full";
+    use.Key(Qt::Key_Backspace);
+    use.Key(Qt::Key_4);
+    EXPECT_EQ(TextOf(use, "txtHealth"), "143");
+    use.Key(Qt::Key_A, Qt::ControlModifier);
+    use.Key(Qt::Key_7);
+    EXPECT_EQ(TextOf(use, "txtHealth"), "7") << "what is selected makes room";
+    EXPECT_EQ(use.form.txtHealth.Text(), "7");
+}
+
+TEST(Fields, HaveNoKeyThatGetsRoundTheirFilter) {
+    const struct {
+        Qt::KeyboardModifiers modifiers;
+        QString typed;
+        const char* expected;
+    } cases[] = {
+        {Qt::NoModifier, "x", "4"},           {Qt::KeypadModifier, "7", "47"},
+        {Qt::ShiftModifier, "X", "4"},        {Qt::AltModifier, "x", "4"},
+        {Qt::MetaModifier, "x", "4"},         {Qt::ControlModifier | Qt::AltModifier, "x", "4"},
+        {Qt::NoModifier, QChar(0x200D), "4"}, {Qt::NoModifier, QChar(0xE000), "4"},
+    };
+    const WindowInUse use;
+    auto& field = use.Find<QLineEdit>("txtAttack");
+    for (const auto& test : cases) {
+        use.Type("txtAttack", "4");
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, test.modifiers, test.typed);
+        QApplication::sendEvent(&field, &press);
+        EXPECT_EQ(field.text(), test.expected)
+            << test.modifiers.toInt() << ' ' << test.typed.toStdString();
+    }
+}
+
+TEST(Fields, FilterWhatAnInputMethodTypes) {
+    const struct {
+        const char* committed;
+        const char* expected;
+    } cases[] = {{"x", "4"}, {"7", "47"}, {"78", "4"}, {"7x", "4"}};
+    const WindowInUse use;
+    auto& field = use.Find<QLineEdit>("txtAttack");
+    for (const auto& test : cases) {
+        use.Type("txtAttack", "4");
+        QInputMethodEvent input;
+        input.setCommitString(test.committed);
+        QApplication::sendEvent(&field, &input);
+        EXPECT_EQ(field.text(), test.expected) << test.committed;
+        EXPECT_EQ(use.form.txtAttack.Text(), test.expected) << test.committed;
+    }
+}
+
+TEST(Fields, LetAPastePass) {
+    const WindowInUse use;
+    for (const char* field : {"txtAttack", "txtNC", "txtGemf"}) {
+        QGuiApplication::clipboard()->setText("-12.5 drake99");
+        use.Type(field, "");
+        use.Key(Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(TextOf(use, field), "-12.5 drake99") << field;
+    }
+    EXPECT_EQ(use.form.txtAttack.Text(), "-12.5 drake99");
+    EXPECT_EQ(Disagreements(use), "");
+}
+
+TEST(Fields, CopyWithTheKeysThatTheMenuHasToo) {
+    const WindowInUse use;
+    use.Type("txtNC", "Drake");
+    use.Key(Qt::Key_A, Qt::ControlModifier); // not the about window
+    use.Key(Qt::Key_C, Qt::ControlModifier); // not the calculator
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "Drake");
+    EXPECT_TRUE(use.form.frmMain.Enabled()) << "a secondary window has opened";
+}
+
+TEST(Fields, PressNothingOnReturn) {
+    WindowInUse use;
+    use.Type("txtNC", "Drake");
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
+        use.Key(key);
+    EXPECT_TRUE(use.answers.boxes.empty());
+    EXPECT_EQ(use.window->windowTitle(), "TALMIR v0.0.0.44");
+    EXPECT_EQ(TextOf(use, "txtNC"), "Drake");
+}
+
+TEST(Lists, DoNotTurnUnderAWheelThatScrollsPast) {
+    const WindowInUse use;
+    auto& list = use.Find<QComboBox>("ComboTier");
+    const auto turn = [&] {
+        const QPointF place = list.rect().center();
+        QWheelEvent wheel(place, list.mapToGlobal(place), {}, {0, -120}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&list, &wheel);
+        return list.currentIndex();
+    };
+    use.Find("txtNC").setFocus();
+    EXPECT_EQ(turn(), 0);
+    list.setFocus();
+    EXPECT_EQ(turn(), 1);
+    EXPECT_EQ(use.form.ComboTier.Text(), "2");
+}
+
+TEST(Lists, ChooseByKeyboard) {
+    const struct {
+        const char* list;
+        Qt::Key key;
+        const char* expected;
+    } steps[] = {
+        {"ComboTier", Qt::Key_End, "8"},  {"ComboTier", Qt::Key_Up, "7"},
+        {"ComboSpeed", Qt::Key_9, "9"},   {"ComboInitiative", Qt::Key_Down, "11"},
+        {"ComboFME", Qt::Key_F, "Fire"},  {"ComboSME", Qt::Key_F, "None"}, // falls back
+        {"ComboSME", Qt::Key_W, "Water"}, {"ComboUpgrade", Qt::Key_T, "True"},
+        {"ComboTTC", Qt::Key_Down, "15"}, {"ComboFaction", Qt::Key_Home, "Haven"},
+    };
+    QApplication::setKeyboardInputInterval(0); // each letter begins a new search
+    const WindowInUse use;
+    for (const auto& step : steps) {
+        use.Find(step.list).setFocus();
+        use.Key(step.key);
+        EXPECT_EQ(use.Find<QComboBox>(step.list).currentText(), step.expected) << step.list;
+        EXPECT_EQ(Disagreements(use), "");
+    }
+    EXPECT_EQ(use.form.ComboAlias.Text(), "HEAVEN");
+    EXPECT_EQ(use.form.ComboTTC.Text(), "15");
+    EXPECT_FLOAT_EQ(use.state.UpgradeFactor, 1.6F);
+}
+
+TEST(Lists, ChooseByMouse) {
+    const WindowInUse use;
+    use.Choose("ComboTier", 4);
+    EXPECT_EQ(use.form.ComboTier.Text(), "5");
+    use.Choose("ComboFME", 1);
+    use.Choose("ComboSME", 1);
+    EXPECT_EQ(use.form.ComboFME.Text(), "Air");
+    EXPECT_EQ(use.form.ComboSME.Text(), "None");
+    use.Choose("ComboFaction", 3);
+    EXPECT_EQ(use.form.ComboAlias.Text(), "PRESERVE");
+    EXPECT_EQ(Disagreements(use), "");
+}
+
+TEST(Lists, ShowATextThatIsNoneOfTheirEntries) {
+    const WindowInUse use;
+    QWidget& list = use.Find("ComboSpeed");
+    use.Find("txtNC").setFocus();
+    const auto picture = [&] { return list.grab().toImage(); };
+    const QImage atStart = picture();
+    use.form.ComboSpeed.SetText("7");
+    const QImage byText = picture();
+    use.form.ComboSpeed.SetText("70");
+    EXPECT_NE(picture(), byText);
+    use.Choose("ComboSpeed", 4); // the entry that was chosen all the time
+    EXPECT_EQ(use.form.ComboSpeed.Text(), "5");
+    use.Find("txtNC").setFocus();
+    EXPECT_EQ(picture(), atStart);
+    use.Choose("ComboSpeed", 6);
+    use.Find("txtNC").setFocus();
+    EXPECT_EQ(picture(), byText);
+}
+
+TEST(Lists, LoseTheirChoiceWithALanguageButNotTheGamesWord) {
+    const WindowInUse use;
+    use.Choose("ComboFaction", 1);
+    use.PickLanguage("mnuRussian");
+    auto& list = use.Find<QComboBox>("ComboFaction");
+    EXPECT_EQ(list.currentIndex(), -1);
+    EXPECT_EQ(use.form.ComboAlias.Text(), "INFERNO");
+    list.setFocus();
+    use.Key(Qt::Key_Down);
+    EXPECT_EQ(list.currentText(), "Орден Порядка");
+    EXPECT_EQ(use.form.ComboAlias.Text(), "HEAVEN");
+}
+
+/// Names of the widgets that the tab key reaches, from `first` until it comes back there.
+QStringList TabRound(const WindowInUse& use, const QString& first) {
+    use.Find(first).setFocus();
+    QStringList names;
+    do {
+        names.append(QApplication::focusWidget()->objectName());
+        use.Key(Qt::Key_Tab);
+    } while (QApplication::focusWidget()->objectName() != first && names.size() < 1000);
+    return names;
+}
+
+TEST(TabKey, GoesInReadingOrder) {
+    const WindowInUse use;
+    OpenAllFields(use);
+    use.ShowPage(0);
+    EXPECT_EQ(
+        TabRound(use, "txtNC").join(' '),
+        "txtNC txtAttack txtDefence txtMinDam txtMaxDam txtHealth ComboTier ComboSpeed "
+        "ComboInitiative ComboFaction ComboFME ComboUpgrade ComboSME txtPower txtExp txtShots "
+        "ComboRange txtGrowthf txtGoldf txtMana ComboTTC txtWoodf txtOref txtMercuryf "
+        "txtCrystalf txtSulfurf txtGemf cmdCalc cmdRAP cmdRAA cmdRAS cmdResetAll Tablus.Bar");
+}
+
+TEST(TabKey, ReachesEveryControlThatTheUserMayOperate) {
+    const WindowInUse use;
+    OpenAllFields(use);
+    for (int index = 1; index <= 54; index += 2) {
+        use.form.Spells(index).SetTicked(true);
+        use.form.Specabilities(index).SetTicked(true);
+    }
+    use.form.Tablus.Tab(4).Switch(true);
+    for (int page = 0; page < 5; ++page) {
+        use.ShowPage(page);
+        QStringList operable{"Tablus.Bar"};
+        for (const Control* control : use.form.Controls()) {
+            const QWidget* widget = use.window->WidgetOf(*control);
+            if (widget == nullptr || !widget->isVisible() || !control->Usable())
+                continue;
+            if (!dynamic_cast<const Frame*>(control) && !dynamic_cast<const Label*>(control) &&
+                !dynamic_cast<const TabPage*>(control) && control->Name() != "Tablus")
+                operable.append(control->Name());
+        }
+        QStringList reached = TabRound(use, "Tablus.Bar");
+        EXPECT_EQ(QSet<QString>(reached.begin(), reached.end()),
+                  QSet<QString>(operable.begin(), operable.end()))
+            << "page " << page;
+        EXPECT_EQ(reached.size(), operable.size()) << "page " << page;
+    }
+}
+
+} // namespace
+
+} // namespace Hesperin

@@ -1,0 +1,229 @@
+// The pages, a file that is dropped on the window, the start of a second instance and the end.
+#include "window/agreement.h"
+#include "window/windowed_program.h"
+
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QDragEnterEvent>
+#include <QMimeData>
+#include <QProcess>
+#include <QStandardPaths>
+
+namespace Hesperin {
+
+namespace {
+
+const QString Sample = TALMIR_SOURCE_DIR "/samples/frost_witch.xdb";
+
+TEST(Pages, AHiddenPageGivesWayToTheFirst) {
+    const WindowInUse use;
+    use.form.Abilities(29).SetTicked(true);
+    const auto& bar = use.Find<QTabBar>("Tablus.Bar");
+    use.ShowPage(2);
+    EXPECT_EQ(bar.currentIndex(), 2);
+    EXPECT_TRUE(use.Find("Spells(1)").isVisible());
+    use.Press("cmdRAP");
+    EXPECT_EQ(bar.currentIndex(), 0);
+    EXPECT_TRUE(use.Find("txtNC").isVisible());
+    EXPECT_FALSE(bar.isTabVisible(2));
+    EXPECT_EQ(Disagreements(use), "");
+}
+
+TEST(Pages, HaveTheirCaptionsInTheLanguageOfTheMoment) {
+    const QStringList captions[] = {
+        {"Parametres", "Abilities", "Spells", "Specabilities", "XDB"},
+        {"Характеристики", "Способности", "Заклинания", "Особые способности", "XDB"}};
+    const WindowInUse use(Russian);
+    const auto& bar = use.Find<QTabBar>("Tablus.Bar");
+    for (const bool russian : {true, false}) {
+        for (int page = 0; page < 5; ++page)
+            EXPECT_EQ(bar.tabText(page), captions[russian][page]);
+        use.PickLanguage("mnuEnglish");
+    }
+    use.form.Tablus.Tab(4).SetCaption("/home/" + QString("long").repeated(100) + "/drake.xdb");
+    EXPECT_LE(bar.tabRect(4).width(), use.window->width() / 2);
+    EXPECT_TRUE(bar.tabText(4).endsWith(".xdb"));
+}
+
+TEST(Pages, TheTextOfTheFileIsForReadingAndCopying) {
+    const WindowInUse use;
+    use.form.RTBData.SetText("<Creature>\n</Creature>");
+    use.form.Tablus.Tab(4).Switch(true);
+    use.ShowPage(4);
+    auto& text = use.Find<QPlainTextEdit>("RTBData");
+    WindowInUse::Click(text);
+    use.Keys("x");
+    use.Key(Qt::Key_Delete);
+    EXPECT_EQ(text.toPlainText(), "<Creature>\n</Creature>");
+    use.Key(Qt::Key_A, Qt::ControlModifier);
+    use.Key(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "<Creature>\n</Creature>");
+    EXPECT_TRUE(use.form.frmMain.Enabled()) << "a secondary window has opened";
+}
+
+/// What the window makes of files that are dragged over it and dropped: whether it takes them.
+bool Drop(const WindowInUse& use, const QList<QUrl>& files) {
+    QMimeData data;
+    data.setUrls(files);
+    const QPoint place = use.window->rect().center();
+    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QApplication::sendEvent(use.window.get(), &enter);
+    if (!enter.isAccepted())
+        return false;
+    QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(use.window.get(), &drop);
+    return true;
+}
+
+TEST(Drop, OpensTheFile) {
+    WindowInUse use;
+    EXPECT_TRUE(Drop(use, {QUrl::fromLocalFile(Sample)}));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return use.form.Tablus.Tab(4).On(); }));
+    EXPECT_EQ(use.Find<QLineEdit>("txtNC").text(), "Frost_witch");
+    EXPECT_TRUE(use.window->windowTitle().contains("[Creature: Frost_witch, Power="));
+    EXPECT_EQ(Disagreements(use), "");
+}
+
+TEST(Drop, RefusesAllButOneFileInAnUnlockedWindow) {
+    WindowInUse use;
+    const QUrl file = QUrl::fromLocalFile(Sample);
+    EXPECT_FALSE(Drop(use, {}));
+    EXPECT_FALSE(Drop(use, {file, file}));
+    EXPECT_FALSE(Drop(use, {QUrl("http://localhost/frost_witch.xdb")}));
+    use.program.ShowStatus("Wait.");
+    EXPECT_FALSE(Drop(use, {file}));
+}
+
+TEST(Start, OpensTheFileThatItIsGiven) {
+    BoxAnswers answers;
+    WindowedProgram program;
+    ASSERT_TRUE(program.Start(Sample));
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return program.Window().windowTitle().contains("Frost_witch"); }));
+}
+
+constexpr int GoesOn = 99;
+
+/// Runs the application until the program ends it and gives the exit code; `GoesOn` when the
+/// program doesn't end after `act`.
+int ExitCodeAfter(const std::function<void()>& act) {
+    constexpr int patience = 50; // milliseconds
+    QTimer end;
+    QObject::connect(&end, &QTimer::timeout, [] { QCoreApplication::exit(GoesOn); });
+    QTimer::singleShot(0, &end, [&] {
+        act();
+        end.start(patience);
+    });
+    return QApplication::exec();
+}
+
+TEST(Quit, AsksAndEndsOnlyAfterAYes) {
+    const struct {
+        const char* how;
+        std::function<void(const WindowInUse&)> act;
+    } ways[] = {
+        {"menu",
+         [](const WindowInUse& use) {
+             use.Pick({"mnuFile", "mnuQuit"});
+         }},
+        {"keys", [](const WindowInUse& use) { use.Key(Qt::Key_Q, Qt::ControlModifier); }},
+        {"window manager", [](const WindowInUse& use) { use.window->windowHandle()->close(); }},
+    };
+    for (const auto& way : ways) {
+        SCOPED_TRACE(way.how);
+        WindowInUse use;
+        use.PickLanguage("mnuRussian");
+        use.Type("txtAttack", "7");
+        for (const bool yes : {false, true}) {
+            use.answers.yes = yes;
+            use.answers.boxes.clear();
+            EXPECT_EQ(ExitCodeAfter([&] { way.act(use); }), yes ? 0 : GoesOn);
+            ASSERT_EQ(use.answers.boxes.size(), 1U) << "asked once";
+            EXPECT_EQ(use.answers.boxes[0].icon, QMessageBox::Question);
+            EXPECT_EQ(use.answers.boxes[0].title, "Выход из программы");
+            EXPECT_EQ(use.answers.boxes[0].text, "Вы хотите выйти?");
+            EXPECT_EQ(QSet<QString>(use.answers.buttonTexts.begin(), use.answers.buttonTexts.end()),
+                      (QSet<QString>{"Да", "Нет"}));
+            EXPECT_EQ(ReadAll(use.Path("lang.ini")), yes ? "RU" : "EN");
+            EXPECT_TRUE(yes || use.window->isVisible());
+        }
+        EXPECT_EQ(use.Find<QLineEdit>("txtAttack").text(), "7");
+    }
+}
+
+/// Starts the program itself without a display, unless `platform` names one.
+void StartProgram(QProcess& process, const QStringList& arguments, const QString& platform = {}) {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        environment.remove(name);
+    if (!platform.isEmpty())
+        environment.insert("QT_QPA_PLATFORM", platform);
+    process.setProcessEnvironment(environment);
+    process.start(TALMIR_PROGRAM, arguments);
+}
+
+TEST(CommandLine, AnswersWithoutADisplay) {
+    const struct {
+        QStringList arguments;
+        int exitCode;
+        const char* output; // how it begins
+        const char* complaint;
+    } cases[] = {
+        {{"--version"}, 0, "TALMIR v0.0.0.44\n", ""},
+        {{"-v"}, 0, "TALMIR v0.0.0.44\n", ""},
+        {{"--help"}, 0, "Usage: talmir [FILE]\n", ""},
+        {{"-h"}, 0, "Usage: talmir [FILE]\n", ""},
+        {{"--bogus"}, 2, "", "talmir: '--bogus'"},
+        {{"a.xdb", "b.xdb"}, 2, "", "talmir: 'b.xdb'"},
+    };
+    for (const auto& test : cases) {
+        SCOPED_TRACE(test.arguments.join(' ').toStdString());
+        QProcess process;
+        StartProgram(process, test.arguments);
+        ASSERT_TRUE(process.waitForFinished());
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(process.exitCode(), test.exitCode);
+        const QString output = process.readAllStandardOutput();
+        const QString complaint = process.readAllStandardError();
+        EXPECT_EQ(output.left(QString(test.output).size()), test.output);
+        EXPECT_EQ(complaint.left(QString(test.complaint).size()), test.complaint);
+        EXPECT_EQ(output.isEmpty(), test.exitCode != 0);
+        EXPECT_EQ(complaint.isEmpty(), test.exitCode == 0);
+    }
+}
+
+TEST(SecondInstance, IsRefusedInTheLanguageOfTheUserWhileTheFirstRuns) {
+    QProcess first;
+    StartProgram(first, {}, "offscreen");
+    const QString lock =
+        QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) + "/talmir.lock";
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QFileInfo(lock).size() > 0; }, 20000));
+
+    const QTemporaryDir folder;
+    QFile language(folder.filePath("lang.ini"));
+    ASSERT_TRUE(language.open(QIODevice::WriteOnly) && language.write("RU\r\n") == 4);
+    language.close();
+    BoxAnswers answers;
+    PlatformInFolder platform(folder.path());
+    Program second(platform);
+    EXPECT_FALSE(Form_Load(second));
+    ASSERT_EQ(answers.boxes.size(), 1U);
+    EXPECT_EQ(answers.boxes[0].icon, QMessageBox::Critical);
+    EXPECT_EQ(answers.boxes[0].title, "Внимание!");
+    EXPECT_EQ(answers.boxes[0].text, "Нельзя запускать эту программу дважды!");
+    EXPECT_EQ(ReadAll(language.fileName()), "RU\r\n");
+
+    first.kill(); // leaves its lock behind
+    ASSERT_TRUE(first.waitForFinished());
+    EXPECT_TRUE(QFile::exists(lock));
+    EXPECT_EQ(QString(first.readAllStandardError()), "") << "the terminal stays clean";
+    Program third(platform);
+    EXPECT_TRUE(Form_Load(third));
+    EXPECT_EQ(answers.boxes.size(), 1U);
+}
+
+} // namespace
+
+} // namespace Hesperin

@@ -1,0 +1,221 @@
+// The windows beside the main window, which lock it until they close.
+#include "window/agreement.h"
+
+#include <gtest/gtest.h>
+
+#include <QPointer>
+#include <QScreen>
+#include <QScrollBar>
+
+namespace Hesperin {
+
+namespace {
+
+/// Writes the texts of BASH in both languages.
+void WriteTexts(const QString& folder, const QString& description) {
+    const struct {
+        const char* language;
+        const char* name;
+    } texts[] = {{"EN", "Bash"}, {"RU", "Оглушение"}};
+    for (const auto& text : texts) {
+        const QDir place(folder + '/' + text.language +
+                         "/Text/Game/Creatures/Creature_abilities/Bash");
+        place.mkpath(".");
+        const auto write = [&](const char* name, const QString& content) {
+            QFile file(place.filePath(name));
+            if (!file.open(QIODevice::WriteOnly) || file.write(content.toUtf8()) < 0)
+                qFatal("a test could not write its texts");
+        };
+        write("Bash_name.txt", text.name);
+        write("Bash_desc.txt", description);
+    }
+}
+
+/// The window beside the main window; null when there is none.
+QDialog* Second(const WindowInUse& use) {
+    for (auto* dialog : use.window->findChildren<QDialog*>())
+        if (dialog->isVisible())
+            return dialog;
+    return nullptr;
+}
+
+void RightClick(const WindowInUse& use, const QString& box) {
+    use.ShowPage(1);
+    WindowInUse::Click(use.Find(box), {8, 8}, Qt::RightButton);
+}
+
+struct Closing {
+    const char* how;
+    std::function<void(QDialog&)> act;
+};
+
+QPushButton& ButtonOf(QDialog& dialog) {
+    return *dialog.findChild<QPushButton*>();
+}
+
+const Closing Closings[] = {
+    {"button", [](QDialog& dialog) { WindowInUse::Click(ButtonOf(dialog)); }},
+    {"Return", [](QDialog& dialog) { QTest::keyClick(dialog.windowHandle(), Qt::Key_Return); }},
+    {"Escape", [](QDialog& dialog) { QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape); }},
+    {"window manager", [](QDialog& dialog) { dialog.windowHandle()->close(); }},
+};
+
+TEST(SecondaryWindows, LockTheMainWindowUntilTheyClose) {
+    const struct {
+        const char* window;
+        std::function<void(WindowInUse&)> open;
+    } windows[] = {
+        {"frmAbility", [](WindowInUse& use) { RightClick(use, "Abilities(16)"); }},
+        {"frmAbout",
+         [](WindowInUse& use) {
+             use.Pick({"mnuInfo", "mnuAbout"});
+         }},
+        {"frmStatus",
+         [](WindowInUse& use) {
+             use.Pick({"mnuOptions", "mnuCalculator"});
+         }},
+    };
+    WindowInUse use;
+    use.ShowPage(1);
+    for (const auto& test : windows)
+        for (const Closing& closing : Closings) {
+            SCOPED_TRACE(std::string(test.window) + ' ' + closing.how);
+            test.open(use);
+            const QPointer<QDialog> dialog = Second(use);
+            ASSERT_NE(dialog, nullptr);
+            EXPECT_EQ(dialog->objectName(), test.window);
+            ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
+            EXPECT_FALSE(use.form.frmMain.Enabled());
+            use.ShowPage(1);
+            use.ClickBox("Abilities(66)");
+            use.Press("cmdCalc");
+            use.Key(Qt::Key_N, Qt::ControlModifier);
+            EXPECT_FALSE(use.Find<QCheckBox>("Abilities(66)").isChecked());
+            EXPECT_TRUE(use.answers.boxes.empty()) << "a command ran behind the window";
+
+            ASSERT_FALSE(dialog.isNull());
+            closing.act(*dialog);
+            EXPECT_TRUE(use.form.frmMain.Enabled());
+            EXPECT_TRUE(QTest::qWaitFor([&] { return dialog.isNull(); })) << "not unloaded";
+            use.ShowPage(1);
+            use.ClickBox("Abilities(66)");
+            EXPECT_TRUE(use.Find<QCheckBox>("Abilities(66)").isChecked());
+            use.ClickBox("Abilities(66)");
+        }
+}
+
+TEST(AbilityWindow, TellsTheAbilityInTheLanguageOfTheMoment) {
+    WindowInUse use(English, [](const QString& folder) { WriteTexts(folder, "Stuns."); });
+    use.ShowPage(1);
+    use.ClickBox("Abilities(16)");
+    const struct {
+        const char* entry;
+        const char* name;
+        const char* button;
+    } cases[] = {{"mnuRussian", "Оглушение", "Выход"}, {"mnuEnglish", "Bash", "Quit"}};
+    for (const auto& test : cases) {
+        use.PickLanguage(test.entry);
+        RightClick(use, "Abilities(16)");
+        EXPECT_TRUE(use.Find<QCheckBox>("Abilities(16)").isChecked()) << "the tick stays";
+        QDialog* dialog = Second(use);
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_EQ(dialog->windowTitle(), "ABILITY_BASH");
+        EXPECT_EQ(dialog->findChild<QLabel*>("utbName")->text(), test.name);
+        auto* description = dialog->findChild<QPlainTextEdit*>("utbDesc");
+        EXPECT_EQ(description->toPlainText(), "Stuns.");
+        EXPECT_TRUE(description->isReadOnly());
+        EXPECT_EQ(dialog->findChild<QPushButton*>("cmdQuit")->text(), test.button);
+        EXPECT_EQ(dialog->width(), 10815 / 15);
+        WindowInUse::Click(ButtonOf(*dialog));
+    }
+}
+
+TEST(AbilityWindow, OnlyAbilityBoxesHaveOne) {
+    const WindowInUse use;
+    use.ShowPage(3);
+    WindowInUse::Click(use.Find("Specabilities(4)"), {8, 8}, Qt::RightButton);
+    EXPECT_EQ(Second(use), nullptr);
+    EXPECT_FALSE(use.Find<QCheckBox>("Specabilities(4)").isChecked());
+}
+
+TEST(AbilityWindow, GrowsWithItsTextUpToTheScreen) {
+    const auto open = [](const QString& description) {
+        const WindowInUse use(English,
+                              [&](const QString& folder) { WriteTexts(folder, description); });
+        RightClick(use, "Abilities(16)");
+        QDialog* dialog = Second(use);
+        const QScrollBar* bar = dialog->findChild<QPlainTextEdit*>()->verticalScrollBar();
+        const int below = ButtonOf(*dialog).geometry().bottom();
+        EXPECT_LT(below, dialog->height()) << "the button stands below the text, inside the window";
+        EXPECT_LE(dialog->height(), dialog->screen()->availableGeometry().height());
+        return std::pair(dialog->height(), bar->maximum() > 0);
+    };
+    const QString line = "Strikes.\n";
+    const auto [one, oneScrolls] = open("Strikes.");
+    const auto [three, threeScrolls] = open(line.repeated(2) + "Strikes.");
+    EXPECT_GE(one, (2550 - 345) / 15);
+    EXPECT_GE(three - one, 2 * 600 / 15);
+    EXPECT_FALSE(oneScrolls || threeScrolls);
+    const auto [longest, longestScrolls] = open(line.repeated(200));
+    EXPECT_GT(longest, three);
+    EXPECT_TRUE(longestScrolls) << "the rest can't be read";
+}
+
+TEST(AboutWindow, TellsTheProgram) {
+    const struct {
+        Language language;
+        const char* title;
+        const char* question;
+        const char* answer;
+        const char* button;
+    } cases[] = {
+        {English, "About...", "What is TALMIR?", "TALMIR is a balanced calculator", "Quit"},
+        {Russian, "О программе...", "Что такое TALMIR?", "TALMIR это сбалансированный", "Выход"},
+    };
+    for (const auto& test : cases) {
+        const WindowInUse use(test.language);
+        use.Pick({"mnuInfo", "mnuAbout"});
+        QDialog* dialog = Second(use);
+        ASSERT_NE(dialog, nullptr);
+        const auto text = [&](const char* name) {
+            return dialog->findChild<QLabel*>(name)->text();
+        };
+        EXPECT_EQ(dialog->windowTitle(), test.title);
+        EXPECT_EQ(dialog->size(), QSize(8385 / 15, 5055 / 15));
+        EXPECT_TRUE(text("utbInfo").startsWith("TALMIR v0.0.0.44 - "));
+        EXPECT_EQ(text("utbWhatis"), test.question);
+        EXPECT_TRUE(text("utbAbout").startsWith(test.answer));
+        EXPECT_EQ(ButtonOf(*dialog).text(), test.button);
+        const QImage picture = dialog->grab().toImage();
+        EXPECT_EQ(picture.pixelColor(2, 2), QColor(0, 0, 128)) << "the ground";
+        EXPECT_NE(picture.pixelColor(10 + 128, 40 + 128), QColor(0, 0, 128)) << "the picture";
+    }
+}
+
+TEST(StatusWindow, ShowsTheWholeOfALongText) {
+    WindowInUse use;
+    for (const QString& message : {QString(), QString("Saved."), QString("Word ").repeated(200)}) {
+        use.program.ShowStatus(message);
+        QDialog* dialog = Second(use);
+        ASSERT_NE(dialog, nullptr);
+        const auto& words = *dialog->findChild<QLabel*>("lblStatus");
+        EXPECT_EQ(words.text(), message);
+        EXPECT_GE(words.height(), words.heightForWidth(words.width()));
+        EXPECT_TRUE(dialog->rect().contains(words.geometry()));
+        EXPECT_FALSE(words.geometry().intersects(ButtonOf(*dialog).geometry()));
+        EXPECT_EQ(dialog->windowTitle(), "Average values");
+        const QImage picture = dialog->grab().toImage();
+        bool red = false, white = false;
+        for (int x = 10; x < 120; ++x)
+            for (int y = 10; y < 60; ++y) {
+                red = red || picture.pixelColor(x, y) == QColor(255, 0, 0);
+                white = white || picture.pixelColor(x, y) == QColor(255, 255, 255);
+            }
+        EXPECT_TRUE(red && white) << "the title and its shadow";
+        WindowInUse::Click(ButtonOf(*dialog));
+    }
+}
+
+} // namespace
+
+} // namespace Hesperin
