@@ -12,9 +12,8 @@ namespace {
 /// Special ability by ability. The links follow the tokens, save for two pairs of different tokens
 /// and eleven equal ones that are not linked.
 std::map<int, int> ExpectedLinks(const MainForm& form) {
-    const QStringList unlinked{"AGILITY",          "BEAR_ROAR", "DEATH_CLOUD",     "DEATH_WAIL",
-                               "ENRAGED",          "FEAR",      "LIFE_DRAIN",      "MANA_DRAIN",
-                               "ENTANGLING_ROOTS", "VENOM",     "POISONOUS_ATTACK"};
+    const QStringList unlinked{"AGILITY",    "BEAR_ROAR",  "DEATH_CLOUD",      "DEATH_WAIL", "ENRAGED",         "FEAR",
+                               "LIFE_DRAIN", "MANA_DRAIN", "ENTANGLING_ROOTS", "VENOM",      "POISONOUS_ATTACK"};
     std::map<int, int> links{{128, 37}, {129, 38}};
     for (const CheckBox& ability : form.Abilities)
         for (const CheckBox& specability : form.Specabilities)
@@ -27,18 +26,13 @@ std::map<int, int> ExpectedLinks(const MainForm& form) {
 QStringList Ticked(const MainForm& form) {
     QStringList names;
     for (const Control* control : form.Controls())
-        if (const auto* box = dynamic_cast<const CheckBox*>(control);
-            box != nullptr && box->Ticked())
+        if (const auto* box = dynamic_cast<const CheckBox*>(control); box != nullptr && box->Ticked())
             names.append(box->Name());
     return names;
 }
 
-QString AbilityName(int i) {
-    return QString("Abilities(%1)").arg(i);
-}
-QString SpecabilityName(int j) {
-    return QString("Specabilities(%1)").arg(j);
-}
+QString AbilityName(int i) { return QString("Abilities(%1)").arg(i); }
+QString SpecabilityName(int j) { return QString("Specabilities(%1)").arg(j); }
 
 TEST(Links, EveryAbilityTicksItsPartnerAndMovesCounterAndFlag) {
     TestProgram test;

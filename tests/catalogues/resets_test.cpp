@@ -15,8 +15,7 @@ QString Summary(const TestProgram& test) {
     const MainForm& form = test.form;
     QStringList ticks;
     for (const Control* control : form.Controls())
-        if (const auto* box = dynamic_cast<const CheckBox*>(control);
-            box != nullptr && box->Ticked())
+        if (const auto* box = dynamic_cast<const CheckBox*>(control); box != nullptr && box->Ticked())
             ticks.append(box->Name());
     QString pages;
     for (const TabPage& page : form.Tablus.Tab)
@@ -43,19 +42,16 @@ TEST(Resets, EachTouchesItsOwnPages) {
         Button MainForm::*button;
         const char* after;
     } cases[] = {
-        {&MainForm::cmdRAP,
-         "Abilities(16) Abilities(17) Abilities(29) Abilities(147) Spells(7) Specabilities(1) "
-         "Specabilities(4) Specabilities(49) | soq 2 saz 3 | attack '0' mana '0' shots '0' range 0 "
-         "| "
-         "pages ++-++ | count 3 flag -1 | save 1 spells 1 loaded 1 | title"},
-        {&MainForm::cmdRAA,
-         "Spells(7) | soq 2 saz 0 | attack '5' mana '' shots '' range 0 | pages ++-++ | "
-         "count 0 flag 0 | save 1 spells 0 loaded 1 | title"},
-        {&MainForm::cmdRAS,
-         "Abilities(16) Abilities(17) Abilities(29) Abilities(147) Specabilities(1) "
-         "Specabilities(4) Specabilities(49) | soq 0 saz 3 | attack '5' mana '6' shots '7' range 2 "
-         "| "
-         "pages +++++ | count 3 flag -1 | save 1 spells 1 loaded 1 | title"},
+        {&MainForm::cmdRAP, "Abilities(16) Abilities(17) Abilities(29) Abilities(147) Spells(7) Specabilities(1) "
+                            "Specabilities(4) Specabilities(49) | soq 2 saz 3 | attack '0' mana '0' shots '0' range 0 "
+                            "| "
+                            "pages ++-++ | count 3 flag -1 | save 1 spells 1 loaded 1 | title"},
+        {&MainForm::cmdRAA, "Spells(7) | soq 2 saz 0 | attack '5' mana '' shots '' range 0 | pages ++-++ | "
+                            "count 0 flag 0 | save 1 spells 0 loaded 1 | title"},
+        {&MainForm::cmdRAS, "Abilities(16) Abilities(17) Abilities(29) Abilities(147) Specabilities(1) "
+                            "Specabilities(4) Specabilities(49) | soq 0 saz 3 | attack '5' mana '6' shots '7' range 2 "
+                            "| "
+                            "pages +++++ | count 3 flag -1 | save 1 spells 1 loaded 1 | title"},
         {&MainForm::cmdResetAll,
          "Specabilities(1) Specabilities(49) | soq 0 saz 3 | attack '0' mana '' shots '' range 0 | "
          "pages ++-+- | count 1 flag 0 | save 0 spells 0 loaded 0 | TALMIR v0.0.0.44"},
@@ -111,12 +107,11 @@ void ExpectInvariants(const TestProgram& test) {
     const MainForm& form = test.form;
     int points = 0;
     for (const Link& link : Links) {
-        EXPECT_EQ(form.Abilities(link.ability).Ticked(),
-                  form.Specabilities(link.specability).Ticked());
+        EXPECT_EQ(form.Abilities(link.ability).Ticked(), form.Specabilities(link.specability).Ticked());
         points += form.Abilities(link.ability).Ticked() ? 2 : 0;
     }
-    for (const CheckBox* oneSided : {&form.Abilities(75), &form.Abilities(132),
-                                     &form.Specabilities(3), &form.Specabilities(49)})
+    for (const CheckBox* oneSided :
+         {&form.Abilities(75), &form.Abilities(132), &form.Specabilities(3), &form.Specabilities(49)})
         points += oneSided->Ticked() ? 1 : 0;
     EXPECT_EQ(test.state.SpellPoints1Count, points);
 
@@ -153,14 +148,11 @@ float ExpectedProduct(const MainForm& form) {
 
 TEST(RandomPlay, BoxesCountersAndSelectorsStayInStep) {
     std::mt19937 random(7);
-    const auto below = [&](int end) {
-        return static_cast<int>(random() % static_cast<unsigned>(end));
-    };
+    const auto below = [&](int end) { return static_cast<int>(random() % static_cast<unsigned>(end)); };
     TestProgram test;
     MainForm& form = test.form;
     Button* const buttons[] = {&form.cmdRAP, &form.cmdRAA, &form.cmdRAS, &form.cmdResetAll};
-    constexpr int ruled[] = {29,  49,  65,  75,
-                             111, 132, 147, 164}; // abilities with a rule of their own
+    constexpr int ruled[] = {29, 49, 65, 75, 111, 132, 147, 164}; // abilities with a rule of their own
     const auto toggle = [](CheckBox& box) { box.SetTicked(!box.Ticked()); };
     for (int step = 0; step < 20000; ++step) {
         switch (const int dice = below(400); dice) {

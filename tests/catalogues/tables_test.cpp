@@ -20,9 +20,7 @@ std::uint32_t Hash(const QString& text) {
     return hash;
 }
 
-int Hundredths(float value) {
-    return static_cast<int>(std::lround(static_cast<double>(value) * 100));
-}
+int Hundredths(float value) { return static_cast<int>(std::lround(static_cast<double>(value) * 100)); }
 
 template <typename Boxes>
 QStringList Captions(const Boxes& boxes) {
@@ -37,8 +35,7 @@ void ExpectTokens(const QStringList& tokens, qsizetype count) {
     EXPECT_EQ(QSet<QString>(tokens.begin(), tokens.end()).size(), count) << "a token stands twice";
     for (const QString& token : tokens)
         for (const QChar unit : token)
-            EXPECT_TRUE((unit >= u'A' && unit <= u'Z') || (unit >= u'0' && unit <= u'9') ||
-                        unit == u'_')
+            EXPECT_TRUE((unit >= u'A' && unit <= u'Z') || (unit >= u'0' && unit <= u'9') || unit == u'_')
                 << token.toStdString();
 }
 
@@ -108,8 +105,7 @@ TEST(AbilityCatalogue, NamesTheTextFilesInThreeWays) {
     int count[3] = {};
     int sum[3] = {};
     for (int i = 1; i <= Ability::Count; ++i) {
-        const auto way =
-            static_cast<std::size_t>(AbilityCatalogue[static_cast<std::size_t>(i)].files);
+        const auto way = static_cast<std::size_t>(AbilityCatalogue[static_cast<std::size_t>(i)].files);
         ++count[way];
         sum[way] += i;
     }

@@ -25,8 +25,7 @@ struct CliOutcome {
 inline CliOutcome FinishCli(QProcess& process) {
     process.waitForFinished();
     return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-            QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
+            QString::fromUtf8(process.readAllStandardOutput()), QString::fromUtf8(process.readAllStandardError())};
 }
 
 inline CliOutcome RunCli(const QStringList& arguments, const QByteArray& input = {}) {

@@ -23,28 +23,20 @@ TEST(Run, PlaysEveryAction) {
         {"set without text", "set txtNC abc\nset txtNC\nshow txtNC", {""}},
         {"set passes no filter and no limit", "set txtAttack -12345\nshow txtAttack", {"-12345"}},
         {"set takes UTF-8", "set txtNC Дракон\nshow txtNC", {QString::fromUtf8("Дракон")}},
-        {"keys are filtered and limited",
-         "set txtHealth\nkeys txtHealth 1a-2b.3c4\nshow txtHealth",
-         {"123"}},
+        {"keys are filtered and limited", "set txtHealth\nkeys txtHealth 1a-2b.3c4\nshow txtHealth", {"123"}},
         {"keys are typed at the end", "set txtNC ab\nkeys txtNC c 1_D\nshow txtNC", {"abc_D"}},
         {"a backspace is a key", "set txtNC abc\nkeys txtNC \b\bX\nshow txtNC", {"aX"}},
-        {"choose",
-         "choose ComboFaction 1\nshow ComboFaction\nshow ComboAlias",
-         {"Inferno", "INFERNO"}},
+        {"choose", "choose ComboFaction 1\nshow ComboFaction\nshow ComboAlias", {"Inferno", "INFERNO"}},
         {"tick and untick",
          "tick Abilities(38)\nshow Specabilities(9)\nuntick Specabilities(9)\nshow Abilities(38)",
          {"1", "0"}},
         {"tick twice", "tick Abilities(66)\ntick Abilities(66)\nshow Abilities(66)", {"1"}},
         {"mastery", "tick Abilities(29)\ntick Spells(46)\nmastery soq(46) 4\nshow soq(46)", {"4"}},
-        {"press",
-         "set txtAttack 51\npress cmdCalc\nshow txtAttack\npress cmdRAP\nshow txtAttack",
-         {"50", "0"}},
-        {"the alternative method is off",
-         "show frmAM\nshow mnuEnglish",
-         {"Alternative method", "English"}},
+        {"press", "set txtAttack 51\npress cmdCalc\nshow txtAttack\npress cmdRAP\nshow txtAttack", {"50", "0"}},
+        {"the alternative method is off", "show frmAM\nshow mnuEnglish", {"Alternative method", "English"}},
         {"save and open",
-         "set txtNC wyrm\npress cmdCalc\nmenu mnuSave " + out + "\nmenu mnuNew\nmenu mnuOpen " +
-             out + "\nshow txtNC\nshow Tablus.Tab(4)",
+         "set txtNC wyrm\npress cmdCalc\nmenu mnuSave " + out + "\nmenu mnuNew\nmenu mnuOpen " + out +
+             "\nshow txtNC\nshow Tablus.Tab(4)",
          {"Wyrm", files.Path("out.xdb")}},
         {"dialogs without a path are cancelled",
          "set txtNC wyrm\npress cmdCalc\nmenu mnuSave " + out +
@@ -53,9 +45,7 @@ TEST(Run, PlaysEveryAction) {
         {"languages",
          "menu mnuRussian\nshow FrameAttack\nmenu mnuEnglish\nshow FrameAttack",
          {QString::fromUtf8("Нападение"), "Attack"}},
-        {"long line ends, comments, empty lines",
-         "\r\n# comment\r\nset txtNC a \r\n  \r\n#\r\nshow txtNC\r\n",
-         {"a "}},
+        {"long line ends, comments, empty lines", "\r\n# comment\r\nset txtNC a \r\n  \r\n#\r\nshow txtNC\r\n", {"a "}},
         {"a byte-order mark", "\xEF\xBB\xBFshow lblMin", {"min"}},
     };
     for (const auto& test : cases) {
@@ -121,8 +111,7 @@ TEST(Run, WhatTheUserCouldNotDoChangesNothingAndIsNamed) {
         EXPECT_TRUE(complaint.startsWith(start) && complaint.size() > start.size() + 5)
             << lines[i].toStdString() << " gave " << complaint.toStdString();
     }
-    EXPECT_TRUE(outcome.Complaints().last().contains("'%1'"))
-        << outcome.Complaints().last().toStdString();
+    EXPECT_TRUE(outcome.Complaints().last().contains("'%1'")) << outcome.Complaints().last().toStdString();
     ASSERT_EQ(outcome.Lines().size(), 2);
     QJsonObject after = outcome.Json(1);
     EXPECT_EQ(after["messages"].toArray().size(), 2) << "the two refused files";
@@ -131,9 +120,8 @@ TEST(Run, WhatTheUserCouldNotDoChangesNothingAndIsNamed) {
 }
 
 TEST(Run, MasteryLevelsOutsideTheFiveAreRefused) {
-    const CliOutcome outcome =
-        Play("tick Specabilities(9)\nmastery saz(9) 3\nmastery saz(9) 5\nmastery saz(9) -1\n"
-             "mastery saz(9)\nshow saz(9)\n");
+    const CliOutcome outcome = Play("tick Specabilities(9)\nmastery saz(9) 3\nmastery saz(9) 5\nmastery saz(9) -1\n"
+                                    "mastery saz(9)\nshow saz(9)\n");
     EXPECT_EQ(outcome.Complaints().size(), 3);
     EXPECT_EQ(outcome.out, "3\n");
 }
@@ -141,8 +129,7 @@ TEST(Run, MasteryLevelsOutsideTheFiveAreRefused) {
 TEST(Run, NamesTheScriptFileInComplaints) {
     const TestProgram files;
     for (const char* name : {"script.txt", "50%1.txt"}) {
-        const QString path =
-            files.Write(name, "show txtNC\r\n\r\nbogus %2\r\nset txtNC a\r\nshow txtNC");
+        const QString path = files.Write(name, "show txtNC\r\n\r\nbogus %2\r\nset txtNC a\r\nshow txtNC");
         const CliOutcome outcome = RunCli({"run", path});
         EXPECT_EQ(outcome.code, 1);
         EXPECT_EQ(outcome.out, "\na\n") << "it goes on after the error";
@@ -179,38 +166,31 @@ TEST(Run, StartsInTheLanguageAskedFor) {
 
 TEST(Run, StateTellsEverything) {
     const TestProgram files;
-    const QByteArray path = files
-                                .Write("Creature_200.xdb", CreatureXml()
-                                                               .Set("SpellPoints", "8")
-                                                               .Spell("SLOW", "EXPERT")
-                                                               .Spell("ABILITY_DASH", "BASIC")
-                                                               .Bytes())
-                                .toUtf8();
+    const QByteArray path =
+        files
+            .Write("Creature_200.xdb",
+                   CreatureXml().Set("SpellPoints", "8").Spell("SLOW", "EXPERT").Spell("ABILITY_DASH", "BASIC").Bytes())
+            .toUtf8();
     const CliOutcome outcome =
         Play("menu mnuOpen " + path + "\nmenu mnuNew\nmenu mnuOpen " + path + "\nstate\nstate\n");
     ASSERT_EQ(outcome.Lines().size(), 2);
     const QJsonObject state = outcome.Json();
-    EXPECT_EQ(state.keys(), (QStringList{"abilities", "calculate_tooltip", "counter", "creature",
-                                         "enabled", "file", "flag", "focus", "labels", "language",
-                                         "lists", "loaded", "messages", "page_captions", "pages",
-                                         "specabilities", "spells", "texts", "title"}));
+    EXPECT_EQ(state.keys(), (QStringList{"abilities", "calculate_tooltip", "counter", "creature", "enabled", "file",
+                                         "flag", "focus", "labels", "language", "lists", "loaded", "messages",
+                                         "page_captions", "pages", "specabilities", "spells", "texts", "title"}));
     EXPECT_EQ(state["texts"].toObject().keys(),
-              (QStringList{"txtAttack", "txtCrystalf", "txtDefence", "txtExp", "txtGemf",
-                           "txtGoldf", "txtGrowthf", "txtHealth", "txtIDC", "txtMana", "txtMaxDam",
-                           "txtMercuryf", "txtMinDam", "txtNC", "txtOref", "txtPower", "txtShots",
-                           "txtSulfurf", "txtWoodf"}));
+              (QStringList{"txtAttack", "txtCrystalf", "txtDefence", "txtExp", "txtGemf", "txtGoldf", "txtGrowthf",
+                           "txtHealth", "txtIDC", "txtMana", "txtMaxDam", "txtMercuryf", "txtMinDam", "txtNC",
+                           "txtOref", "txtPower", "txtShots", "txtSulfurf", "txtWoodf"}));
     EXPECT_EQ(state["texts"]["txtIDC"].toString(), "200");
     EXPECT_EQ(state["lists"].toObject().keys(),
-              (QStringList{"ComboAlias", "ComboDiapazon", "ComboFME", "ComboFaction",
-                           "ComboInitiative", "ComboRange", "ComboSME", "ComboSpeed", "ComboTTC",
-                           "ComboTier", "ComboUpgrade"}));
-    EXPECT_EQ(state["lists"]["ComboAlias"].toObject(),
-              (QJsonObject{{"index", 5}, {"text", "ACADEMY"}}));
+              (QStringList{"ComboAlias", "ComboDiapazon", "ComboFME", "ComboFaction", "ComboInitiative", "ComboRange",
+                           "ComboSME", "ComboSpeed", "ComboTTC", "ComboTier", "ComboUpgrade"}));
+    EXPECT_EQ(state["lists"]["ComboAlias"].toObject(), (QJsonObject{{"index", 5}, {"text", "ACADEMY"}}));
     EXPECT_EQ(state["labels"].toObject().keys(),
-              (QStringList{"lblCostAverage", "lblCostHesperin", "lblCostRolvane", "lblExpAverage",
-                           "lblExpHesperin", "lblExpRolvane", "lblGrowthAverage",
-                           "lblGrowthHesperin", "lblGrowthRolvane", "lblPowerAverage",
-                           "lblPowerHesperin", "lblPowerRolvane"}));
+              (QStringList{"lblCostAverage", "lblCostHesperin", "lblCostRolvane", "lblExpAverage", "lblExpHesperin",
+                           "lblExpRolvane", "lblGrowthAverage", "lblGrowthHesperin", "lblGrowthRolvane",
+                           "lblPowerAverage", "lblPowerHesperin", "lblPowerRolvane"}));
     EXPECT_EQ(state["abilities"].toArray(), (QJsonArray{29, 38, 65}));
     EXPECT_EQ(state["spells"].toObject(), (QJsonObject{{"75", 3}}));
     EXPECT_EQ(state["specabilities"].toObject(), (QJsonObject{{"9", 1}}));
@@ -224,8 +204,7 @@ TEST(Run, StateTellsEverything) {
                                                         {"FrameRange", false}}));
     EXPECT_EQ(state["pages"].toArray(), (QJsonArray{true, true, true, true, true}));
     EXPECT_EQ(state["page_captions"].toArray(),
-              (QJsonArray{"Parametres", "Abilities", "Spells", "Specabilities",
-                          QString::fromUtf8(path)}));
+              (QJsonArray{"Parametres", "Abilities", "Spells", "Specabilities", QString::fromUtf8(path)}));
     EXPECT_EQ(state["calculate_tooltip"].toString(), "Average value for all abilities is 1.11");
     EXPECT_EQ(state["counter"].toInt(), 2);
     EXPECT_EQ(state["flag"].toInt(), -1);
@@ -236,8 +215,7 @@ TEST(Run, StateTellsEverything) {
     EXPECT_EQ(state["focus"].toString(), "cmdCalc");
     EXPECT_TRUE(state["title"].toString().contains("Power=905{"));
     EXPECT_FALSE(state["messages"].toArray().isEmpty());
-    EXPECT_EQ(state["messages"].toArray().first().toObject().keys(),
-              (QStringList{"icon", "text", "title"}));
+    EXPECT_EQ(state["messages"].toArray().first().toObject().keys(), (QStringList{"icon", "text", "title"}));
     EXPECT_EQ(outcome.Json(1)["messages"].toArray(), QJsonArray()) << "told once";
 }
 
@@ -246,12 +224,10 @@ TEST(Run, ASaveThatFailsHalfwayKeepsTheOldFile) {
         GTEST_SKIP() << "no shell to limit the size of files with";
     const TestProgram files;
     files.Write("old.xdb", "precious");
-    const QString script =
-        files.Write("script", "set txtNC wyrm\npress cmdCalc\nmenu mnuSave " +
-                                  files.Path("old.xdb").toUtf8() + "\nshow Tablus.Tab(4)");
+    const QString script = files.Write("script", "set txtNC wyrm\npress cmdCalc\nmenu mnuSave " +
+                                                     files.Path("old.xdb").toUtf8() + "\nshow Tablus.Tab(4)");
     QProcess process;
-    process.start("/bin/sh",
-                  {"-c", "trap '' XFSZ; ulimit -f 1; exec \"$0\" run \"$1\"", TALMIR_CLI, script});
+    process.start("/bin/sh", {"-c", "trap '' XFSZ; ulimit -f 1; exec \"$0\" run \"$1\"", TALMIR_CLI, script});
     const CliOutcome outcome = FinishCli(process);
     EXPECT_EQ(outcome.code, 1);
     EXPECT_EQ(ReadAll(files.Path("old.xdb")), "precious");

@@ -50,19 +50,18 @@ TEST(Cli, HelpAndVersionGoToStandardOutput) {
 }
 
 TEST(Cli, WrongUsageIsCode2AndAComplaint) {
-    for (const QStringList& arguments :
-         std::initializer_list<QStringList>{{},
-                                            {"bogus"},
-                                            {"--bogus"},
-                                            {"calc"},
-                                            {"calc", "--json"},
-                                            {"calc", "--bogus", "a.xdb"},
-                                            {"run"},
-                                            {"run", "a", "b"},
-                                            {"run", "-", "--lang", "FR"},
-                                            {"run", "-", "--lang"},
-                                            {"run", "-", "--lang", "ru"},
-                                            {"run", "--json", "-"}}) {
+    for (const QStringList& arguments : std::initializer_list<QStringList>{{},
+                                                                           {"bogus"},
+                                                                           {"--bogus"},
+                                                                           {"calc"},
+                                                                           {"calc", "--json"},
+                                                                           {"calc", "--bogus", "a.xdb"},
+                                                                           {"run"},
+                                                                           {"run", "a", "b"},
+                                                                           {"run", "-", "--lang", "FR"},
+                                                                           {"run", "-", "--lang"},
+                                                                           {"run", "-", "--lang", "ru"},
+                                                                           {"run", "--json", "-"}}) {
         SCOPED_TRACE(arguments.join(' ').toStdString());
         const CliOutcome outcome = RunCli(arguments);
         EXPECT_EQ(outcome.code, 2);
@@ -90,8 +89,8 @@ TEST(Calc, ShowsTheFiguresAsATable) {
     for (const QString& line : outcome.Lines())
         rows.append(line.simplified());
     EXPECT_EQ(rows.value(0), path + ": Bog_wyrm, tier 2");
-    for (const char* row : {"Power 129 146 137 905", "Experience 11 13 12 61", "Growth 18 15 16 7",
-                            "Gold 54 63 58 420", "Abilities: FLESH_AND_BLOOD"}) {
+    for (const char* row : {"Power 129 146 137 905", "Experience 11 13 12 61", "Growth 18 15 16 7", "Gold 54 63 58 420",
+                            "Abilities: FLESH_AND_BLOOD"}) {
         EXPECT_TRUE(rows.contains(row)) << row << '\n' << outcome.out.toStdString();
     }
     EXPECT_TRUE(outcome.out.contains("SLOW (3)"));
@@ -100,23 +99,21 @@ TEST(Calc, ShowsTheFiguresAsATable) {
 
 TEST(Calc, GivesOneJsonObjectALine) {
     const TestProgram files;
-    const QString good =
-        files.Write(QString::fromUtf8("дракон.xdb"), SmallCreature()
-                                                         .Set("SpellPoints", "9")
-                                                         .Spell("SLOW", "EXPERT")
-                                                         .Spell("ABILITY_DASH", "BASIC")
-                                                         .Remove("Gold")
-                                                         .Bytes());
+    const QString good = files.Write(QString::fromUtf8("дракон.xdb"), SmallCreature()
+                                                                          .Set("SpellPoints", "9")
+                                                                          .Spell("SLOW", "EXPERT")
+                                                                          .Spell("ABILITY_DASH", "BASIC")
+                                                                          .Remove("Gold")
+                                                                          .Bytes());
     const QString bad = files.Write("bad.xdb", "<Monster/>");
     const CliOutcome outcome = RunCli({"calc", "--json", good, bad, good});
     EXPECT_EQ(outcome.code, 1);
     ASSERT_EQ(outcome.Lines().size(), 3);
     EXPECT_EQ(outcome.Lines()[0], outcome.Lines()[2]) << "nothing stays from the files before";
 
-    const QStringList keys{"abilities", "ability_product", "advised_tier", "figures",
-                           "file",      "in_file",         "messages",     "name",
-                           "ok",        "specabilities",   "spells",       "tier",
-                           "title"};
+    const QStringList keys{
+        "abilities", "ability_product", "advised_tier", "figures", "file", "in_file", "messages", "name",
+        "ok",        "specabilities",   "spells",       "tier",    "title"};
     const QJsonObject object = outcome.Json();
     EXPECT_EQ(object.keys(), keys);
     EXPECT_EQ(object["file"].toString(), good);
@@ -125,23 +122,18 @@ TEST(Calc, GivesOneJsonObjectALine) {
     EXPECT_EQ(object["tier"].toInt(), 2);
     EXPECT_EQ(object["advised_tier"].toInt(), 1); // 143 and 153: 148, below 152
     const QJsonObject power = object["figures"]["power"].toObject();
-    EXPECT_EQ(power, (QJsonObject{
-                         {"rolvane", 143}, {"hesperin", 154}, {"average", 148}})); // 129.04 * 1.11
-    EXPECT_EQ(object["figures"].toObject().keys(),
-              (QStringList{"cost", "experience", "growth", "power"}));
+    EXPECT_EQ(power, (QJsonObject{{"rolvane", 143}, {"hesperin", 154}, {"average", 148}})); // 129.04 * 1.11
+    EXPECT_EQ(object["figures"].toObject().keys(), (QStringList{"cost", "experience", "growth", "power"}));
     EXPECT_EQ(object["in_file"].toObject(),
               (QJsonObject{{"power", 905}, {"experience", 61}, {"growth", 7}, {"gold", 0}}));
     EXPECT_EQ(object["ability_product"].toDouble(), 1.11);
     EXPECT_EQ(object["abilities"].toArray(), (QJsonArray{"CASTER", "DASH", "FLESH_AND_BLOOD"}));
-    EXPECT_EQ(object["spells"].toArray(),
-              (QJsonArray{QJsonObject{{"token", "SLOW"}, {"mastery", 3}}}));
-    EXPECT_EQ(object["specabilities"].toArray(),
-              (QJsonArray{QJsonObject{{"token", "DASH"}, {"mastery", 1}}}));
+    EXPECT_EQ(object["spells"].toArray(), (QJsonArray{QJsonObject{{"token", "SLOW"}, {"mastery", 3}}}));
+    EXPECT_EQ(object["specabilities"].toArray(), (QJsonArray{QJsonObject{{"token", "DASH"}, {"mastery", 1}}}));
     EXPECT_EQ(object["messages"].toArray().size(), 2);
-    EXPECT_EQ(object["messages"][0].toObject(),
-              (QJsonObject{{"icon", "information"},
-                           {"title", "Warning!"},
-                           {"text", "Missing in the file, so left empty: Gold."}}));
+    EXPECT_EQ(object["messages"][0].toObject(), (QJsonObject{{"icon", "information"},
+                                                             {"title", "Warning!"},
+                                                             {"text", "Missing in the file, so left empty: Gold."}}));
     EXPECT_TRUE(object["title"].toString().contains("[Creature: Bog_wyrm, Power=905{148}"));
 
     const QJsonObject refused = outcome.Json(1);
@@ -152,12 +144,10 @@ TEST(Calc, GivesOneJsonObjectALine) {
     for (const char* key : {"ability_product", "advised_tier", "name", "tier", "title"})
         EXPECT_TRUE(refused[key].isNull()) << key;
     for (const char* key : {"power", "experience", "growth", "cost"})
-        EXPECT_EQ(refused["figures"][key].toObject(), (QJsonObject{{"rolvane", QJsonValue()},
-                                                                   {"hesperin", QJsonValue()},
-                                                                   {"average", QJsonValue()}}));
+        EXPECT_EQ(refused["figures"][key].toObject(),
+                  (QJsonObject{{"rolvane", QJsonValue()}, {"hesperin", QJsonValue()}, {"average", QJsonValue()}}));
     for (const char* key : {"power", "experience", "growth", "gold"})
-        EXPECT_TRUE(refused["in_file"].toObject().contains(key) && refused["in_file"][key].isNull())
-            << key;
+        EXPECT_TRUE(refused["in_file"].toObject().contains(key) && refused["in_file"][key].isNull()) << key;
 }
 
 TEST(Calc, ComplainsOfARefusedFileAndGoesOn) {

@@ -12,8 +12,7 @@ namespace Hesperin {
 class CreatureXml {
 public:
     CreatureXml() {
-        for (const auto& [name, content] :
-             std::initializer_list<std::pair<const char*, const char*>>{
+        for (const auto& [name, content] : std::initializer_list<std::pair<const char*, const char*>>{
                  {"AttackSkill", "11"},
                  {"DefenceSkill", "12"},
                  {"Shots", "0"},
@@ -77,13 +76,10 @@ public:
 
     CreatureXml& Spell(const QString& token, const QString& mastery) {
         return Append("KnownSpells",
-                      QString("<Item><Spell>SPELL_%1</Spell><Mastery>MASTERY_%2</Mastery></Item>")
-                          .arg(token, mastery));
+                      QString("<Item><Spell>SPELL_%1</Spell><Mastery>MASTERY_%2</Mastery></Item>").arg(token, mastery));
     }
 
-    CreatureXml& Ability(const QString& token) {
-        return Append("Abilities", "<Item>ABILITY_" + token + "</Item>");
-    }
+    CreatureXml& Ability(const QString& token) { return Append("Abilities", "<Item>ABILITY_" + token + "</Item>"); }
 
     QByteArray Bytes() const {
         QString text = "<Creature>" + lead;

@@ -45,14 +45,12 @@ TEST(Open, ARefusedFileChangesNothing) {
                  {"cut off", "cut.xdb", "<Creature>\n\n<Exp>5</Exp>", 3},
                  {"not well-formed", "bad.xdb", "<Creature>\n<Exp>5</Gold></Creature>", 2},
                  {"another document", "monster.xdb", "<?xml version='1.0'?>\n<Monster/>", 2},
-                 {"too long", "long.xdb", CreatureXml().Set("Exp", QString(33000, u'5')).Bytes(),
-                  0},
+                 {"too long", "long.xdb", CreatureXml().Set("Exp", QString(33000, u'5')).Bytes(), 0},
                  {"nulls", "null.xdb", QByteArray(64, '\0'), 0}}) {
             SCOPED_TRACE(QString("%1 %2").arg(language).arg(refused.what).toStdString());
-            const bool onDisk = QFileInfo(test.Path(refused.name)).isDir() ||
-                                refused.name.startsWith("nowhere") || refused.name.startsWith("50");
-            const QString path =
-                onDisk ? test.Path(refused.name) : test.Write(refused.name, refused.bytes);
+            const bool onDisk = QFileInfo(test.Path(refused.name)).isDir() || refused.name.startsWith("nowhere") ||
+                                refused.name.startsWith("50");
+            const QString path = onDisk ? test.Path(refused.name) : test.Write(refused.name, refused.bytes);
             const QStringList before = Snapshot(test);
             test.platform.boxes.clear();
             test.platform.dialogPath = path;
@@ -64,14 +62,11 @@ TEST(Open, ARefusedFileChangesNothing) {
             EXPECT_EQ(box.title, language == English ? "Warning!" : QString::fromUtf8("Внимание!"));
             EXPECT_TRUE(box.text.contains('"' + path + '"')) << box.text.toStdString();
             EXPECT_EQ(test.program.failure, box.text);
-            const QString place =
-                language == English ? "line %1," : QString::fromUtf8("строка %1,");
-            EXPECT_TRUE(refused.line == 0 || box.text.contains(place.arg(refused.line)))
-                << box.text.toStdString();
+            const QString place = language == English ? "line %1," : QString::fromUtf8("строка %1,");
+            EXPECT_TRUE(refused.line == 0 || box.text.contains(place.arg(refused.line))) << box.text.toStdString();
             const QString reason = QString(box.text).remove('"' + path + '"');
-            const bool cyrillic = std::any_of(reason.begin(), reason.end(), [](QChar c) {
-                return c.script() == QChar::Script_Cyrillic;
-            });
+            const bool cyrillic =
+                std::any_of(reason.begin(), reason.end(), [](QChar c) { return c.script() == QChar::Script_Cyrillic; });
             EXPECT_EQ(cyrillic, language == Russian) << reason.toStdString();
         }
     }
@@ -86,8 +81,7 @@ TEST(Open, TheLargestFileIsStillRead) {
 }
 
 TEST(Open, ACancelledDialogChangesNothing) {
-    for (const std::optional<QString>& answer :
-         {std::optional<QString>(), std::optional<QString>("")}) {
+    for (const std::optional<QString>& answer : {std::optional<QString>(), std::optional<QString>("")}) {
         TestProgram test;
         OpenCaster(test);
         const QStringList before = Snapshot(test);
@@ -95,8 +89,7 @@ TEST(Open, ACancelledDialogChangesNothing) {
         test.form.mnuOpen.Click();
         EXPECT_EQ(Snapshot(test), before);
         EXPECT_TRUE(test.platform.boxes.empty());
-        EXPECT_EQ(test.platform.dialogFileName, test.Path("Creature_200.xdb"))
-            << "offered: the last one";
+        EXPECT_EQ(test.platform.dialogFileName, test.Path("Creature_200.xdb")) << "offered: the last one";
         EXPECT_EQ(test.form.ComDialog.Filter, "Heroes of Might and Magic V Files (*.xdb )|*.xdb");
         EXPECT_EQ(test.form.ComDialog.InitialDirectory, test.platform.programFolder);
         EXPECT_EQ(test.form.ComDialog.DefaultExtension, "xdb");
@@ -115,8 +108,8 @@ TEST(Open, KeepsTheNormalisedTextAndForgetsTheCreatureBefore) {
     EXPECT_EQ(test.state.SpellPoints1Count, 0);
     for (const Control* control : test.form.Controls()) {
         // The work buffers keep their last window; the tick taken away has emptied the shots.
-        const bool differs = control == &test.form.RTBTEMP || control == &test.form.RTBSPEC ||
-                             control == &test.form.txtShots;
+        const bool differs =
+            control == &test.form.RTBTEMP || control == &test.form.RTBSPEC || control == &test.form.txtShots;
         EXPECT_TRUE(differs || control->Shown() == fresh.form.Find(control->Name())->Shown())
             << control->Name().toStdString();
     }
@@ -164,13 +157,10 @@ TEST(Open, TellsInOneBoxWhatWasMissingOrLimitedBeforeCalculateWarns) {
         SCOPED_TRACE(missing.element);
         TestProgram test;
         OpenCaster(test);
-        ASSERT_TRUE(OpenCreatureFile(
-            test.program, test.Write("a.xdb", CreatureXml().Remove(missing.element).Bytes())));
+        ASSERT_TRUE(OpenCreatureFile(test.program, test.Write("a.xdb", CreatureXml().Remove(missing.element).Bytes())));
         ASSERT_FALSE(test.platform.boxes.empty());
-        EXPECT_EQ(static_cast<int>(test.platform.boxes[0].icon),
-                  static_cast<int>(BoxIcon::Information));
-        EXPECT_EQ(test.platform.boxes[0].text,
-                  QString("Missing in the file, so left empty: %1.").arg(missing.element));
+        EXPECT_EQ(static_cast<int>(test.platform.boxes[0].icon), static_cast<int>(BoxIcon::Information));
+        EXPECT_EQ(test.platform.boxes[0].text, QString("Missing in the file, so left empty: %1.").arg(missing.element));
         EXPECT_EQ(test.form.Find(missing.control)->Shown(), missing.cleared);
         bare.Remove(missing.element);
         names.append(missing.element);
@@ -182,19 +172,15 @@ TEST(Open, TellsInOneBoxWhatWasMissingOrLimitedBeforeCalculateWarns) {
     const QString text = test.platform.boxes[0].text;
     for (const QString& name : names)
         EXPECT_EQ(text.count(name), 1) << name.toStdString();
-    EXPECT_EQ(test.state.FilePower + test.state.FileExperience + test.state.FileGrowth +
-                  test.state.FileGold,
-              0);
+    EXPECT_EQ(test.state.FilePower + test.state.FileExperience + test.state.FileGrowth + test.state.FileGold, 0);
     EXPECT_EQ(test.state.CreatureName, "Test");
     EXPECT_EQ(test.form.txtNC.Text(), "");
     EXPECT_FALSE(test.form.mnuSave.Enabled());
 }
 
 TEST(Open, NamesElementsWhoseClosingTagComesFirstAndLimitedNumbers) {
-    const CreatureXml document = CreatureXml()
-                                     .Lead("<Speed kind=\"x\">3</Speed>")
-                                     .Set("Exp", "99999 %1")
-                                     .Set("Gold", "-40000.7");
+    const CreatureXml document =
+        CreatureXml().Lead("<Speed kind=\"x\">3</Speed>").Set("Exp", "99999 %1").Set("Gold", "-40000.7");
     TestProgram test;
     ASSERT_TRUE(OpenCreatureFile(test.program, test.Write("a.xdb", document.Bytes())));
     EXPECT_EQ(test.platform.boxes[0].text, "Missing in the file, so left empty: Speed.\n"
@@ -217,8 +203,8 @@ TEST(Open, TakesTheNameAsTheReferenceHasIt) {
     };
     for (const auto& test : cases) {
         TestProgram program;
-        ASSERT_TRUE(OpenCreatureFile(
-            program.program, program.Write("a.xdb", CreatureXml().Reference(test.href).Bytes())));
+        ASSERT_TRUE(
+            OpenCreatureFile(program.program, program.Write("a.xdb", CreatureXml().Reference(test.href).Bytes())));
         EXPECT_EQ(program.form.txtNC.Text(), test.name);
         EXPECT_EQ(program.state.CreatureName, test.name);
     }
@@ -254,13 +240,11 @@ TEST(New, ResetsAndAsksForTheName) {
     TestProgram test;
     OpenCaster(test);
     test.form.mnuNew.Click();
-    EXPECT_EQ(test.platform.Texts(),
-              QStringList{"Please introduce creature's name in the project TCX!"});
+    EXPECT_EQ(test.platform.Texts(), QStringList{"Please introduce creature's name in the project TCX!"});
     EXPECT_EQ(static_cast<int>(test.platform.boxes[0].icon), static_cast<int>(BoxIcon::Critical));
     EXPECT_EQ(test.platform.focus.last(), "txtNC");
     EXPECT_FALSE(test.state.CreatureFileLoaded);
-    EXPECT_FALSE(test.form.mnuSave.Enabled() || test.form.Tablus.Tab(2).On() ||
-                 test.form.Tablus.Tab(4).On());
+    EXPECT_FALSE(test.form.mnuSave.Enabled() || test.form.Tablus.Tab(2).On() || test.form.Tablus.Tab(4).On());
     EXPECT_EQ(test.form.txtNC.Text() + test.form.txtMana.Text(), "");
 }
 

@@ -31,37 +31,14 @@ TEST(Reader, FillsEveryFieldFromItsOwnElement) {
         const char* control;
         const char* shown;
     } cases[] = {
-        {"txtAttack", "11"},
-        {"txtDefence", "12"},
-        {"txtMinDam", "5"},
-        {"txtMaxDam", "8"},
-        {"txtHealth", "40"},
-        {"ComboSpeed", "6"},
-        {"ComboInitiative", "9"},
-        {"ComboTier", "4"},
-        {"ComboUpgrade", "True"},
-        {"ComboAlias", "ACADEMY"},
-        {"ComboFaction", "Academy"},
-        {"ComboDiapazon", "-1"},
-        {"ComboRange", "Max"},
-        {"ComboTTC", "15"},
-        {"ComboFME", "Air"},
-        {"ComboSME", "Water"},
-        {"txtExp", "61"},
-        {"txtPower", "905"},
-        {"txtGrowthf", "7"},
-        {"txtWoodf", "1"},
-        {"txtOref", "2"},
-        {"txtMercuryf", "3"},
-        {"txtCrystalf", "4"},
-        {"txtSulfurf", "5"},
-        {"txtGemf", "6"},
-        {"txtGoldf", "420"},
-        {"txtNC", "Bog_wyrm"},
-        {"txtIDC", ""},
-        {"txtMana", ""},
-        {"txtShots", "0"},
-        {"ComboSpeed", "6"},
+        {"txtAttack", "11"},      {"txtDefence", "12"},      {"txtMinDam", "5"},          {"txtMaxDam", "8"},
+        {"txtHealth", "40"},      {"ComboSpeed", "6"},       {"ComboInitiative", "9"},    {"ComboTier", "4"},
+        {"ComboUpgrade", "True"}, {"ComboAlias", "ACADEMY"}, {"ComboFaction", "Academy"}, {"ComboDiapazon", "-1"},
+        {"ComboRange", "Max"},    {"ComboTTC", "15"},        {"ComboFME", "Air"},         {"ComboSME", "Water"},
+        {"txtExp", "61"},         {"txtPower", "905"},       {"txtGrowthf", "7"},         {"txtWoodf", "1"},
+        {"txtOref", "2"},         {"txtMercuryf", "3"},      {"txtCrystalf", "4"},        {"txtSulfurf", "5"},
+        {"txtGemf", "6"},         {"txtGoldf", "420"},       {"txtNC", "Bog_wyrm"},       {"txtIDC", ""},
+        {"txtMana", ""},          {"txtShots", "0"},         {"ComboSpeed", "6"},
     };
     for (const auto& field : cases)
         EXPECT_EQ(test.Shown(field.control), field.shown) << field.control;
@@ -79,8 +56,7 @@ TEST(Reader, FillsEveryFieldFromItsOwnElement) {
     EXPECT_FALSE(test.form.Tablus.Tab(2).On());
     EXPECT_TRUE(test.form.Tablus.Tab(4).On());
     EXPECT_EQ(test.form.Tablus.Tab(4).Caption(), test.Path("creature.xdb"));
-    EXPECT_FALSE(test.form.txtMana.Enabled() || test.form.txtShots.Enabled() ||
-                 test.form.FrameMana.Enabled());
+    EXPECT_FALSE(test.form.txtMana.Enabled() || test.form.txtShots.Enabled() || test.form.FrameMana.Enabled());
 }
 
 TEST(Reader, ReadsOddContentsOfAnElement) {
@@ -131,16 +107,15 @@ TEST(Reader, ReadsOddContentsOfAnElement) {
     };
     for (const auto& odd : cases) {
         SCOPED_TRACE(QString("%1 %2").arg(odd.element, odd.content).toStdString());
-        EXPECT_EQ(Opened(CreatureXml().Set(odd.element, odd.content)).Shown(odd.control),
-                  odd.shown);
+        EXPECT_EQ(Opened(CreatureXml().Set(odd.element, odd.content)).Shown(odd.control), odd.shown);
     }
 }
 
 TEST(Reader, ManaAndShotsOpenTheirFieldsAndTheSpellsPage) {
     const Opened test(CreatureXml().Set("SpellPoints", "8").Set("Shots", "3"));
-    for (const Control* control : std::initializer_list<const Control*>{
-             &test.form.txtMana, &test.form.FrameMana, &test.form.txtShots, &test.form.FrameShots,
-             &test.form.ComboRange, &test.form.cmdRAS})
+    for (const Control* control :
+         std::initializer_list<const Control*>{&test.form.txtMana, &test.form.FrameMana, &test.form.txtShots,
+                                               &test.form.FrameShots, &test.form.ComboRange, &test.form.cmdRAS})
         EXPECT_TRUE(control->Enabled()) << control->Name().toStdString();
     EXPECT_TRUE(test.form.Tablus.Tab(2).On());
     EXPECT_EQ(test.form.ComboDiapazon.Text(), "-1");
@@ -149,16 +124,14 @@ TEST(Reader, ManaAndShotsOpenTheirFieldsAndTheSpellsPage) {
 }
 
 TEST(Reader, AbilityCasterWithoutManaOpensTheFieldForCalculateToCorrect) {
-    Opened test(CreatureXml().Ability("CASTER").Ability("SHOOTER").Ability("FLYER").Ability(
-        "LARGE_CREATURE"));
+    Opened test(CreatureXml().Ability("CASTER").Ability("SHOOTER").Ability("FLYER").Ability("LARGE_CREATURE"));
     EXPECT_EQ(test.Ticked("Abilities"),
               (QStringList{"CASTER", "FLESH_AND_BLOOD", "FLYER", "LARGE_CREATURE", "SHOOTER"}));
     EXPECT_TRUE(test.form.Tablus.Tab(2).On());
     EXPECT_EQ(test.form.txtMana.Text(), "1");
     EXPECT_EQ(test.form.txtShots.Text(), "1");
-    EXPECT_EQ(
-        test.platform.Texts().mid(0, 2),
-        (QStringList{"Value for 'Mana' out of the range!", "Value for 'Shots' out of the range!"}));
+    EXPECT_EQ(test.platform.Texts().mid(0, 2),
+              (QStringList{"Value for 'Mana' out of the range!", "Value for 'Shots' out of the range!"}));
 }
 
 TEST(Reader, OneTokenInsideAnotherTicksBoth) {
@@ -172,18 +145,9 @@ TEST(Reader, OneTokenInsideAnotherTicksBoth) {
          CreatureXml().Spell("ABILITY_FEAR", "BASIC"),
          {"FEAR", "FLESH_AND_BLOOD"},
          {"FEAR"}},
-        {"a linked one",
-         CreatureXml().Spell("ABILITY_DASH", "BASIC"),
-         {"DASH", "FLESH_AND_BLOOD"},
-         {"DASH"}},
-        {"an ability alone ticks its link",
-         CreatureXml().Ability("DASH"),
-         {"DASH", "FLESH_AND_BLOOD"},
-         {"DASH"}},
-        {"an ability without a link",
-         CreatureXml().Ability("FEAR"),
-         {"FEAR", "FLESH_AND_BLOOD"},
-         {}},
+        {"a linked one", CreatureXml().Spell("ABILITY_DASH", "BASIC"), {"DASH", "FLESH_AND_BLOOD"}, {"DASH"}},
+        {"an ability alone ticks its link", CreatureXml().Ability("DASH"), {"DASH", "FLESH_AND_BLOOD"}, {"DASH"}},
+        {"an ability without a link", CreatureXml().Ability("FEAR"), {"FEAR", "FLESH_AND_BLOOD"}, {}},
         {"a longer ability",
          CreatureXml().Ability("RANDOM_CASTER_BLESS"),
          {"FLESH_AND_BLOOD", "RANDOM_CASTER", "RANDOM_CASTER_BLESS"},
@@ -197,10 +161,7 @@ TEST(Reader, OneTokenInsideAnotherTicksBoth) {
          {"BASH", "FLESH_AND_BLOOD", "VENOM"},
          {"VENOM"}},
         {"unknown words",
-         CreatureXml()
-             .Ability("SINGING")
-             .Spell("LULLABY", "BASIC")
-             .Spell("ABILITY_WEAKNING_STRIKE", ""),
+         CreatureXml().Ability("SINGING").Spell("LULLABY", "BASIC").Spell("ABILITY_WEAKNING_STRIKE", ""),
          {"FLESH_AND_BLOOD"},
          {}},
     };
@@ -221,16 +182,14 @@ TEST(Reader, InfersTheNature) {
         {{"UNDEAD"}, {"UNDEAD"}},
         {{"MECHANICAL"}, {"MECHANICAL"}},
         {{"ELEMENTAL"}, {"ELEMENTAL"}},
-        {{"UNDEAD", "ELEMENTAL"},
-         {"ELEMENTAL"}}, // catalogue order decides, not the order in the file
+        {{"UNDEAD", "ELEMENTAL"}, {"ELEMENTAL"}}, // catalogue order decides, not the order in the file
         {{"UNDEAD", "FLESH_AND_BLOOD"}, {"FLESH_AND_BLOOD"}},
     };
     for (const auto& test : cases) {
         CreatureXml document;
         for (const QString& nature : test.inFile)
             document.Ability(nature);
-        EXPECT_EQ(Opened(document).Ticked("Abilities"), test.ticked)
-            << test.inFile.join(' ').toStdString();
+        EXPECT_EQ(Opened(document).Ticked("Abilities"), test.ticked) << test.inFile.join(' ').toStdString();
     }
 }
 
@@ -266,8 +225,7 @@ TEST(Reader, MasteryCountsOnlyInsideItsWindow) {
             const Opened opened(CreatureXml().Spell(test.token, word));
             EXPECT_EQ(opened.Ticked("Spells"), QStringList{test.token});
             EXPECT_TRUE(opened.form.soq(test.spell).Enabled());
-            EXPECT_EQ(opened.form.soq(test.spell).SelectedOption(),
-                      opened.form.soq(test.spell).Value());
+            EXPECT_EQ(opened.form.soq(test.spell).SelectedOption(), opened.form.soq(test.spell).Value());
             levels += QString::number(opened.form.soq(test.spell).Value());
         }
         EXPECT_EQ(levels, test.levels);

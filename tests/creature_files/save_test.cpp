@@ -67,8 +67,8 @@ TEST(Save, WithoutANameNothingElseHappens) {
     test.platform.dialogPath = test.Path("out.xdb");
     test.form.mnuSave.Click();
     EXPECT_EQ(Snapshot(test), before) << "but for the name, which is empty now";
-    EXPECT_EQ(test.platform.Texts(), QStringList{QString::fromUtf8(
-                                         "Пожалуйста, введите название существа в проекте TCX!")});
+    EXPECT_EQ(test.platform.Texts(),
+              QStringList{QString::fromUtf8("Пожалуйста, введите название существа в проекте TCX!")});
     EXPECT_EQ(static_cast<int>(test.platform.boxes[0].icon), static_cast<int>(BoxIcon::Critical));
     EXPECT_FALSE(QFile::exists(test.Path("out.xdb")));
     EXPECT_FALSE(test.program.failure.isEmpty());
@@ -86,8 +86,7 @@ TEST(Save, AFailureIsToldByTheStatusAndThePageIsShownAllTheSame) {
             EXPECT_TRUE(test.platform.boxes.empty());
             ASSERT_EQ(test.platform.status.size(), 1);
             EXPECT_TRUE(test.platform.status[0].contains(test.Path(place)));
-            EXPECT_EQ(test.platform.status[0].contains(QString::fromUtf8("не сохранён")),
-                      language == Russian);
+            EXPECT_EQ(test.platform.status[0].contains(QString::fromUtf8("не сохранён")), language == Russian);
             EXPECT_EQ(test.program.failure, test.platform.status[0]);
             EXPECT_FALSE(test.form.frmMain.Enabled());
             EXPECT_TRUE(test.form.Tablus.Tab(4).On());
@@ -105,8 +104,7 @@ TEST(Save, AFailureIsToldByTheStatusAndThePageIsShownAllTheSame) {
 /// Fills the window at random, as a user could.
 class RandomCreature {
 public:
-    RandomCreature(TestProgram& owner, unsigned seed)
-        : test(owner), form(owner.form), random(seed) {
+    RandomCreature(TestProgram& owner, unsigned seed) : test(owner), form(owner.form), random(seed) {
         const int lowest = Number(1, 90);
         const std::initializer_list<std::pair<TextField*, int>> numbers{
             {&form.txtAttack, Number(1, 50)},      {&form.txtDefence, Number(1, 50)},
@@ -118,14 +116,11 @@ public:
             {&form.txtSulfurf, Number(0, 99)},     {&form.txtGemf, Number(0, 99)}};
         for (const auto& [field, number] : numbers)
             field->SetText(QString::number(number));
-        for (ComboBox* list :
-             {&form.ComboTier, &form.ComboSpeed, &form.ComboInitiative, &form.ComboFaction,
-              &form.ComboUpgrade, &form.ComboTTC, &form.ComboFME, &form.ComboSME})
-            list->Select(
-                static_cast<std::int16_t>(Number(0, static_cast<int>(list->Items().size()) - 1)));
+        for (ComboBox* list : {&form.ComboTier, &form.ComboSpeed, &form.ComboInitiative, &form.ComboFaction,
+                               &form.ComboUpgrade, &form.ComboTTC, &form.ComboFME, &form.ComboSME})
+            list->Select(static_cast<std::int16_t>(Number(0, static_cast<int>(list->Items().size()) - 1)));
         for (int letters = Number(1, 12); letters > 0; --letters)
-            form.txtNC.SetText(form.txtNC.Text() +
-                               QChar(Number(0, 1) ? Number('a', 'z') : Number('A', 'Z')));
+            form.txtNC.SetText(form.txtNC.Text() + QChar(Number(0, 1) ? Number('a', 'z') : Number('A', 'Z')));
         const int rarity = Number(2, 30);
         for (CheckBox& box : form.Abilities)
             box.SetTicked(Number(1, rarity) == 1);
@@ -142,9 +137,7 @@ public:
     }
 
 private:
-    int Number(int from, int to) {
-        return from + static_cast<int>(random() % static_cast<unsigned>(to - from + 1));
-    }
+    int Number(int from, int to) { return from + static_cast<int>(random() % static_cast<unsigned>(to - from + 1)); }
 
     void Tick(CheckBox& box, MultiOption& selector, int rarity) {
         if (Number(1, rarity) == 1)
@@ -167,21 +160,16 @@ struct Expected {
             if (form.Specabilities(j).Ticked())
                 written.append(form.Specabilities(j).Caption());
         for (int j = 1; j <= SpecabilityCount; ++j)
-            for (int k = 1; listed && k <= SpecabilityCount;
-                 ++k) // the first token that begins with j's
+            for (int k = 1; listed && k <= SpecabilityCount; ++k) // the first token that begins with j's
                 if (form.Specabilities(k).Ticked() && !specabilities.contains(j) &&
                     form.Specabilities(k).Caption().startsWith(form.Specabilities(j).Caption()))
                     specabilities[j] = form.saz(k).Value();
         for (int i = 1; listed && i <= SpellCount; ++i)
             if (form.Spells(i).Ticked()) {
-                const qsizetype room =
-                    64 - 21 - 8 - QString("SPELL_" + form.Spells(i).Caption()).size();
+                const qsizetype room = 64 - 21 - 8 - QString("SPELL_" + form.Spells(i).Caption()).size();
                 const std::int16_t level = form.soq(i).Value();
                 spells[i] =
-                    QString::fromUtf16(MasteryToken.at(static_cast<std::size_t>(level))).size() <=
-                            room
-                        ? level
-                        : 0;
+                    QString::fromUtf16(MasteryToken.at(static_cast<std::size_t>(level))).size() <= room ? level : 0;
             }
         for (const CheckBox& box : form.Abilities)
             if (box.Ticked() && box.ArrayIndex() != Ability::FleshAndBlood)
@@ -236,17 +224,13 @@ TEST(SaveAndOpen, GivesTheCreatureBack) {
                 shown = shown.left(1).toUpper() + shown.mid(1).toLower();
             else if (control == &saved.form.txtIDC)
                 shown = "222";
-            else if (control == &saved.form.txtMana &&
-                     !saved.form.Abilities(Ability::Caster).Ticked())
+            else if (control == &saved.form.txtMana && !saved.form.Abilities(Ability::Caster).Ticked())
                 shown = "";
-            else if (control == &saved.form.txtShots &&
-                     !saved.form.Abilities(Ability::Shooter).Ticked())
+            else if (control == &saved.form.txtShots && !saved.form.Abilities(Ability::Shooter).Ticked())
                 shown = "0";
             else if (control == &saved.form.txtGrowthf)
-                shown = QString::number(
-                    std::max(1, (saved.state.GrowthRolvane + saved.state.GrowthHesperin) / 2));
-            EXPECT_EQ(opened.form.Find(control->Name())->Shown(), shown)
-                << control->Name().toStdString();
+                shown = QString::number(std::max(1, (saved.state.GrowthRolvane + saved.state.GrowthHesperin) / 2));
+            EXPECT_EQ(opened.form.Find(control->Name())->Shown(), shown) << control->Name().toStdString();
         }
         std::set<int> abilities;
         for (const CheckBox& box : opened.form.Abilities)

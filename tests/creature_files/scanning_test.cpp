@@ -96,8 +96,7 @@ TEST(TagIsTrue, LooksBehindTheFirstOccurrenceOfTheName) {
         {"<Upgrade>true</Upgrade><Upgrades></Upgrades>", "Upgrade", 1},
         {"", "Flying", 0},
         {"<A>nothing of it</A>", "Flying", 0},
-        {"<A>xx>true", "Flying",
-         1}, // the name isn't there, and "true" stands just where it is looked for
+        {"<A>xx>true", "Flying", 1}, // the name isn't there, and "true" stands just where it is looked for
     };
     for (const auto& test : cases) {
         SCOPED_TRACE(test.text);
@@ -188,8 +187,7 @@ TEST(HrefLeaf, IsWhatStandsBehindTheLastSlash) {
         QString endMark;
         std::optional<QString> leaf;
     } cases[] = {
-        {"<MonsterShared href=\"/MapObjects/Neutral/Swamp_drake" + marked + "\"/>", marked,
-         "Swamp_drake"},
+        {"<MonsterShared href=\"/MapObjects/Neutral/Swamp_drake" + marked + "\"/>", marked, "Swamp_drake"},
         {"<MonsterShared href=\"/Drake" + plain + "\"/>", plain, "Drake"},
         {"<MonsterShared href=\"/a/b c/" + plain + "\"/>", plain, ""},
         {"<MonsterShared href=\"Drake" + plain + "\"/>", plain, ""},
@@ -203,9 +201,7 @@ TEST(HrefLeaf, IsWhatStandsBehindTheLastSlash) {
     for (const auto& test : cases)
         for (const QString& padding : {QString(), Padding}) {
             SCOPED_TRACE(test.text.toStdString());
-            EXPECT_EQ(
-                HrefLeaf(Buffer(test.text + padding).buffer, u"MonsterShared href=", test.endMark),
-                test.leaf);
+            EXPECT_EQ(HrefLeaf(Buffer(test.text + padding).buffer, u"MonsterShared href=", test.endMark), test.leaf);
         }
 }
 

@@ -12,10 +12,8 @@ inline QStringList Snapshot(const TestProgram& test) {
     for (const Control* control : test.form.Controls()) {
         if (control == &test.form.ComDialog)
             continue;
-        QString line = QString("%1 enabled %2 visible %3 ")
-                           .arg(control->Name())
-                           .arg(control->Enabled())
-                           .arg(control->Visible());
+        QString line =
+            QString("%1 enabled %2 visible %3 ").arg(control->Name()).arg(control->Enabled()).arg(control->Visible());
         line += control->ToolTip() + " | " + control->Shown();
         if (const auto* list = dynamic_cast<const ComboBox*>(control))
             line += QString(" entry %1").arg(list->Index());

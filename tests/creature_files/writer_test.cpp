@@ -19,10 +19,9 @@ TEST(Writer, WritesTheWholeFile) {
     TestProgram test;
     MainForm& form = test.form;
     const std::initializer_list<std::pair<TextField*, const char*>> fields{
-        {&form.txtAttack, "4"},   {&form.txtDefence, "3"}, {&form.txtShots, ""},
-        {&form.txtMinDam, "2"},   {&form.txtMaxDam, "3"},  {&form.txtHealth, "10"},
-        {&form.txtExp, "12"},     {&form.txtPower, "137"}, {&form.txtGoldf, "58"},
-        {&form.txtGrowthf, "99"}, {&form.txtIDC, "183"}};
+        {&form.txtAttack, "4"}, {&form.txtDefence, "3"},  {&form.txtShots, ""}, {&form.txtMinDam, "2"},
+        {&form.txtMaxDam, "3"}, {&form.txtHealth, "10"},  {&form.txtExp, "12"}, {&form.txtPower, "137"},
+        {&form.txtGoldf, "58"}, {&form.txtGrowthf, "99"}, {&form.txtIDC, "183"}};
     for (const auto& [field, text] : fields)
         field->SetText(text);
     form.ComboInitiative.SetText("8");
@@ -116,39 +115,28 @@ void ExpectPieces(std::initializer_list<PieceCase> cases) {
 
 TEST(Writer, TakesEveryValueFromItsOwnControl) {
     ExpectPieces({
-        {"attack", [](MainForm& form) { form.txtAttack.SetText("a<&"); },
-         "<AttackSkill>a<&</AttackSkill>"},
+        {"attack", [](MainForm& form) { form.txtAttack.SetText("a<&"); }, "<AttackSkill>a<&</AttackSkill>"},
         {"empty field", [](MainForm& form) { form.txtExp.SetText({}); }, "\t<Exp></Exp>\n"},
         {"shots", [](MainForm& form) { form.txtShots.SetText("7"); }, "<Shots>7</Shots>"},
         {"mana of a creature that is no caster", [](MainForm& form) { form.txtMana.SetText("7"); },
          "<SpellPoints>7</SpellPoints>"},
-        {"no mana", [](MainForm& form) { form.txtMana.SetText({}); },
-         "<SpellPoints>0</SpellPoints>"},
+        {"no mana", [](MainForm& form) { form.txtMana.SetText({}); }, "<SpellPoints>0</SpellPoints>"},
         {"typed speed", [](MainForm& form) { form.ComboSpeed.SetText("12"); }, "<Speed>12</Speed>"},
-        {"flyer", [](MainForm& form) { form.Abilities(66).SetTicked(true); },
-         "<Flying>true</Flying>"},
-        {"large", [](MainForm& form) { form.Abilities(91).SetTicked(true); },
-         "<CombatSize>2</CombatSize>"},
-        {"upgraded", [](MainForm& form) { form.ComboUpgrade.Select(1); },
-         "<Upgrade>true</Upgrade>"},
-        {"inferno", [](MainForm& form) { form.ComboFaction.Select(1); },
-         "<SpellPoints2>1</SpellPoints2>\n"},
-        {"inferno's town", [](MainForm& form) { form.ComboFaction.Select(1); },
-         "TOWN_INFERNO</CreatureTown>"},
-        {"haven", [](MainForm& form) { form.ComboFaction.Select(0); },
-         "<SpellPoints2>0</SpellPoints2>\n"},
+        {"flyer", [](MainForm& form) { form.Abilities(66).SetTicked(true); }, "<Flying>true</Flying>"},
+        {"large", [](MainForm& form) { form.Abilities(91).SetTicked(true); }, "<CombatSize>2</CombatSize>"},
+        {"upgraded", [](MainForm& form) { form.ComboUpgrade.Select(1); }, "<Upgrade>true</Upgrade>"},
+        {"inferno", [](MainForm& form) { form.ComboFaction.Select(1); }, "<SpellPoints2>1</SpellPoints2>\n"},
+        {"inferno's town", [](MainForm& form) { form.ComboFaction.Select(1); }, "TOWN_INFERNO</CreatureTown>"},
+        {"haven", [](MainForm& form) { form.ComboFaction.Select(0); }, "<SpellPoints2>0</SpellPoints2>\n"},
         {"no town", [](MainForm&) {}, "<CreatureTown>TOWN_NO_TYPE</CreatureTown>"},
         {"range", [](MainForm& form) { form.ComboRange.Select(2); }, "<Range>-2</Range>"},
-        {"time", [](MainForm& form) { form.ComboTTC.Select(1); },
-         "<TimeToCommand>15</TimeToCommand>"},
-        {"second element", [](MainForm& form) { form.ComboSME.Select(4); },
-         "<Second>ELEMENT_WATER</Second>"},
+        {"time", [](MainForm& form) { form.ComboTTC.Select(1); }, "<TimeToCommand>15</TimeToCommand>"},
+        {"second element", [](MainForm& form) { form.ComboSME.Select(4); }, "<Second>ELEMENT_WATER</Second>"},
         {"costs, each its own",
          [](MainForm& form) {
              int amount = 1;
-             for (TextField* field :
-                  {&form.txtWoodf, &form.txtOref, &form.txtMercuryf, &form.txtCrystalf,
-                   &form.txtSulfurf, &form.txtGemf, &form.txtGoldf})
+             for (TextField* field : {&form.txtWoodf, &form.txtOref, &form.txtMercuryf, &form.txtCrystalf,
+                                      &form.txtSulfurf, &form.txtGemf, &form.txtGoldf})
                  field->SetText(QString::number(amount++));
          },
          "<Wood>1</Wood>\n\t\t<Ore>2</Ore>\n\t\t<Mercury>3</Mercury>\n\t\t<Crystal>4</Crystal>\n"
@@ -185,12 +173,10 @@ TEST(Writer, WritesKnownSpellsByTheLastRuleOrForACaster) {
          },
          "<SpellPoints1>0</SpellPoints1>"},
         {"HOWL alone", [](MainForm& form) { form.Abilities(75).SetTicked(true); }, emptyList},
-        {"HOWL's charge", [](MainForm& form) { form.Abilities(75).SetTicked(true); },
-         "<SpellPoints1>1</SpellPoints1>"},
+        {"HOWL's charge", [](MainForm& form) { form.Abilities(75).SetTicked(true); }, "<SpellPoints1>1</SpellPoints1>"},
         {"a linked pair's charge", [](MainForm& form) { form.Specabilities(9).SetTicked(true); },
          "<SpellPoints1>2</SpellPoints1>"},
-        {"a caster without spells", [](MainForm& form) { form.Abilities(29).SetTicked(true); },
-         emptyList},
+        {"a caster without spells", [](MainForm& form) { form.Abilities(29).SetTicked(true); }, emptyList},
         {"a spell on the page that is off", hidesSpell,
          "\t<KnownSpells>\n\t\t<Item>\n\t\t\t<Spell>SPELL_ANTI_MAGIC</Spell>\n"
          "\t\t\t<Mastery>MASTERY_EXTRA_EXPERT</Mastery>\n\t\t</Item>\n\t</KnownSpells>\n"},
@@ -211,12 +197,10 @@ TEST(Writer, WritesSpecialAbilitiesBeforeSpellsInCatalogueOrder) {
     for (const QString& line : text.split('\n'))
         if (line.startsWith("\t\t\t"))
             known.append(line.trimmed());
-    EXPECT_EQ(
-        known,
-        (QStringList{"<Spell>SPELL_ABILITY_AGILITY</Spell>", "<Mastery>MASTERY_NONE</Mastery>",
-                     "<Spell>SPELL_ABILITY_VENOM</Spell>", "<Mastery>MASTERY_ADVANCED</Mastery>",
-                     "<Spell>SPELL_ANIMATE_DEAD</Spell>", "<Mastery>MASTERY_EXPERT</Mastery>",
-                     "<Spell>SPELL_WEAKNESS</Spell>", "<Mastery>MASTERY_NONE</Mastery>"}));
+    EXPECT_EQ(known, (QStringList{"<Spell>SPELL_ABILITY_AGILITY</Spell>", "<Mastery>MASTERY_NONE</Mastery>",
+                                  "<Spell>SPELL_ABILITY_VENOM</Spell>", "<Mastery>MASTERY_ADVANCED</Mastery>",
+                                  "<Spell>SPELL_ANIMATE_DEAD</Spell>", "<Mastery>MASTERY_EXPERT</Mastery>",
+                                  "<Spell>SPELL_WEAKNESS</Spell>", "<Mastery>MASTERY_NONE</Mastery>"}));
 }
 
 TEST(Writer, LeavesFiveAbilitiesToOtherElements) {
@@ -245,16 +229,14 @@ TEST(Writer, WritesTheMeanOfTheTwoGrowths) {
     const struct {
         std::int16_t rolvane, hesperin;
         const char* growth;
-    } cases[] = {{0, 0, ">1<"}, {1, 0, ">1<"},    {0, 3, ">1<"},
-                 {2, 2, ">2<"}, {18, 15, ">16<"}, {1000, 812, ">906<"}};
+    } cases[] = {{0, 0, ">1<"}, {1, 0, ">1<"}, {0, 3, ">1<"}, {2, 2, ">2<"}, {18, 15, ">16<"}, {1000, 812, ">906<"}};
     for (const auto& test : cases) {
         const QString text = TextAfter([&](TestProgram& program) {
             program.state.GrowthRolvane = test.rolvane;
             program.state.GrowthHesperin = test.hesperin;
             program.form.txtGrowthf.SetText("77");
         });
-        EXPECT_TRUE(text.contains("WeeklyGrowth" + QString(test.growth)))
-            << test.rolvane << ' ' << test.hesperin;
+        EXPECT_TRUE(text.contains("WeeklyGrowth" + QString(test.growth))) << test.rolvane << ' ' << test.hesperin;
     }
 }
 

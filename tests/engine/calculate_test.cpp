@@ -24,8 +24,7 @@ QStringList Warnings(TestProgram& test) {
 }
 
 TEST(Calculate, WarnsOfEveryFieldInOrderAndInTheLanguageOfTheWindow) {
-    const QStringList fixed{"Value for 'Speed' out of the range!",
-                            "Value for 'Initiative' out of the range!",
+    const QStringList fixed{"Value for 'Speed' out of the range!", "Value for 'Initiative' out of the range!",
                             "Value for 'Tier' out of the range!"};
     const struct {
         Language language;
@@ -145,8 +144,7 @@ TEST(Calculate, TheMinimumDamageFollowsTheMaximum) {
     TestProgram test(Russian);
     test.FillInCreature();
     test.form.txtMinDam.SetText("30");
-    EXPECT_EQ(Warnings(test),
-              QStringList{"Значение для 'Макс. урон' не может быть меньше, чем 'Мин. урон'!"});
+    EXPECT_EQ(Warnings(test), QStringList{"Значение для 'Макс. урон' не может быть меньше, чем 'Мин. урон'!"});
 }
 
 TEST(Calculate, ManaAndShotsNeedOnlyBeAboveZeroAndOnlyWhileTheirAbilityIsTicked) {
@@ -176,8 +174,7 @@ TEST(Calculate, TheCorrectedFieldStandsBeforeItsWarningIsShown) {
         MainForm* form = nullptr;
         QStringList seen;
         void ShowMessage(BoxIcon, const QString&, const QString&) override {
-            seen.append(form->txtAttack.Text() + form->txtDefence.Text() +
-                        form->lblPowerRolvane.Caption());
+            seen.append(form->txtAttack.Text() + form->txtDefence.Text() + form->lblPowerRolvane.Caption());
         }
     } platform;
     Program program(platform);
@@ -197,13 +194,11 @@ TEST(Calculate, AZeroPowerStopsTheRunAndLeavesTheRestUntouched) {
     const QString title = test.form.frmMain.Caption();
     const SharedState before = test.state;
 
-    test.state.AbilityCurrentValue[16] =
-        0.0058F; // 129.04 × 0.0058 = 0.748; root: 146.84 × 0.0762 = 11.18
+    test.state.AbilityCurrentValue[16] = 0.0058F; // 129.04 × 0.0058 = 0.748; root: 146.84 × 0.0762 = 11.18
     test.form.ComboTier.Select(4);
     test.form.ComboUpgrade.Select(1);
     test.form.txtNC.SetText("");
-    EXPECT_EQ(test.BoxesOf([&] { Calculate(test.program); }),
-              QStringList{"Value for 'Power by Rolvane' is zero!"});
+    EXPECT_EQ(test.BoxesOf([&] { Calculate(test.program); }), QStringList{"Value for 'Power by Rolvane' is zero!"});
     EXPECT_EQ(test.platform.boxes[0].icon, BoxIcon::Critical);
     EXPECT_EQ(test.platform.boxes[0].title, "Warning!");
 
@@ -212,9 +207,8 @@ TEST(Calculate, AZeroPowerStopsTheRunAndLeavesTheRestUntouched) {
     EXPECT_EQ(test.form.cmdCalc.ToolTip(), "Average value for all abilities is 0.0058");
     EXPECT_EQ(test.state.Tier, 5);
     QStringList labels;
-    for (const char* label :
-         {"ExpRolvane", "ExpHesperin", "GrowthRolvane", "GrowthHesperin", "CostRolvane",
-          "CostHesperin", "CostAverage", "GrowthAverage", "ExpAverage", "PowerAverage"})
+    for (const char* label : {"ExpRolvane", "ExpHesperin", "GrowthRolvane", "GrowthHesperin", "CostRolvane",
+                              "CostHesperin", "CostAverage", "GrowthAverage", "ExpAverage", "PowerAverage"})
         labels.append(dynamic_cast<Label&>(*test.form.Find(QString("lbl") + label)).Caption());
     EXPECT_EQ(labels.join(' '), "11 13 18 15 54 63 58 16 12 137");
     EXPECT_EQ(test.form.frmMain.Caption(), title);

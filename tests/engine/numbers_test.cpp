@@ -96,15 +96,13 @@ TEST(NumberTexts, AreWholeOrOfSevenDigits) {
     EXPECT_EQ(WholeText(9007199254740992.0), "9007199254740992");
     EXPECT_EQ(WholeText(-1e20), "-9007199254740992"); // the limit
     EXPECT_EQ(WholeDigits(std::int64_t{-32768}).View().toString(), "-32768");
-    EXPECT_EQ(WholeDigits(std::numeric_limits<std::int64_t>::max()).View().toString(),
-              "9223372036854775807");
+    EXPECT_EQ(WholeDigits(std::numeric_limits<std::int64_t>::max()).View().toString(), "9223372036854775807");
     const struct {
         float value;
         const char* text;
-    } floats[] = {
-        {1.0F, "1"},     {1.05F, "1.05"},    {1.2F, "1.2"},           {0.83F, "0.83"},
-        {100.0F, "100"}, {1.26F, "1.26"},    {1.0F / 3, "0.3333333"}, {2.0F / 3, "0.6666667"},
-        {0.5F, "0.5"},   {1234.5F, "1234.5"}};
+    } floats[] = {{1.0F, "1"},     {1.05F, "1.05"},    {1.2F, "1.2"},           {0.83F, "0.83"},
+                  {100.0F, "100"}, {1.26F, "1.26"},    {1.0F / 3, "0.3333333"}, {2.0F / 3, "0.6666667"},
+                  {0.5F, "0.5"},   {1234.5F, "1234.5"}};
     for (const auto& row : floats)
         EXPECT_EQ(FloatText(row.value), row.text);
 }
@@ -113,10 +111,9 @@ TEST(ProperCase, EveryWordBeginsWithOneUpperCaseLetter) {
     const struct {
         const char* text;
         const char* proper;
-    } cases[] = {
-        {"", ""},           {"max", "Max"},      {"TRUE", "True"},   {"мин.", "Мин."},
-        {"МАКС.", "Макс."}, {"a bC", "A Bc"},    {" x\ty", " X\tY"}, {"BEAR_ROAR", "Bear_roar"},
-        {"1st x", "1st X"}, {"o'neil", "O'neil"}};
+    } cases[] = {{"", ""},           {"max", "Max"},      {"TRUE", "True"},   {"мин.", "Мин."},
+                 {"МАКС.", "Макс."}, {"a bC", "A Bc"},    {" x\ty", " X\tY"}, {"BEAR_ROAR", "Bear_roar"},
+                 {"1st x", "1st X"}, {"o'neil", "O'neil"}};
     for (const auto& row : cases)
         EXPECT_EQ(ProperCase(row.text), row.proper);
 }

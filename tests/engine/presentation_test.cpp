@@ -25,8 +25,7 @@ TEST(AbilityProduct, IsAThirtyTwoBitFloatFormedInIndexOrder) {
         {{66, 147}, 1.26F, "1.26"},
         {{9, 33, 48, 162, 174}, 0.983465254F, "0.9834653"},
         {{10, 40, 46, 62, 75, 83, 94, 125, 132}, 6.48509741F, "6.485097"},
-        {{2,  3,  19,  22,  24,  26,  33,  36,  55,  57,  62,  74, 78,
-          81, 88, 100, 106, 107, 108, 119, 130, 135, 157, 165, 166},
+        {{2, 3, 19, 22, 24, 26, 33, 36, 55, 57, 62, 74, 78, 81, 88, 100, 106, 107, 108, 119, 130, 135, 157, 165, 166},
          9.63098907F,
          "9.630989"},
     };
@@ -37,8 +36,7 @@ TEST(AbilityProduct, IsAThirtyTwoBitFloatFormedInIndexOrder) {
             test.form.Abilities(ability).SetTicked(true);
         Calculate(test.program);
         EXPECT_EQ(test.state.AbilityProduct, row.product);
-        EXPECT_EQ(test.form.cmdCalc.ToolTip(),
-                  QString("Average value for all abilities is ") + row.text);
+        EXPECT_EQ(test.form.cmdCalc.ToolTip(), QString("Average value for all abilities is ") + row.text);
         for (const int ability : row.abilities)
             test.form.Abilities(ability).SetTicked(false);
         EXPECT_EQ(test.state.AbilityProduct, row.product); // as of the last run
@@ -114,9 +112,8 @@ TEST(TierAdvice, ComparesWithTheReferenceOfThePlainOrUpgradedCreature) {
             EXPECT_EQ(test.state.TierReferencePower, reference);
             EXPECT_EQ(test.state.PowerRatio, static_cast<float>(600.0 / reference));
             EXPECT_EQ(test.state.AdvisedTier, 4);
-            const QString text = QString("It is recommended to %1 tier from %2 to 4")
-                                     .arg(tier < 4 ? "increase" : "lower")
-                                     .arg(tier);
+            const QString text =
+                QString("It is recommended to %1 tier from %2 to 4").arg(tier < 4 ? "increase" : "lower").arg(tier);
             EXPECT_EQ(advice, tier == 4 ? QStringList() : QStringList{text});
         }
     TestProgram russian(Russian);
@@ -142,9 +139,8 @@ TEST(Title, SetsTheFileBesideTheCalculationOnceAFileIsOpen) {
     for (const auto label : ResultLabels) // the title needs none of them
         (test.form.*label).SetCaption(QString());
     BuildTitle(test.program);
-    EXPECT_EQ(test.form.frmMain.Caption(),
-              "TALMIR v0.0.0.44 [Существо: Орк, Сила=7{137}, Опыт=-8{12}, Прирост=9{16}, "
-              "Золото=32767{58}]");
+    EXPECT_EQ(test.form.frmMain.Caption(), "TALMIR v0.0.0.44 [Существо: Орк, Сила=7{137}, Опыт=-8{12}, Прирост=9{16}, "
+                                           "Золото=32767{58}]");
 }
 
 TEST(ClearCreature, EmptiesFieldsAndLabelsAndKeepsTicksAndResults) {
@@ -164,14 +160,12 @@ TEST(ClearCreature, EmptiesFieldsAndLabelsAndKeepsTicksAndResults) {
     test.state.FilePower = 3;
 
     ClearCreature(test.program);
-    const QStringList entries{"False",   "1",       "None", "None", "5", "10",
-                              "Unknown", "NO_TYPE", "None", "0",    "10"};
+    const QStringList entries{"False", "1", "None", "None", "5", "10", "Unknown", "NO_TYPE", "None", "0", "10"};
     QStringList texts;
     for (const ComboBox* list :
          {&test.form.ComboUpgrade, &test.form.ComboTier, &test.form.ComboFME, &test.form.ComboSME,
-          &test.form.ComboSpeed, &test.form.ComboInitiative, &test.form.ComboFaction,
-          &test.form.ComboAlias, &test.form.ComboRange, &test.form.ComboDiapazon,
-          &test.form.ComboTTC}) {
+          &test.form.ComboSpeed, &test.form.ComboInitiative, &test.form.ComboFaction, &test.form.ComboAlias,
+          &test.form.ComboRange, &test.form.ComboDiapazon, &test.form.ComboTTC}) {
         texts.append(list->Text());
         EXPECT_EQ(list->Items().value(list->Index()), list->Text());
     }

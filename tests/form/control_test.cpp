@@ -73,16 +73,15 @@ TEST(CheckBox, StoresThenTellsTheViewThenClicksBeforeTheSetterReturns) {
         form.Abilities(1).SetTicked(form.Abilities(2).Ticked()); // is so already: nothing runs
     });
     form.Abilities(1).SetTicked(true);
-    EXPECT_EQ(order.join(", "),
-              "view Abilities(1) 1, click 1, view Abilities(2) 1, click 2, end of click 1");
+    EXPECT_EQ(order.join(", "), "view Abilities(1) 1, click 1, view Abilities(2) 1, click 2, end of click 1");
     form.Abilities(1).SetTicked(true);
     EXPECT_EQ(order.size(), 5);
 }
 
 TEST(ControlRegistry, FindsControlsByTheirExactNameOnly) {
     const MainForm form;
-    for (const char* name : {"txtAttack", "frmMain", "Abilities(1)", "Abilities(174)", "Spells(91)",
-                             "Specabilities(0)", "saz(54)", "Tablus.Tab(4)", "ComDialog"}) {
+    for (const char* name : {"txtAttack", "frmMain", "Abilities(1)", "Abilities(174)", "Spells(91)", "Specabilities(0)",
+                             "saz(54)", "Tablus.Tab(4)", "ComDialog"}) {
         SCOPED_TRACE(name);
         const Control* control = form.Find(name);
         ASSERT_NE(control, nullptr);
@@ -151,30 +150,22 @@ TEST(Control, IsUsableOnlyWhileAllThatHoldItIsEnabledAndVisible) {
         {"plain field", "txtAttack", true, [](MainForm&) {}},
         {"own flag", "txtAttack", false, [](MainForm& form) { form.txtAttack.SetEnabled(false); }},
         {"hidden", "txtAttack", false, [](MainForm& form) { form.txtAttack.SetVisible(false); }},
-        {"frame off", "txtAttack", false,
-         [](MainForm& form) { form.FrameAttack.SetEnabled(false); }},
-        {"frame hidden", "txtAttack", false,
-         [](MainForm& form) { form.FrameAttack.SetVisible(false); }},
+        {"frame off", "txtAttack", false, [](MainForm& form) { form.FrameAttack.SetEnabled(false); }},
+        {"frame hidden", "txtAttack", false, [](MainForm& form) { form.FrameAttack.SetVisible(false); }},
         {"enabled field in a disabled frame", "txtIDC", false, [](MainForm&) {}},
-        {"field without its frame", "txtMana", false,
-         [](MainForm& form) { form.txtMana.SetEnabled(true); }},
+        {"field without its frame", "txtMana", false, [](MainForm& form) { form.txtMana.SetEnabled(true); }},
         {"field and frame", "txtMana", true,
          [](MainForm& form) {
              form.txtMana.SetEnabled(true);
              form.FrameMana.SetEnabled(true);
          }},
         {"page off", "Spells(1)", false, [](MainForm& form) { form.Tablus.Tab(2).Switch(false); }},
-        {"page hidden", "Abilities(1)", false,
-         [](MainForm& form) { form.Tablus.Tab(1).SetVisible(false); }},
-        {"page disabled", "Abilities(1)", false,
-         [](MainForm& form) { form.Tablus.Tab(1).SetEnabled(false); }},
-        {"other page off", "Abilities(1)", true,
-         [](MainForm& form) { form.Tablus.Tab(2).Switch(false); }},
+        {"page hidden", "Abilities(1)", false, [](MainForm& form) { form.Tablus.Tab(1).SetVisible(false); }},
+        {"page disabled", "Abilities(1)", false, [](MainForm& form) { form.Tablus.Tab(1).SetEnabled(false); }},
+        {"other page off", "Abilities(1)", true, [](MainForm& form) { form.Tablus.Tab(2).Switch(false); }},
         {"window locked", "cmdCalc", false, [](MainForm& form) { form.frmMain.SetEnabled(false); }},
-        {"entry of a disabled menu", "mnuQuit", false,
-         [](MainForm& form) { form.mnuFile.SetEnabled(false); }},
-        {"entry of a submenu", "mnuRussian", false,
-         [](MainForm& form) { form.mnuOptions.SetEnabled(false); }},
+        {"entry of a disabled menu", "mnuQuit", false, [](MainForm& form) { form.mnuFile.SetEnabled(false); }},
+        {"entry of a submenu", "mnuRussian", false, [](MainForm& form) { form.mnuOptions.SetEnabled(false); }},
         {"never shown", "ComboAlias", false, [](MainForm&) {}},
         {"the inert box", "Specabilities(0)", false, [](MainForm&) {}},
         {"its neighbour", "Specabilities(1)", true, [](MainForm&) {}},

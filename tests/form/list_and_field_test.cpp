@@ -42,8 +42,7 @@ TEST_F(ListTest, TheViewHearsOfASelectionBeforeTheClickAlsoWhenTheTextIsTheSame)
         QStringList log;
         void Changed(Control& control, Property) override {
             const auto& box = static_cast<ComboBox&>(control);
-            log.append(
-                QString("%1 %2 after %3").arg(box.Index()).arg(box.Text()).arg(clicks.size()));
+            log.append(QString("%1 %2 after %3").arg(box.Index()).arg(box.Text()).arg(clicks.size()));
         }
     } view(clicks);
     list.SetText("b");
@@ -134,8 +133,7 @@ TEST(MultiOption, OnlyRedrawBringsTheButtonsIntoLine) {
     EXPECT_TRUE(selector.Enabled());
     EXPECT_EQ(selector.SelectedOption(), 3);
 
-    for (const std::int16_t outside :
-         std::initializer_list<std::int16_t>{7, 5, -1}) { // no button of that number
+    for (const std::int16_t outside : std::initializer_list<std::int16_t>{7, 5, -1}) { // no button of that number
         selector.SetValue(outside);
         selector.SetOptionsEnabled(outside == 5);
         selector.Redraw();
@@ -154,9 +152,8 @@ TEST(MultiOption, ItsFiveButtonsAreTheMasteriesInRisingOrder) {
     QStringList buttons;
     for (const MultiOption::Option& option : MultiOption::Options)
         buttons.append(QString("%1 %2").arg(option.name, option.toolTip));
-    EXPECT_EQ(buttons, (QStringList{"Opt_None MASTERY_NONE", "Opt_Basic MASTERY_BASIC",
-                                    "Opt_Advanced MASTERY_ADVANCED", "Opt_Expert MASTERY_EXPERT",
-                                    "Opt_Extra MASTERY_EXTRA_EXPERT"}));
+    EXPECT_EQ(buttons, (QStringList{"Opt_None MASTERY_NONE", "Opt_Basic MASTERY_BASIC", "Opt_Advanced MASTERY_ADVANCED",
+                                    "Opt_Expert MASTERY_EXPERT", "Opt_Extra MASTERY_EXTRA_EXPERT"}));
 }
 
 } // namespace

@@ -60,8 +60,7 @@ void ExpectNaiveResults(const TextBuffer& buffer, const QString& text, const QSt
 }
 
 TEST(TextBuffer, FindsWhatANaiveSearchFinds) {
-    constexpr qsizetype lengths[] = {0,   1,   3,   4,   5,    12,    64,    128,
-                                     255, 256, 257, 300, 1000, 24000, 32767, 32768};
+    constexpr qsizetype lengths[] = {0, 1, 3, 4, 5, 12, 64, 128, 255, 256, 257, 300, 1000, 24000, 32767, 32768};
     Source source;
     ControlRegistry registry;
     TextBuffer buffer(registry, "buffer");

@@ -19,12 +19,10 @@ struct SourceFile {
 std::vector<SourceFile> SourcesUnder(const QString& folder) {
     std::vector<SourceFile> files;
     const QDir root(TALMIR_SOURCE_DIR);
-    QDirIterator walk(root.filePath(folder), {"*.cpp", "*.h"}, QDir::Files,
-                      QDirIterator::Subdirectories);
+    QDirIterator walk(root.filePath(folder), {"*.cpp", "*.h"}, QDir::Files, QDirIterator::Subdirectories);
     while (walk.hasNext()) {
         const QString path = walk.next();
-        files.push_back(
-            {root.relativeFilePath(path), QString::fromUtf8(ReadAll(path)).split('\n')});
+        files.push_back({root.relativeFilePath(path), QString::fromUtf8(ReadAll(path)).split('\n')});
     }
     return files;
 }
@@ -40,14 +38,11 @@ QStringList Includes(const SourceFile& file) {
     return includes;
 }
 
-QString LayerOf(const QString& path) {
-    return path.section('/', 0, 0);
-}
+QString LayerOf(const QString& path) { return path.section('/', 0, 0); }
 
 /// Why a file of `layer` may not include `include`; empty when it may.
 QString Fault(const QString& layer, const QString& include) {
-    static const QStringList order{"form",         "platform",       "engine", "catalogues",
-                                   "localisation", "creature_files", "ui"};
+    static const QStringList order{"form", "platform", "engine", "catalogues", "localisation", "creature_files", "ui"};
     static const QRegularExpression widgets(
         "^<(QtWidgets|QtGui|QtTest|Q(Widget|Application|GuiApplication|MainWindow|Dialog|"
         "MessageBox|FileDialog|"
@@ -56,8 +51,7 @@ QString Fault(const QString& layer, const QString& include) {
         "RadioButton|ButtonGroup|GroupBox|ScrollArea|.*Layout|Painter|Pixmap|Image|Icon|Font|"
         "FontMetrics|Color|"
         "Palette|.*Event|Style|Window|Screen|Clipboard|KeySequence|Cursor|Validator))[>/]");
-    static const QRegularExpression posix(
-        "^<(unistd|fcntl|dlfcn|pthread|dirent|pwd|sys/.*|arpa/.*|netinet/.*)\\.h>$");
+    static const QRegularExpression posix("^<(unistd|fcntl|dlfcn|pthread|dirent|pwd|sys/.*|arpa/.*|netinet/.*)\\.h>$");
     if (posix.match(include).hasMatch())
         return "not on every system";
     if (layer != "window" && widgets.match(include).hasMatch())
@@ -68,9 +62,8 @@ QString Fault(const QString& layer, const QString& include) {
     const bool knownLayer = order.contains(other) || other == "window" || other == "cli";
     if (!knownLayer)
         return "of no known layer";
-    const bool ownOrBelow =
-        other == layer || (order.contains(other) &&
-                           (!order.contains(layer) || order.indexOf(other) < order.indexOf(layer)));
+    const bool ownOrBelow = other == layer || (order.contains(other) &&
+                                               (!order.contains(layer) || order.indexOf(other) < order.indexOf(layer)));
     return ownOrBelow ? QString() : "against the order of the layers";
 }
 
@@ -113,8 +106,7 @@ TEST(House, TheRuleForIncludesSeesEachFault) {
         {"form", "<cstdint>", true},
     };
     for (const auto& test : cases)
-        EXPECT_EQ(Fault(test.layer, test.include).isEmpty(), test.allowed)
-            << test.layer << ' ' << test.include;
+        EXPECT_EQ(Fault(test.layer, test.include).isEmpty(), test.allowed) << test.layer << ' ' << test.include;
 }
 
 TEST(House, FilesStayShort) {

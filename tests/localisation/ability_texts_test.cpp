@@ -12,8 +12,7 @@ namespace Hesperin {
 namespace {
 
 /// Writes a file of the text tree; `name` begins with the language's folder.
-void WriteText(const TestProgram& test, const QString& language, const QString& name,
-               const QByteArray& bytes) {
+void WriteText(const TestProgram& test, const QString& language, const QString& name, const QByteArray& bytes) {
     const QString path = language + "/Text/Game/Creatures/Creature_abilities/" + name + ".txt";
     QDir(test.folder.path()).mkpath(QFileInfo(path).path());
     test.Write(path, bytes);
@@ -27,8 +26,7 @@ TEST(AbilityTexts, LieUnderTheGamesFileNames) {
     } cases[] = {
         // The eight odd ones.
         {37, "Cursing_attack/Cursing_attack_name", "Cursing_attack/Cursin_attack_desc"},
-        {68, "Frightful_presence/Frightful_precence_name",
-         "Frightful_presence/Frightful_presence_desc"},
+        {68, "Frightful_presence/Frightful_precence_name", "Frightful_presence/Frightful_presence_desc"},
         {95, "Life_drain/Life_drain_name", "Life_drain/Life_drain_desct"},
         {98, "Lizard_bite_name/Lizard_bite_name", "Lizard_bite_name/Lizard_bite_desc"},
         {102, "Magic_proof_50/Magic_proof50_name", "Magic_proof_50/Magic_proof50_desc"},
@@ -160,8 +158,7 @@ TEST(AbilityTexts, FollowTheLanguageAndAreEmptyWhereTheTreeIsNot) {
     EXPECT_EQ(test.form.utbD(174).Text(), "");
     mnuGerman_Click(test.program); // no such folder
     EXPECT_EQ(test.form.utbN(16).Text(), "");
-    QDir(test.folder.path())
-        .mkpath("EN/Text/Game/Creatures/Creature_abilities/Wound/Wound_name.txt");
+    QDir(test.folder.path()).mkpath("EN/Text/Game/Creatures/Creature_abilities/Wound/Wound_name.txt");
     mnuEnglish_Click(test.program);
     EXPECT_EQ(test.form.utbN(174).Text(), ""); // a folder in a file's place
     EXPECT_EQ(test.form.utbN(16).Text(), "Bash");

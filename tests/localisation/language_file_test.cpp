@@ -28,8 +28,7 @@ struct LanguageFileTest : testing::Test {
 
     QTemporaryDir folder;
     LanguageFilePlaces writable{folder.filePath("program"), folder.filePath("settings/talmir")};
-    LanguageFilePlaces readOnly{folder.filePath("file/program"),
-                                folder.filePath("settings/talmir")};
+    LanguageFilePlaces readOnly{folder.filePath("file/program"), folder.filePath("settings/talmir")};
 };
 
 TEST_F(LanguageFileTest, OnlyAFirstLineOfExactlyRuIsRussian) {
@@ -71,8 +70,7 @@ TEST_F(LanguageFileTest, IsWrittenWholeInEachLanguage) {
         EXPECT_EQ(Content("program/lang.ini"), codes[language - 1]);
         EXPECT_EQ(ReadLanguageFile(writable), language == 2 ? 2 : 1);
     }
-    EXPECT_EQ(QDir(writable.programFolder).entryList(QDir::Files | QDir::Hidden),
-              QStringList{"lang.ini"});
+    EXPECT_EQ(QDir(writable.programFolder).entryList(QDir::Files | QDir::Hidden), QStringList{"lang.ini"});
 }
 
 TEST_F(LanguageFileTest, GoesToTheSettingsFolderWhereTheProgramsCannotBeWritten) {

@@ -10,8 +10,7 @@ namespace Hesperin {
 namespace {
 
 bool HasCyrillic(const QString& text) {
-    return std::any_of(text.begin(), text.end(),
-                       [](QChar unit) { return unit.script() == QChar::Script_Cyrillic; });
+    return std::any_of(text.begin(), text.end(), [](QChar unit) { return unit.script() == QChar::Script_Cyrillic; });
 }
 
 /// Every word that the window shows in the language of the moment, by where it stands.
@@ -122,10 +121,8 @@ TEST(Language, FrenchAndGermanLeaveWhatTheyLack) {
         QString abilities;
         QString question;
     } cases[] = {
-        {mnuFrench_Click, "FR", &MainForm::mnuFrench, "Fichier", "Атака", "Capacites",
-         "Voulez-vous quitter?"},
-        {mnuGerman_Click, "DE", &MainForm::mnuGerman, "Datei", "Angriff", "Fдhigkeiten",
-         "Sie sind ьberzeugt?"},
+        {mnuFrench_Click, "FR", &MainForm::mnuFrench, "Fichier", "Атака", "Capacites", "Voulez-vous quitter?"},
+        {mnuGerman_Click, "DE", &MainForm::mnuGerman, "Datei", "Angriff", "Fдhigkeiten", "Sie sind ьberzeugt?"},
     };
     for (const auto& row : cases)
         for (const Language before : {English, Russian}) {
@@ -143,15 +140,15 @@ TEST(Language, FrenchAndGermanLeaveWhatTheyLack) {
             EXPECT_EQ(words["Tablus.Tab(2)"], "Заклинания");
             EXPECT_EQ(test.state.MsgQuitQuestion, row.question);
             EXPECT_EQ(test.state.LanguageCode, row.code);
-            for (const char* kept : {"Tablus.Tab(3)", "FrameRange", "frmMM", "FramePower", "lblMin",
-                                     "cmdCalc", "mnuAlternativeMethod", "ComboFaction.List(8)",
-                                     "ComboRange.List(2)", "lblValuesA.ToolTipText"})
+            for (const char* kept :
+                 {"Tablus.Tab(3)", "FrameRange", "frmMM", "FramePower", "lblMin", "cmdCalc", "mnuAlternativeMethod",
+                  "ComboFaction.List(8)", "ComboRange.List(2)", "lblValuesA.ToolTipText"})
                 EXPECT_EQ(words[kept], old[kept]) << kept;
             EXPECT_EQ(test.state.WarningTitle, oldState.WarningTitle);
             EXPECT_EQ(test.state.MsgSaveFailed, oldState.MsgSaveFailed);
             EXPECT_EQ(test.form.ComboFaction.Index(), 3); // not emptied
-            for (const auto entry : {&MainForm::mnuEnglish, &MainForm::mnuRussian,
-                                     &MainForm::mnuFrench, &MainForm::mnuGerman})
+            for (const auto entry :
+                 {&MainForm::mnuEnglish, &MainForm::mnuRussian, &MainForm::mnuFrench, &MainForm::mnuGerman})
                 EXPECT_EQ((test.form.*entry).Checked(), entry == row.entry);
         }
 }
@@ -190,8 +187,7 @@ TEST(Language, ASwitchKeepsWhatTheUserDidExceptTheTwoTranslatedLists) {
     EXPECT_EQ(test.form.ComboAlias.Text(), "HEAVEN");
     test.state.CreatureFileLoaded = true;
     mnuRussian_Click(test.program);
-    EXPECT_TRUE(
-        test.form.frmMain.Caption().startsWith("TALMIR v0.0.0.44 [Существо: Test, Сила=0{"));
+    EXPECT_TRUE(test.form.frmMain.Caption().startsWith("TALMIR v0.0.0.44 [Существо: Test, Сила=0{"));
 }
 
 TEST(Language, AnyOtherNumberDoesNothing) {

@@ -21,8 +21,7 @@ namespace {
 /// A program in its window, in one language, that takes pictures of itself.
 class Studio {
 public:
-    Studio(std::uint8_t language, const QString& folder)
-        : prefix(folder + (language == 1 ? "/en-" : "/ru-")) {
+    Studio(std::uint8_t language, const QString& folder) : prefix(folder + (language == 1 ? "/en-" : "/ru-")) {
         platform.programFolder = QCoreApplication::applicationDirPath();
         platform.settingsFolder = platform.programFolder;
         Form_Load(program, {language, true});

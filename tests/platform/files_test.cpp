@@ -31,8 +31,7 @@ protected:
     }
 
     QStringList Names() const {
-        return QDir(folder.path())
-            .entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden);
+        return QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden);
     }
 
     QTemporaryDir folder;
@@ -62,15 +61,13 @@ TEST_F(ReadFileTest, TellsWhyAFileCannotBeRead) {
         {Path("no/where"), Kind::Missing, true},
         {folder.path(), Kind::IsFolder, false},
         {Write("six", "sixsix"), Kind::TooLarge, false},
-        {QFile::exists("/dev/zero") ? "/dev/zero" : Write("seven", "7777777"), Kind::TooLarge,
-         false},
+        {QFile::exists("/dev/zero") ? "/dev/zero" : Write("seven", "7777777"), Kind::TooLarge, false},
     };
     for (const auto& test : cases) {
         SCOPED_TRACE(test.path.toStdString());
         const auto content = ReadFile(test.path, 5);
         ASSERT_TRUE(std::holds_alternative<ReadProblem>(content));
-        EXPECT_EQ(static_cast<int>(std::get<ReadProblem>(content).kind),
-                  static_cast<int>(test.kind));
+        EXPECT_EQ(static_cast<int>(std::get<ReadProblem>(content).kind), static_cast<int>(test.kind));
         EXPECT_EQ(!std::get<ReadProblem>(content).reason.isEmpty(), test.hasReason);
     }
 }
@@ -111,8 +108,7 @@ TEST(DecodeText, RecognisesTheEncoding) {
     const auto utf16 = [](const QString& text, bool bigEndian) {
         QByteArray bytes;
         for (const QChar unit : text) {
-            const char pair[] = {static_cast<char>(unit.unicode() & 0xFF),
-                                 static_cast<char>(unit.unicode() >> 8)};
+            const char pair[] = {static_cast<char>(unit.unicode() & 0xFF), static_cast<char>(unit.unicode() >> 8)};
             bytes.append(pair[bigEndian ? 1 : 0]).append(pair[bigEndian ? 0 : 1]);
         }
         return bytes;
@@ -129,15 +125,12 @@ TEST(DecodeText, RecognisesTheEncoding) {
         {"one character", "a", CodePage::Windows1251, "a"},
         {"UTF-8", dragon.toUtf8(), CodePage::Windows1252, dragon},
         {"UTF-8 with mark", "\xEF\xBB\xBF" + dragon.toUtf8(), CodePage::Windows1252, dragon},
-        {"UTF-16 little-endian with mark", "\xFF\xFE" + utf16(dragon, false), CodePage::Windows1251,
-         dragon},
-        {"UTF-16 big-endian with mark", "\xFE\xFF" + utf16(dragon, true), CodePage::Windows1251,
-         dragon},
+        {"UTF-16 little-endian with mark", "\xFF\xFE" + utf16(dragon, false), CodePage::Windows1251, dragon},
+        {"UTF-16 big-endian with mark", "\xFE\xFF" + utf16(dragon, true), CodePage::Windows1251, dragon},
         {"a mark alone", "\xFF\xFE", CodePage::Windows1251, ""},
         {"UTF-16 without mark", utf16("Bash!", false), CodePage::Windows1252, "Bash!"},
-        {"every second byte of the first 64 counts, later ones don't",
-         utf16(longAscii.left(32) + dragon, false), CodePage::Windows1252,
-         longAscii.left(32) + dragon},
+        {"every second byte of the first 64 counts, later ones don't", utf16(longAscii.left(32) + dragon, false),
+         CodePage::Windows1252, longAscii.left(32) + dragon},
         {"one second byte of the first 64 isn't 0", QByteArray("a\0\0b", 4), CodePage::Windows1252,
          QString::fromUtf16(u"a\0\0b", 4)},
         {"Windows-1251", cyrillic, CodePage::Windows1251, dragon},
@@ -157,8 +150,7 @@ TEST(DecodeCodePage, KnowsTheOddCornersOfBothSets) {
     EXPECT_EQ(DecodeCodePage("\x80\x8A\x8C\x9C\x9F\xA0\xDF\xFF~", CodePage::Windows1252),
               QString::fromUtf8("€ŠŒœŸ\u00A0ßÿ~"));
     EXPECT_EQ(DecodeCodePage("\x98", CodePage::Windows1251), QString(QChar::ReplacementCharacter));
-    EXPECT_EQ(DecodeCodePage("\x81\x8D\x8F\x90\x9D", CodePage::Windows1252),
-              QString(5, QChar::ReplacementCharacter));
+    EXPECT_EQ(DecodeCodePage("\x81\x8D\x8F\x90\x9D", CodePage::Windows1252), QString(5, QChar::ReplacementCharacter));
 }
 
 using PathLookupTest = Files;
@@ -172,14 +164,10 @@ TEST_F(PathLookupTest, PrefersTheExactSpellingAndElseDisregardsLetterCase) {
         QStringList levels;
         const char* content; // null: there is no such file
     } cases[] = {
-        {{"EN", "Text", "Bash", "name.txt"}, "1"},
-        {{"en", "tEXT", "BASH", "Name.Txt"}, "1"},
-        {{"RU", "Text", "Bash", "name.txt"}, "2"},
-        {{"ru", "TEXT", "bash", "other.txt"}, "3"},
-        {{"RU", "Text", "Bash", "other.txt"}, "3"},
-        {{"RU", "Text", "Bash", "Other.txt"}, "4"},
-        {{"EN", "Text", "Bash", "names.txt"}, nullptr},
-        {{"FR", "Text", "Bash", "name.txt"}, nullptr},
+        {{"EN", "Text", "Bash", "name.txt"}, "1"},      {{"en", "tEXT", "BASH", "Name.Txt"}, "1"},
+        {{"RU", "Text", "Bash", "name.txt"}, "2"},      {{"ru", "TEXT", "bash", "other.txt"}, "3"},
+        {{"RU", "Text", "Bash", "other.txt"}, "3"},     {{"RU", "Text", "Bash", "Other.txt"}, "4"},
+        {{"EN", "Text", "Bash", "names.txt"}, nullptr}, {{"FR", "Text", "Bash", "name.txt"}, nullptr},
         {{"EN", "Texts", "Bash", "name.txt"}, nullptr},
     };
     PathLookup lookup(folder.path());

@@ -15,17 +15,14 @@ const QString Declaration = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>";
 
 using Outcome = std::variant<QString, XmlProblem>;
 
-Outcome Normalise(const QByteArray& bytes) {
-    return NormaliseXml(bytes, u"Creature", Longest);
-}
+Outcome Normalise(const QByteArray& bytes) { return NormaliseXml(bytes, u"Creature", Longest); }
 
 /// The text behind the declaration line; the parser's word in brackets for a refused document.
 QString Body(const Outcome& outcome) {
     if (const auto* problem = std::get_if<XmlProblem>(&outcome))
         return "[" + problem->detail + "]";
     const QString& text = std::get<QString>(outcome);
-    return text.startsWith(Declaration + "\n") ? text.mid(Declaration.size() + 1)
-                                               : "[no declaration]";
+    return text.startsWith(Declaration + "\n") ? text.mid(Declaration.size() + 1) : "[no declaration]";
 }
 
 TEST(NormaliseXml, WritesEveryKindOfContentInOneForm) {
@@ -37,31 +34,26 @@ TEST(NormaliseXml, WritesEveryKindOfContentInOneForm) {
         {"root alone", "<Creature/>", "<Creature></Creature>"},
         {"empty and self-closed elements look alike", "<Creature><Exp></Exp><Gold/></Creature>",
          "<Creature>\n\t<Exp></Exp>\n\t<Gold></Gold>\n</Creature>"},
-        {"self-closed with attributes",
-         "<Creature><Visual href=\"a\" /><Visual href='b'></Visual></Creature>",
+        {"self-closed with attributes", "<Creature><Visual href=\"a\" /><Visual href='b'></Visual></Creature>",
          "<Creature>\n\t<Visual href=\"a\"/>\n\t<Visual href=\"b\"/>\n</Creature>"},
         {"blanks in tags", "<Creature ><Speed\n>5</Speed ></Creature\n>",
          "<Creature>\n\t<Speed>5</Speed>\n</Creature>"},
-        {"attributes keep their order and are escaped",
-         "<Creature b = '\"&lt;&amp;&gt;' a=\"it's\"><Exp/></Creature>",
+        {"attributes keep their order and are escaped", "<Creature b = '\"&lt;&amp;&gt;' a=\"it's\"><Exp/></Creature>",
          "<Creature b=\"&quot;&lt;&amp;&gt;\" a=\"it's\">\n\t<Exp></Exp>\n</Creature>"},
         {"attribute with text", "<Creature><Exp kind=\"x\">7</Exp></Creature>",
          "<Creature>\n\t<Exp kind=\"x\">7</Exp>\n</Creature>"},
         {"attribute with white space", "<Creature><Exp kind=\"x\"> \t\r\n </Exp></Creature>",
          "<Creature>\n\t<Exp kind=\"x\"/>\n</Creature>"},
-        {"white space only", "<Creature><Exp> \r\n\t </Exp></Creature>",
-         "<Creature>\n\t<Exp></Exp>\n</Creature>"},
+        {"white space only", "<Creature><Exp> \r\n\t </Exp></Creature>", "<Creature>\n\t<Exp></Exp>\n</Creature>"},
         {"white space around text stays", "<Creature><Exp> 7 \n</Exp></Creature>",
          "<Creature>\n\t<Exp> 7 \n</Exp>\n</Creature>"},
         {"a no-break space is text", "<Creature><Exp>&#xA0;</Exp></Creature>",
          "<Creature>\n\t<Exp>\u00A0</Exp>\n</Creature>"},
         {"text beside children", "<Creature>a<Exp>1</Exp>b<Gold>2</Gold>c</Creature>",
          "<Creature>\n\t<Exp>1</Exp>\n\t<Gold>2</Gold>\n</Creature>"},
-        {"text before a child's end stays the child's",
-         "<Creature><A>x<B/>y</A><C>z</C></Creature>",
+        {"text before a child's end stays the child's", "<Creature><A>x<B/>y</A><C>z</C></Creature>",
          "<Creature>\n\t<A>\n\t\t<B></B>\n\t</A>\n\t<C>z</C>\n</Creature>"},
-        {"comments",
-         "<!-- a --><Creature><Exp>1<!-- 9 -->2</Exp><Gold><!-- 5 --></Gold></Creature><!-- b -->",
+        {"comments", "<!-- a --><Creature><Exp>1<!-- 9 -->2</Exp><Gold><!-- 5 --></Gold></Creature><!-- b -->",
          "<Creature>\n\t<Exp>12</Exp>\n\t<Gold></Gold>\n</Creature>"},
         {"CDATA",
          "<Creature><A><![CDATA[<b>&amp;]]></A><B><![CDATA[ "
@@ -69,22 +61,19 @@ TEST(NormaliseXml, WritesEveryKindOfContentInOneForm) {
          "<Creature>\n\t<A>&lt;b&gt;&amp;amp;</A>\n\t<B></B>\n\t<C>123</C>\n</Creature>"},
         {"entities", "<Creature><A>&lt;&amp;&gt;&quot;&apos;&#65;&#x42;</A></Creature>",
          "<Creature>\n\t<A>&lt;&amp;&gt;\"'AB</A>\n</Creature>"},
-        {"processing instructions",
-         "<?go a?><Creature><?go b?><Exp>1<?go c?>2</Exp></Creature><?go?>",
+        {"processing instructions", "<?go a?><Creature><?go b?><Exp>1<?go c?>2</Exp></Creature><?go?>",
          "<Creature>\n\t<Exp>12</Exp>\n</Creature>"},
         {"document type with an entity of its own",
          "<!DOCTYPE Creature [<!ENTITY gold '12'>]><Creature><Gold>&gold;50</Gold></Creature>",
          "<Creature>\n\t<Gold>1250</Gold>\n</Creature>"},
-        {"document type elsewhere", "<!DOCTYPE Creature SYSTEM \"nowhere.dtd\"><Creature/>",
-         "<Creature></Creature>"},
+        {"document type elsewhere", "<!DOCTYPE Creature SYSTEM \"nowhere.dtd\"><Creature/>", "<Creature></Creature>"},
         {"an entity in another file is not followed",
          "<!DOCTYPE Creature [<!ENTITY e SYSTEM "
          "\"file:///etc/hostname\">]><Creature><A>&e;</A></Creature>",
          "<Creature>\n\t<A></A>\n</Creature>"},
         {"prefixes", "<Creature xmlns:g=\"urn:g\"><g:Exp g:k=\"1\"/><h:Exp/></Creature>",
          "<Creature xmlns:g=\"urn:g\">\n\t<g:Exp g:k=\"1\"/>\n\t<h:Exp></h:Exp>\n</Creature>"},
-        {"line ends of two characters",
-         "<?xml version=\"1.0\"?>\r\n<Creature>\r\n<A>1\r\n2</A>\r\n</Creature>\r\n",
+        {"line ends of two characters", "<?xml version=\"1.0\"?>\r\n<Creature>\r\n<A>1\r\n2</A>\r\n</Creature>\r\n",
          "<Creature>\n\t<A>1\n2</A>\n</Creature>"},
         {"outer blank lines", "<Creature/>\n\n  \n", "<Creature></Creature>"},
     };
@@ -95,8 +84,7 @@ TEST(NormaliseXml, WritesEveryKindOfContentInOneForm) {
 }
 
 TEST(NormaliseXml, GivesItsOwnOutputBackUnchanged) {
-    const QByteArray document =
-        "<Creature a='&lt;\"'><A>&amp; &gt;</A><B><C k=''/><D>  x</D><E> </E></B></Creature>";
+    const QByteArray document = "<Creature a='&lt;\"'><A>&amp; &gt;</A><B><C k=''/><D>  x</D><E> </E></B></Creature>";
     const QString once = std::get<QString>(Normalise(document));
     EXPECT_EQ(std::get<QString>(Normalise(once.toUtf8())), once);
 }
@@ -114,8 +102,7 @@ TEST(NormaliseXml, ReadsTheDeclaredEncoding) {
     } cases[] = {
         {"no declaration", body.toUtf8(), body},
         {"UTF-8", "<?xml version='1.0' encoding='utf-8'?>" + body.toUtf8(), body},
-        {"UTF-8 with mark", "\xEF\xBB\xBF<?xml version='1.0' encoding='UTF-8'?>" + body.toUtf8(),
-         body},
+        {"UTF-8 with mark", "\xEF\xBB\xBF<?xml version='1.0' encoding='UTF-8'?>" + body.toUtf8(), body},
         {"UTF-16 little-endian", utf16(QStringConverter::Utf16LE), body},
         {"UTF-16 big-endian", utf16(QStringConverter::Utf16BE), body},
         {"Windows-1251",
@@ -126,8 +113,7 @@ TEST(NormaliseXml, ReadsTheDeclaredEncoding) {
          "<?xml version=\"1.0\" "
          "encoding=\"windows-1252\"?><Creature>\n\t<A>\xC4\x80</A></Creature>",
          QString::fromUtf8("<Creature>\n\t<A>Ä€</A>\n</Creature>")},
-        {"Latin-1",
-         "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><Creature><A>\xE9</A></Creature>",
+        {"Latin-1", "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><Creature><A>\xE9</A></Creature>",
          QString::fromUtf8("<Creature>\n\t<A>é</A>\n</Creature>")},
     };
     for (const auto& test : cases) {
@@ -157,26 +143,20 @@ TEST(NormaliseXml, RefusesWhatIsNoCreatureDocumentAndNamesThePlace) {
         {"cut inside a tag", "<Creature>\n<Exp>1</Exp>\n<Gol", Kind::EndsEarly, 3},
         {"cut before the last tag", "<Creature>\n<Exp>1</Exp>\n", Kind::EndsEarly, 3},
         {"plain words", "Creature", Kind::NotWellFormed, 1},
-        {"tags that don't match", "<Creature>\n\t<Exp>1</Exp>\n\t<Gold>1</Glod>\n</Creature>",
-         Kind::NotWellFormed, 3},
-        {"the same with long line ends", "<Creature>\r\n\r\n\t<Gold>1</Glod>\r\n</Creature>",
-         Kind::NotWellFormed, 3},
+        {"tags that don't match", "<Creature>\n\t<Exp>1</Exp>\n\t<Gold>1</Glod>\n</Creature>", Kind::NotWellFormed, 3},
+        {"the same with long line ends", "<Creature>\r\n\r\n\t<Gold>1</Glod>\r\n</Creature>", Kind::NotWellFormed, 3},
         {"two roots", "<Creature/>\n<Creature/>", Kind::NotWellFormed, 2},
         {"an attribute twice", "<Creature a=\"1\"\na=\"2\"/>", Kind::NotWellFormed, 2},
         {"a bare ampersand", "<Creature>\n<A>this & that</A></Creature>", Kind::NotWellFormed, 2},
         {"an undeclared entity", "<Creature>\n<A>&gold;</A></Creature>", Kind::NotWellFormed, 2},
         {"an undeclared entity that a document type elsewhere might declare",
-         "<!DOCTYPE Creature SYSTEM \"x.dtd\">\n<Creature><A>&gold;</A></Creature>",
-         Kind::NotWellFormed, 2},
+         "<!DOCTYPE Creature SYSTEM \"x.dtd\">\n<Creature><A>&gold;</A></Creature>", Kind::NotWellFormed, 2},
         {"an entity that grows without end", bomb, Kind::NotWellFormed, 0},
         {"a null", QByteArray("<Creature>\n<A>1\0</A></Creature>", 30), Kind::NotWellFormed, 2},
         {"a null behind the root", QByteArray("<Creature/>\n\0", 13), Kind::NotWellFormed, 2},
-        {"bytes that are no UTF-8", "<Creature>\n<A>\xC4\xF0</A></Creature>", Kind::NotWellFormed,
-         0},
-        {"an unknown encoding", "<?xml version='1.0' encoding='x-none'?><Creature/>",
-         Kind::NotWellFormed, 0},
-        {"another root", "<?xml version=\"1.0\"?>\n\n<Monster><Creature/></Monster>",
-         Kind::WrongRoot, 3},
+        {"bytes that are no UTF-8", "<Creature>\n<A>\xC4\xF0</A></Creature>", Kind::NotWellFormed, 0},
+        {"an unknown encoding", "<?xml version='1.0' encoding='x-none'?><Creature/>", Kind::NotWellFormed, 0},
+        {"another root", "<?xml version=\"1.0\"?>\n\n<Monster><Creature/></Monster>", Kind::WrongRoot, 3},
         {"the root in other letter case", "<creature/>", Kind::WrongRoot, 1},
         {"the root with a prefix", "<g:Creature xmlns:g=\"urn:g\"/>", Kind::WrongRoot, 1},
     };
@@ -185,8 +165,7 @@ TEST(NormaliseXml, RefusesWhatIsNoCreatureDocumentAndNamesThePlace) {
         const Outcome outcome = Normalise(test.bytes);
         const auto* problem = std::get_if<XmlProblem>(&outcome);
         ASSERT_NE(problem, nullptr) << Body(outcome).toStdString();
-        EXPECT_EQ(static_cast<int>(problem->kind), static_cast<int>(test.kind))
-            << problem->detail.toStdString();
+        EXPECT_EQ(static_cast<int>(problem->kind), static_cast<int>(test.kind)) << problem->detail.toStdString();
         if (test.line == 0)
             continue;
         EXPECT_EQ(problem->line, test.line);
@@ -231,16 +210,15 @@ TEST(NormaliseXml, CountsTheLengthInUtf16UnitsOfTheNormalisedText) {
 }
 
 TEST(NormaliseXml, StopsSoonInADocumentThatIsFarTooDeepOrLong) {
-    const QByteArray deep = "<Creature>" + QByteArray("<a>").repeated(10'000) +
-                            QByteArray("</a>").repeated(10'000) + "</Creature>";
+    const QByteArray deep =
+        "<Creature>" + QByteArray("<a>").repeated(10'000) + QByteArray("</a>").repeated(10'000) + "</Creature>";
     const QByteArray many = "<Creature>" + QByteArray("<a/>").repeated(200'000) + "</Creature>";
     QElapsedTimer clock;
     clock.start();
     for (const QByteArray& document : {deep, many}) {
         const Outcome outcome = Normalise(document);
         ASSERT_TRUE(std::holds_alternative<XmlProblem>(outcome));
-        EXPECT_EQ(static_cast<int>(std::get<XmlProblem>(outcome).kind),
-                  static_cast<int>(XmlProblem::Kind::TooLong));
+        EXPECT_EQ(static_cast<int>(std::get<XmlProblem>(outcome).kind), static_cast<int>(XmlProblem::Kind::TooLong));
     }
     EXPECT_LT(clock.elapsed(), 5000);
 }

@@ -45,6 +45,4 @@ QByteArray ReadAll(const QString& path);
 } // namespace Hesperin
 
 /// So that a failing test shows its texts.
-inline void PrintTo(const QString& text, std::ostream* stream) {
-    *stream << '"' << text.toStdString() << '"';
-}
+inline void PrintTo(const QString& text, std::ostream* stream) { *stream << '"' << text.toStdString() << '"'; }

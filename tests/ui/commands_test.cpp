@@ -128,9 +128,7 @@ TEST(Calculator, TriesTheNamesInOrderUntilOneStarts) {
     } cases[] = {
         {{"one", "two"}, {"one"}, {}},
         {{"two", "three"}, {"one", "two"}, {}},
-        {{},
-         {"one", "two", "three"},
-         {"No calculator could be started; looked for: one, two, three."}},
+        {{}, {"one", "two", "three"}, {"No calculator could be started; looked for: one, two, three."}},
     };
     for (const auto& row : cases) {
         TestProgram test;
@@ -161,8 +159,7 @@ TEST(SecondaryWindows, LockTheMainWindow) {
     test.form.frmMain.SetEnabled(true);
     Abilities_RightClick(test.program, 66);
     EXPECT_FALSE(test.form.frmMain.Enabled());
-    EXPECT_EQ(test.platform.opened,
-              (std::vector{SecondaryWindow::About, SecondaryWindow::AbilityInformation}));
+    EXPECT_EQ(test.platform.opened, (std::vector{SecondaryWindow::About, SecondaryWindow::AbilityInformation}));
     EXPECT_EQ(test.state.AbilityInfoIndex, 66);
     EXPECT_FALSE(test.form.Abilities(66).Ticked());
 }

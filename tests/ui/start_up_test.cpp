@@ -74,15 +74,14 @@ TEST_F(StartUp, FieldsAndListsShowTheirFirstValues) {
         {"ComboTier", "1", "1 2 3 4 5 6 7 8", 0, true},
         {"ComboSpeed", "5", "1 2 3 4 5 6 7 8 9", 0, true},
         {"ComboInitiative", "10", "1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20", 0, true},
-        {"ComboFaction", "Unknown",
-         "Haven Inferno Necropolis Sylvan Dungeon Academy Fortress Stronghold Unknown", 0, true},
+        {"ComboFaction", "Unknown", "Haven Inferno Necropolis Sylvan Dungeon Academy Fortress Stronghold Unknown", 0,
+         true},
         {"ComboUpgrade", "False", "False True", 0, true},
         {"ComboFME", "None", "None Air Earth Fire Water", 0, true},
         {"ComboSME", "None", "None Air Earth Fire Water", 0, true},
         {"ComboRange", "None", "None Max Half", 0, false},
         {"ComboTTC", "10", "10 15", 0, true},
-        {"ComboAlias", "NO_TYPE",
-         "HEAVEN INFERNO NECROMANCY PRESERVE DUNGEON ACADEMY FORTRESS STRONGHOLD NO_TYPE", 0,
+        {"ComboAlias", "NO_TYPE", "HEAVEN INFERNO NECROMANCY PRESERVE DUNGEON ACADEMY FORTRESS STRONGHOLD NO_TYPE", 0,
          false},
         {"ComboDiapazon", "0", "0 -1 -2", 0, false},
     };
@@ -109,15 +108,13 @@ TEST_F(StartUp, TheIdleWindow) {
     EXPECT_EQ(form.Tablus.Shown(), "Parametres | Abilities | Specabilities");
     EXPECT_EQ(form.Tablus.Tab(4).Caption(), "XDB");
     EXPECT_FALSE(form.Tablus.Tab(4).On());
-    for (const char* off :
-         {"mnuSave", "mnuFrench", "mnuGerman", "mnuAlternativeMethod", "mnuHelp", "cmdRAS", "frmMM",
-          "frmAM", "FrameAlias", "FrameDiapazon", "Specabilities(0)", "saz(0)", "soq(3)", "RTBData",
-          "RTBTEMP", "RTBSPEC", "utbN(1)", "utbD(174)"})
+    for (const char* off : {"mnuSave", "mnuFrench", "mnuGerman", "mnuAlternativeMethod", "mnuHelp", "cmdRAS", "frmMM",
+                            "frmAM", "FrameAlias", "FrameDiapazon", "Specabilities(0)", "saz(0)", "soq(3)", "RTBData",
+                            "RTBTEMP", "RTBSPEC", "utbN(1)", "utbD(174)"})
         EXPECT_FALSE(form.Find(off)->Usable()) << off;
     for (const char* on :
-         {"mnuNew", "mnuOpen", "mnuQuit", "mnuEnglish", "mnuRussian", "mnuCalculator", "mnuAbout",
-          "cmdCalc", "cmdRAP", "cmdRAA", "cmdResetAll", "Abilities(1)", "Abilities(174)",
-          "Specabilities(1)", "Specabilities(54)"})
+         {"mnuNew", "mnuOpen", "mnuQuit", "mnuEnglish", "mnuRussian", "mnuCalculator", "mnuAbout", "cmdCalc", "cmdRAP",
+          "cmdRAA", "cmdResetAll", "Abilities(1)", "Abilities(174)", "Specabilities(1)", "Specabilities(54)"})
         EXPECT_TRUE(form.Find(on)->Usable()) << on;
     EXPECT_TRUE(form.frmMM.Visible());
     EXPECT_FALSE(form.frmAM.Visible());
@@ -131,19 +128,16 @@ TEST_F(StartUp, TheIdleWindow) {
         EXPECT_EQ(value, 1.0F);
 
     QStringList languages;
-    for (const MenuEntry* entry :
-         {&form.mnuEnglish, &form.mnuRussian, &form.mnuFrench, &form.mnuGerman})
+    for (const MenuEntry* entry : {&form.mnuEnglish, &form.mnuRussian, &form.mnuFrench, &form.mnuGerman})
         languages.append(entry->Caption());
-    EXPECT_EQ(languages.join(", "),
-              "English, Русский [Russian], Franзais [French], Deutsch [German]");
+    EXPECT_EQ(languages.join(", "), "English, Русский [Russian], Franзais [French], Deutsch [German]");
     QStringList shortcuts;
     for (const Control* control : form.Controls())
         if (const auto* entry = dynamic_cast<const MenuEntry*>(control);
             entry != nullptr && !entry->Shortcut().isEmpty())
             shortcuts.append(entry->Name() + ' ' + entry->Shortcut());
-    EXPECT_EQ(shortcuts.join(", "),
-              "mnuNew Ctrl+N, mnuOpen Ctrl+O, mnuSave Ctrl+S, mnuQuit Ctrl+Q, "
-              "mnuCalculator Ctrl+C, mnuHelp F1, mnuAbout Ctrl+A");
+    EXPECT_EQ(shortcuts.join(", "), "mnuNew Ctrl+N, mnuOpen Ctrl+O, mnuSave Ctrl+S, mnuQuit Ctrl+Q, "
+                                    "mnuCalculator Ctrl+C, mnuHelp F1, mnuAbout Ctrl+A");
 }
 
 } // namespace

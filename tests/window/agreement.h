@@ -31,9 +31,8 @@ private:
 
     /// The controls that the user never sees.
     static bool IsHidden(const Control& control) {
-        static const QStringList hidden{"ComboAlias",    "ComboDiapazon", "FrameAlias",
-                                        "FrameDiapazon", "RTBTEMP",       "RTBSPEC",
-                                        "ComDialog",     "utbN",          "utbD"};
+        static const QStringList hidden{"ComboAlias", "ComboDiapazon", "FrameAlias", "FrameDiapazon", "RTBTEMP",
+                                        "RTBSPEC",    "ComDialog",     "utbN",       "utbD"};
         return hidden.contains(control.ArrayName());
     }
 
@@ -77,8 +76,7 @@ private:
         Expect(bar.isTabVisible(index) == page.Visible(), page, "visible");
         Expect(bar.isTabEnabled(index) == page.Enabled(), page, "enabled");
         Expect(bar.tabToolTip(index) == page.Caption(), page, "tool tip");
-        Expect(use.Find(page.Name()).isVisible() == (bar.currentIndex() == index), page,
-               "in front");
+        Expect(use.Find(page.Name()).isVisible() == (bar.currentIndex() == index), page, "in front");
         if (page.Caption().size() < 20) // a longer one may be shortened
             Expect(bar.tabText(index) == page.Caption(), page, "caption");
     }
@@ -91,8 +89,7 @@ private:
         else if (const auto* button = dynamic_cast<const Button*>(&control))
             Expect(TextOf<QPushButton>(widget) == button->Caption(), control, "caption");
         else if (const auto* frame = dynamic_cast<const Frame*>(&control))
-            Expect(dynamic_cast<QGroupBox&>(widget).title() == frame->Caption(), control,
-                   "caption");
+            Expect(dynamic_cast<QGroupBox&>(widget).title() == frame->Caption(), control, "caption");
         else if (const auto* list = dynamic_cast<const ComboBox*>(&control))
             CompareList(*list, dynamic_cast<QComboBox&>(widget));
         else if (const auto* box = dynamic_cast<const CheckBox*>(&control))
@@ -100,8 +97,7 @@ private:
         else if (const auto* selector = dynamic_cast<const MultiOption*>(&control))
             CompareSelector(*selector, widget);
         else if (const auto* buffer = dynamic_cast<const TextBuffer*>(&control))
-            Expect(dynamic_cast<QPlainTextEdit&>(widget).toPlainText() == buffer->Text(), control,
-                   "text");
+            Expect(dynamic_cast<QPlainTextEdit&>(widget).toPlainText() == buffer->Text(), control, "text");
         else
             Expect(control.Name() == "Tablus", control, "is of no known kind");
     }
@@ -136,8 +132,6 @@ private:
 };
 
 /// All that the window shows wrongly, empty when there is nothing.
-inline QString Disagreements(const WindowInUse& use) {
-    return Agreement(use).faults.join('\n');
-}
+inline QString Disagreements(const WindowInUse& use) { return Agreement(use).faults.join('\n'); }
 
 } // namespace Hesperin

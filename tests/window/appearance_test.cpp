@@ -95,8 +95,7 @@ TEST(Texts, InFieldsShrinkUntilTheyFit) {
         if (field == nullptr || field->text().isEmpty())
             continue;
         const auto* model = dynamic_cast<const TextField*>(control);
-        const QString longest =
-            model->MaxLength() == 0 ? field->text() : QString(model->MaxLength(), u'0');
+        const QString longest = model->MaxLength() == 0 ? field->text() : QString(model->MaxLength(), u'0');
         const_cast<TextField*>(model)->SetText(longest);
         EXPECT_EQ(TooWide(*field, field->text(), field->contentsRect().width() - 4), "")
             << control->Name().toStdString();
@@ -127,8 +126,7 @@ TEST(Texts, InDropDownsAreWholeInBothLanguages) {
 double Contrast(const QColor& one, const QColor& other) {
     const auto lightness = [](const QColor& colour) {
         const auto part = [](double value) { return std::pow(value, 2.2); };
-        return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) +
-               0.0722 * part(colour.blueF()) + 0.05;
+        return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF()) + 0.05;
     };
     const double a = lightness(one), b = lightness(other);
     return std::max(a, b) / std::min(a, b);
@@ -142,22 +140,15 @@ TEST(Texts, AreNotLostOnTheirGround) {
         const QWidget* widget = use.window->WidgetOf(*control);
         if (widget == nullptr)
             continue;
-        const bool field = qobject_cast<const QLineEdit*>(widget) != nullptr ||
-                           qobject_cast<const QPlainTextEdit*>(widget) != nullptr;
-        const bool button = qobject_cast<const QPushButton*>(widget) != nullptr ||
-                            qobject_cast<const QComboBox*>(widget) != nullptr;
+        const bool field =
+            qobject_cast<const QLineEdit*>(widget) != nullptr || qobject_cast<const QPlainTextEdit*>(widget) != nullptr;
+        const bool button =
+            qobject_cast<const QPushButton*>(widget) != nullptr || qobject_cast<const QComboBox*>(widget) != nullptr;
         for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-            const auto colour = [&](QPalette::ColorRole role) {
-                return widget->palette().color(group, role);
-            };
-            const QColor ink = colour(field    ? QPalette::Text
-                                      : button ? QPalette::ButtonText
-                                               : QPalette::WindowText);
-            const QColor ground = colour(field    ? QPalette::Base
-                                         : button ? QPalette::Button
-                                                  : QPalette::Window);
-            EXPECT_GE(Contrast(ink, ground), least)
-                << control->Name().toStdString() << ' ' << group;
+            const auto colour = [&](QPalette::ColorRole role) { return widget->palette().color(group, role); };
+            const QColor ink = colour(field ? QPalette::Text : button ? QPalette::ButtonText : QPalette::WindowText);
+            const QColor ground = colour(field ? QPalette::Base : button ? QPalette::Button : QPalette::Window);
+            EXPECT_GE(Contrast(ink, ground), least) << control->Name().toStdString() << ' ' << group;
             ++checked;
         }
     }
@@ -169,22 +160,15 @@ TEST(Texts, HaveTheirColours) {
         const char* name;
         QColor ink;
     } cases[] = {
-        {"txtAttack", {0, 0, 255}},
-        {"txtMana", {0, 0, 255}},
-        {"txtPower", {192, 0, 192}},
-        {"txtGemf", {192, 0, 192}},
-        {"txtNC", {0, 64, 0}},
-        {"lblPowerRolvane", {255, 0, 0}},
-        {"lblCostHesperin", {0, 192, 192}},
-        {"lblExpAverage", {0, 192, 0}},
-        {"lblPowerS", {255, 128, 0}},
+        {"txtAttack", {0, 0, 255}},         {"txtMana", {0, 0, 255}},       {"txtPower", {192, 0, 192}},
+        {"txtGemf", {192, 0, 192}},         {"txtNC", {0, 64, 0}},          {"lblPowerRolvane", {255, 0, 0}},
+        {"lblCostHesperin", {0, 192, 192}}, {"lblExpAverage", {0, 192, 0}}, {"lblPowerS", {255, 128, 0}},
         {"lblCostD", {255, 128, 0}},
     };
     const FullWindow use(English);
     for (const auto& test : cases) {
         const QWidget& widget = use.Find(test.name);
-        EXPECT_EQ(widget.palette().color(widget.foregroundRole()).rgb(), test.ink.rgb())
-            << test.name;
+        EXPECT_EQ(widget.palette().color(widget.foregroundRole()).rgb(), test.ink.rgb()) << test.name;
     }
 }
 

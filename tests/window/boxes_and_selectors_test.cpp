@@ -10,9 +10,7 @@ namespace Hesperin {
 
 namespace {
 
-bool IsTicked(const WindowInUse& use, const QString& box) {
-    return use.Find<QCheckBox>(box).isChecked();
-}
+bool IsTicked(const WindowInUse& use, const QString& box) { return use.Find<QCheckBox>(box).isChecked(); }
 
 TEST(Boxes, EachIsHitWhereItStands) {
     const struct {
@@ -153,9 +151,8 @@ TEST(Selectors, TakeEachOptionByKeyboard) {
         Qt::Key key;
         int expected;
     } steps[] = {
-        {Qt::Key_Right, 1}, {Qt::Key_Up, 2},    {Qt::Key_Left, 1},
-        {Qt::Key_End, 4},   {Qt::Key_Right, 4}, {Qt::Key_Down, 3},
-        {Qt::Key_Home, 0},  {Qt::Key_Left, 0},  {Qt::Key_X, 0},
+        {Qt::Key_Right, 1}, {Qt::Key_Up, 2},   {Qt::Key_Left, 1}, {Qt::Key_End, 4}, {Qt::Key_Right, 4},
+        {Qt::Key_Down, 3},  {Qt::Key_Home, 0}, {Qt::Key_Left, 0}, {Qt::Key_X, 0},
     };
     const WindowInUse use;
     use.form.Specabilities(54).SetTicked(true);
@@ -169,8 +166,8 @@ TEST(Selectors, TakeEachOptionByKeyboard) {
 }
 
 TEST(Selectors, TellTheMeaningOfEachOption) {
-    const char* const meanings[] = {"MASTERY_NONE", "MASTERY_BASIC", "MASTERY_ADVANCED",
-                                    "MASTERY_EXPERT", "MASTERY_EXTRA_EXPERT"};
+    const char* const meanings[] = {"MASTERY_NONE", "MASTERY_BASIC", "MASTERY_ADVANCED", "MASTERY_EXPERT",
+                                    "MASTERY_EXTRA_EXPERT"};
     for (const Language language : {English, Russian}) {
         const WindowInUse use(language);
         use.form.Specabilities(9).SetTicked(true);

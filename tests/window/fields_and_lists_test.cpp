@@ -16,21 +16,18 @@ void OpenAllFields(const WindowInUse& use) {
     use.form.Abilities(147).SetTicked(true);
 }
 
-QString TextOf(const WindowInUse& use, const QString& field) {
-    return use.Find<QLineEdit>(field).text();
-}
+QString TextOf(const WindowInUse& use, const QString& field) { return use.Find<QLineEdit>(field).text(); }
 
 TEST(Fields, TakeTypedKeysThatTheyKnowUpToTheirLength) {
     const struct {
         const char* field;
         const char* expected;
     } cases[] = {
-        {"txtNC", "aZ_bc"},      {"txtAttack", "12"},     {"txtDefence", "12"},
-        {"txtMinDam", "12"},     {"txtMaxDam", "12"},     {"txtHealth", "123"},
-        {"txtShots", "12"},      {"txtMana", "123"},      {"txtPower", "12345"},
-        {"txtExp", "1234"},      {"txtGoldf", "1234"},    {"txtGrowthf", "12345"},
-        {"txtWoodf", "12345"},   {"txtOref", "1234"},     {"txtMercuryf", "12345"},
-        {"txtCrystalf", "1234"}, {"txtSulfurf", "12345"}, {"txtGemf", "1234"},
+        {"txtNC", "aZ_bc"},      {"txtAttack", "12"},  {"txtDefence", "12"},     {"txtMinDam", "12"},
+        {"txtMaxDam", "12"},     {"txtHealth", "123"}, {"txtShots", "12"},       {"txtMana", "123"},
+        {"txtPower", "12345"},   {"txtExp", "1234"},   {"txtGoldf", "1234"},     {"txtGrowthf", "12345"},
+        {"txtWoodf", "12345"},   {"txtOref", "1234"},  {"txtMercuryf", "12345"}, {"txtCrystalf", "1234"},
+        {"txtSulfurf", "12345"}, {"txtGemf", "1234"},
     };
     const WindowInUse use;
     OpenAllFields(use);
@@ -75,8 +72,7 @@ TEST(Fields, HaveNoKeyThatGetsRoundTheirFilter) {
         use.Type("txtAttack", "4");
         QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, test.modifiers, test.typed);
         QApplication::sendEvent(&field, &press);
-        EXPECT_EQ(field.text(), test.expected)
-            << test.modifiers.toInt() << ' ' << test.typed.toStdString();
+        EXPECT_EQ(field.text(), test.expected) << test.modifiers.toInt() << ' ' << test.typed.toStdString();
     }
 }
 
@@ -133,8 +129,8 @@ TEST(Lists, DoNotTurnUnderAWheelThatScrollsPast) {
     auto& list = use.Find<QComboBox>("ComboTier");
     const auto turn = [&] {
         const QPointF place = list.rect().center();
-        QWheelEvent wheel(place, list.mapToGlobal(place), {}, {0, -120}, Qt::NoButton,
-                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QWheelEvent wheel(place, list.mapToGlobal(place), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
         QApplication::sendEvent(&list, &wheel);
         return list.currentIndex();
     };
@@ -230,12 +226,11 @@ TEST(TabKey, GoesInReadingOrder) {
     const WindowInUse use;
     OpenAllFields(use);
     use.ShowPage(0);
-    EXPECT_EQ(
-        TabRound(use, "txtNC").join(' '),
-        "txtNC txtAttack txtDefence txtMinDam txtMaxDam txtHealth ComboTier ComboSpeed "
-        "ComboInitiative ComboFaction ComboFME ComboUpgrade ComboSME txtPower txtExp txtShots "
-        "ComboRange txtGrowthf txtGoldf txtMana ComboTTC txtWoodf txtOref txtMercuryf "
-        "txtCrystalf txtSulfurf txtGemf cmdCalc cmdRAP cmdRAA cmdRAS cmdResetAll Tablus.Bar");
+    EXPECT_EQ(TabRound(use, "txtNC").join(' '),
+              "txtNC txtAttack txtDefence txtMinDam txtMaxDam txtHealth ComboTier ComboSpeed "
+              "ComboInitiative ComboFaction ComboFME ComboUpgrade ComboSME txtPower txtExp txtShots "
+              "ComboRange txtGrowthf txtGoldf txtMana ComboTTC txtWoodf txtOref txtMercuryf "
+              "txtCrystalf txtSulfurf txtGemf cmdCalc cmdRAP cmdRAA cmdRAS cmdResetAll Tablus.Bar");
 }
 
 TEST(TabKey, ReachesEveryControlThatTheUserMayOperate) {
@@ -258,8 +253,7 @@ TEST(TabKey, ReachesEveryControlThatTheUserMayOperate) {
                 operable.append(control->Name());
         }
         QStringList reached = TabRound(use, "Tablus.Bar");
-        EXPECT_EQ(QSet<QString>(reached.begin(), reached.end()),
-                  QSet<QString>(operable.begin(), operable.end()))
+        EXPECT_EQ(QSet<QString>(reached.begin(), reached.end()), QSet<QString>(operable.begin(), operable.end()))
             << "page " << page;
         EXPECT_EQ(reached.size(), operable.size()) << "page " << page;
     }

@@ -8,8 +8,7 @@ namespace Hesperin {
 
 namespace {
 
-void ExpectBox(const BoxAnswers::Box& box, QMessageBox::Icon icon, const QString& title,
-               const QString& text) {
+void ExpectBox(const BoxAnswers::Box& box, QMessageBox::Icon icon, const QString& title, const QString& text) {
     EXPECT_EQ(box.icon, icon);
     EXPECT_EQ(box.title, title);
     EXPECT_EQ(box.text, text);

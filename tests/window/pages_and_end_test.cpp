@@ -31,9 +31,8 @@ TEST(Pages, AHiddenPageGivesWayToTheFirst) {
 }
 
 TEST(Pages, HaveTheirCaptionsInTheLanguageOfTheMoment) {
-    const QStringList captions[] = {
-        {"Parametres", "Abilities", "Spells", "Specabilities", "XDB"},
-        {"Характеристики", "Способности", "Заклинания", "Особые способности", "XDB"}};
+    const QStringList captions[] = {{"Parametres", "Abilities", "Spells", "Specabilities", "XDB"},
+                                    {"Характеристики", "Способности", "Заклинания", "Особые способности", "XDB"}};
     const WindowInUse use(Russian);
     const auto& bar = use.Find<QTabBar>("Tablus.Bar");
     for (const bool russian : {true, false}) {
@@ -100,8 +99,7 @@ TEST(Start, OpensTheFileThatItIsGiven) {
     BoxAnswers answers;
     WindowedProgram program;
     ASSERT_TRUE(program.Start(Sample));
-    EXPECT_TRUE(
-        QTest::qWaitFor([&] { return program.Window().windowTitle().contains("Frost_witch"); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return program.Window().windowTitle().contains("Frost_witch"); }));
 }
 
 constexpr int GoesOn = 99;
@@ -171,12 +169,9 @@ TEST(CommandLine, AnswersWithoutADisplay) {
         const char* output; // how it begins
         const char* complaint;
     } cases[] = {
-        {{"--version"}, 0, "TALMIR v0.0.0.44\n", ""},
-        {{"-v"}, 0, "TALMIR v0.0.0.44\n", ""},
-        {{"--help"}, 0, "Usage: talmir [FILE]\n", ""},
-        {{"-h"}, 0, "Usage: talmir [FILE]\n", ""},
-        {{"--bogus"}, 2, "", "talmir: '--bogus'"},
-        {{"a.xdb", "b.xdb"}, 2, "", "talmir: 'b.xdb'"},
+        {{"--version"}, 0, "TALMIR v0.0.0.44\n", ""},  {{"-v"}, 0, "TALMIR v0.0.0.44\n", ""},
+        {{"--help"}, 0, "Usage: talmir [FILE]\n", ""}, {{"-h"}, 0, "Usage: talmir [FILE]\n", ""},
+        {{"--bogus"}, 2, "", "talmir: '--bogus'"},     {{"a.xdb", "b.xdb"}, 2, "", "talmir: 'b.xdb'"},
     };
     for (const auto& test : cases) {
         SCOPED_TRACE(test.arguments.join(' ').toStdString());
@@ -197,8 +192,7 @@ TEST(CommandLine, AnswersWithoutADisplay) {
 TEST(SecondInstance, IsRefusedInTheLanguageOfTheUserWhileTheFirstRuns) {
     QProcess first;
     StartProgram(first, {}, "offscreen");
-    const QString lock =
-        QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) + "/talmir.lock";
+    const QString lock = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) + "/talmir.lock";
     ASSERT_TRUE(QTest::qWaitFor([&] { return QFileInfo(lock).size() > 0; }, 20000));
 
     const QTemporaryDir folder;

@@ -64,12 +64,10 @@ private:
 
     void TypeOrChoose() {
         use.ShowPage(0);
-        const QString list =
-            One<QString>({"ComboTier", "ComboSpeed", "ComboInitiative", "ComboFaction", "ComboFME",
-                          "ComboSME", "ComboUpgrade", "ComboTTC", "ComboRange"});
-        const QString field =
-            One<QString>({"txtNC", "txtAttack", "txtDefence", "txtMinDam", "txtMaxDam", "txtHealth",
-                          "txtMana", "txtShots", "txtPower", "txtGemf"});
+        const QString list = One<QString>({"ComboTier", "ComboSpeed", "ComboInitiative", "ComboFaction", "ComboFME",
+                                           "ComboSME", "ComboUpgrade", "ComboTTC", "ComboRange"});
+        const QString field = One<QString>({"txtNC", "txtAttack", "txtDefence", "txtMinDam", "txtMaxDam", "txtHealth",
+                                            "txtMana", "txtShots", "txtPower", "txtGemf"});
         if (Below(2) == 0) {
             WindowInUse::Click(use.Find(field));
             use.Keys(QByteArray::number(Below(1000)) + "Ab");

@@ -96,9 +96,7 @@ public:
     }
 
     /// Clicks on option 0 to 4 of a selector of the page in front.
-    void ClickOption(const QString& name, int option) const {
-        Click(Find(name), OptionPlace(option));
-    }
+    void ClickOption(const QString& name, int option) const { Click(Find(name), OptionPlace(option)); }
 
     static QPoint OptionPlace(int option) { return {16 * option + 6, 6}; }
 
@@ -108,8 +106,7 @@ public:
         for (const QString& name : path) {
             auto& action = Find<QAction>(name);
             const auto* menu = qobject_cast<QMenu*>(holder);
-            const QRect place =
-                menu ? menu->actionGeometry(&action) : window->menuBar()->actionGeometry(&action);
+            const QRect place = menu ? menu->actionGeometry(&action) : window->menuBar()->actionGeometry(&action);
             Click(*holder, place.center());
             QMenu* next = action.menu();
             if (next != nullptr && !QTest::qWaitFor([&] { return next->isVisible(); }))
