@@ -91,7 +91,8 @@ WholeDigits::WholeDigits(double whole)
     : WholeDigits(static_cast<std::int64_t>(std::clamp(whole, -ExactIntegers, ExactIntegers))) {}
 
 WholeDigits::WholeDigits(std::int64_t whole) {
-    auto rest = static_cast<std::uint64_t>(std::abs(whole));
+    const auto bits = static_cast<std::uint64_t>(whole);
+    std::uint64_t rest = whole < 0 ? 0 - bits : bits;
     do {
         units[static_cast<std::size_t>(--first)] = static_cast<char16_t>(u'0' + rest % 10);
         rest /= 10;

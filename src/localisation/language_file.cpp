@@ -1,11 +1,12 @@
 #include "localisation/language_file.h"
 
-#include "platform/read_file.h"
 #include "platform/save_file.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <array>
 
 namespace Hesperin {
@@ -20,25 +21,26 @@ QString FileIn(const QString& folder) {
     return folder + QLatin1String("/lang.ini");
 }
 
-QByteArray FirstLine(const QByteArray& content) {
-    const auto end = std::find_if(content.begin(), content.end(),
+/// The first line of a file without its line end; empty when it can't be read.
+QByteArray FirstLine(const QString& path) {
+    constexpr qint64 longEnough = 16; // for any line that is a code, and to tell one that isn't
+    QFile file(path);
+    const QByteArray start = file.open(QIODevice::ReadOnly) ? file.read(longEnough) : QByteArray();
+    const auto end = std::find_if(start.begin(), start.end(),
                                   [](char byte) { return byte == '\r' || byte == '\n'; });
-    return content.left(end - content.begin());
+    return start.left(end - start.begin());
 }
 
 } // namespace
 
 std::uint8_t ReadLanguageFile(const LanguageFilePlaces& places) {
-    constexpr qint64 enough = 4096; // a file of any greater size holds something else
     const QString users = FileIn(places.settingsFolder);
     const QString path = QFileInfo(users).isFile() ? users : FileIn(places.programFolder);
     if (!QFileInfo::exists(path)) {
         WriteLanguageFile(places, English);
         return English;
     }
-    const auto content = ReadFile(path, enough);
-    const auto* bytes = std::get_if<QByteArray>(&content);
-    return bytes != nullptr && FirstLine(*bytes) == Codes[Russian] ? Russian : English;
+    return FirstLine(path) == Codes[Russian] ? Russian : English;
 }
 
 bool WriteLanguageFile(const LanguageFilePlaces& places, std::uint8_t languageId) {

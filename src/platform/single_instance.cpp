@@ -1,18 +1,33 @@
 #include "platform/single_instance.h"
 
 #include <QDir>
+#include <QFile>
+#include <QThread>
 
 namespace Hesperin {
 
 SingleInstance::SingleInstance(const QString& folder)
-    : lock(folder + QLatin1String("/talmir.lock")) {
+    : path(folder + QLatin1String("/talmir.lock")), lock(path) {
     QDir().mkpath(folder);
     lock.setStaleLockTime(0); // a lock never goes stale by age alone
 }
 
+bool SingleInstance::TellsItsHolder() const {
+    qint64 process = 0;
+    QString host;
+    QString program;
+    return lock.getLockInfo(&process, &host, &program);
+}
+
 bool SingleInstance::OtherRuns() {
+    constexpr unsigned long aStartIsWriting = 100; // milliseconds
     if (lock.isLocked() || lock.tryLock(0))
         return false;
+    if (lock.error() == QLockFile::LockFailedError && !TellsItsHolder()) {
+        QThread::msleep(aStartIsWriting);
+        if (!TellsItsHolder() && QFile::remove(path) && lock.tryLock(0))
+            return false;
+    }
     return lock.error() == QLockFile::LockFailedError;
 }
 

@@ -11,11 +11,15 @@ public:
     explicit SingleInstance(const QString& folder);
 
     /// True when another running process holds the lock. A lock left by a process that no longer
-    /// runs is taken over; a folder that can't be written counts as free, so that the program still
-    /// starts.
+    /// runs, or one that can't be read, is taken over; a folder that can't be written counts as
+    /// free, so that the program still starts.
     bool OtherRuns();
 
 private:
+    /// Whether the lock file tells who holds it.
+    bool TellsItsHolder() const;
+
+    QString path;
     QLockFile lock;
 };
 

@@ -26,13 +26,13 @@ QString DecodeText(const QByteArray& bytes, CodePage fallback) {
         return DecodeUtf16(bytes, QStringConverter::Utf16LE);
     if (bytes.startsWith("\xFE\xFF"))
         return DecodeUtf16(bytes, QStringConverter::Utf16BE);
+    if (LooksLikeUtf16(bytes))
+        return DecodeUtf16(bytes, QStringConverter::Utf16LE);
     // Stateless: a character that the end cuts off is an error too.
     QStringDecoder utf8(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
     const QString text = utf8(bytes);
-    if (!utf8.hasError() && !bytes.contains('\0'))
+    if (!utf8.hasError())
         return text;
-    if (LooksLikeUtf16(bytes))
-        return DecodeUtf16(bytes, QStringConverter::Utf16LE);
     return DecodeCodePage(bytes, fallback);
 }
 

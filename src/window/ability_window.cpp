@@ -14,6 +14,7 @@
 #include <QTextLayout>
 
 #include <algorithm>
+#include <cmath>
 
 namespace Hesperin {
 
@@ -24,18 +25,23 @@ constexpr int LineHeight = Pixels(600);
 constexpr int BelowText = Pixels(1950); // of the window's height, all that isn't the description
 constexpr int ButtonBelowText = Pixels(1095);
 
-/// Lines of `text` as wrapped at a width in pixels.
-int WrappedLines(const QString& text, const QFont& face, int width) {
+/// What a text takes when it is wrapped: its lines, and the pixels from top to bottom.
+struct Extent {
+    int lines = 0;
+    int height = 0;
+};
+
+Extent WrappedExtent(const QString& text, const QFont& face, int width) {
     QTextDocument document;
     document.setDefaultFont(face);
     document.setDocumentMargin(0);
     document.setPlainText(text);
     document.setTextWidth(width);
-    document.size(); // lays the text out
-    int lines = 0;
+    Extent extent;
+    extent.height = static_cast<int>(std::ceil(document.size().height())); // lays the text out
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
-        lines += std::max(1, block.layout()->lineCount());
-    return lines;
+        extent.lines += std::max(1, block.layout()->lineCount());
+    return extent;
 }
 
 } // namespace
@@ -63,11 +69,10 @@ AbilityWindow::AbilityWindow(Program& owner, QWidget* mainWindow)
     ground.setColor(QPalette::Base, palette().color(QPalette::Window));
     description->setPalette(ground);
     constexpr int scrollBar = 20; // the text must not need one because it shows one
-    constexpr int slack = 4;      // the field leaves a little room around its lines
-    const int lines =
-        WrappedLines(form.utbD(index).Text(), ReadingFace(), Pixels(10575) - scrollBar);
-    const int wanted =
-        std::max(lines * LineHeight, lines * QFontMetrics(ReadingFace()).lineSpacing() + slack);
+    constexpr int slack = 2;      // the field leaves a little room around its lines
+    const Extent extent =
+        WrappedExtent(form.utbD(index).Text(), ReadingFace(), Pixels(10575) - scrollBar);
+    const int wanted = std::max(extent.lines * LineHeight, extent.height + slack);
     const int room = screen()->availableGeometry().height() - BelowText - LineHeight;
     const int height = std::min(wanted, std::max(room, LineHeight));
     if (height < wanted)

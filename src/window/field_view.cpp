@@ -3,8 +3,10 @@
 #include "window/faces.h"
 #include "window/palette.h"
 
+#include <QDragEnterEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 
 #include <algorithm>
 
@@ -51,6 +53,13 @@ void FieldView::inputMethodEvent(QInputMethodEvent* event) {
     if (!event->commitString().isEmpty() && !Admits(event->commitString()))
         event->setCommitString({});
     QLineEdit::inputMethodEvent(event);
+}
+
+void FieldView::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls())
+        event->ignore(); // a file belongs to the window, which opens it
+    else
+        QLineEdit::dragEnterEvent(event);
 }
 
 void FieldView::FitFace() {

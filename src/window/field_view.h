@@ -16,6 +16,7 @@ protected:
     void Sync() override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
 
 private:
     /// Whether `typed` may come in where the selection stands now.

@@ -26,6 +26,7 @@ void ListView::Sync() {
         addItems(control.Items());
     }
     setCurrentIndex(control.Index());
+    setAccessibleDescription(control.Text()); // which need not be the entry chosen
     update();
 }
 

@@ -217,6 +217,17 @@ TEST_F(SingleInstanceTest, TakesOverTheLockOfAProcessThatNoLongerRuns) {
     EXPECT_FALSE(SingleInstance(Path("c")).OtherRuns());
 }
 
+TEST_F(SingleInstanceTest, TakesOverALockThatCannotBeRead) {
+    const char* const damaged[] = {"", "not a lock", "12\n"};
+    for (const char* content : damaged) {
+        SCOPED_TRACE(content);
+        Write("d/talmir.lock", content);
+        SingleInstance first(Path("d"));
+        EXPECT_FALSE(first.OtherRuns());
+        EXPECT_TRUE(SingleInstance(Path("d")).OtherRuns()) << "it holds the lock now";
+    }
+}
+
 TEST_F(SingleInstanceTest, AFolderThatCannotBeMadeCountsAsFree) {
     Write("file", "no folder");
     EXPECT_FALSE(SingleInstance(Path("file/settings")).OtherRuns());
