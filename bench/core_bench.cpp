@@ -1,5 +1,6 @@
-// What happens inside one process: Calculate beside the bare formulas, opening a creature file beside the XML
-// parser alone, saving beside writing the same bytes, a language switch beside reading the same files.
+// What happens inside one process: Calculate beside the bare formulas, opening a creature file
+// beside the XML parser alone, saving beside writing the same bytes, a language switch beside
+// reading the same files.
 #include "lay_texts.h"
 #include "ratios.h"
 
@@ -162,10 +163,11 @@ BENCHMARK(SwitchLanguage);
 
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
+    LayTexts(QCoreApplication::applicationDirPath());
     return RunAndPrintRatios(
         argc, argv,
         {{"Calculate from fields to labels", "CalculateFromFields", "BareFormulas"},
          {"Opening a creature file from memory", "OpenFromMemory", "XmlParserAlone"},
-                              {"Building and writing a full creature file", "BuildAndSave", "SaveBytesAlone"},
-                              {"Language switch, 348 texts", "SwitchLanguage", "ReadTextsAlone"}});
+         {"Building and writing a full creature file", "BuildAndSave", "SaveBytesAlone"},
+         {"Language switch, 348 texts", "SwitchLanguage", "ReadTextsAlone"}});
 }

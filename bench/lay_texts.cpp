@@ -12,7 +12,8 @@ void LayTexts(const QString& programFolder) {
     for (const char* language : {"EN", "RU"})
         for (int i = 1; i <= Ability::Count; ++i) {
             AbilityTextFiles(state, i);
-            const QString folder = programFolder + u'/' + AbilityTextFolder(QLatin1String(language), i);
+            const QString folder =
+                programFolder + u'/' + AbilityTextFolder(QLatin1String(language), i);
             QDir().mkpath(folder);
             for (const QString& name : {state.AbilityNameFile, state.AbilityDescFile}) {
                 QFile file(folder + u'/' + name + QLatin1String(".txt"));

@@ -1,4 +1,5 @@
-// Reads the files named and runs the XML parser over them: the floor of the command line on a whole mod.
+// Reads the files named and runs the XML parser over them: the floor of the command line on a whole
+// mod.
 #include <QCoreApplication>
 #include <QFile>
 #include <QXmlStreamReader>

@@ -48,11 +48,11 @@ int main(int argc, char** argv) {
     PrintPair("Process start to first complete picture", {here + "/start/window_start", {}},
               {here + "/start/empty_start", {}});
     PrintPair("Process start to result, one file",
-              {here + "/talmir-cli",
-               {"calc", SamplesFolder + "frost_witch.xdb"}},
+              {here + "/talmir-cli", {"calc", SamplesFolder + "frost_witch.xdb"}},
               {here + "/start/one_line", {}});
     const QStringList mod = MakeMod(here + QLatin1String("/start/mod"));
-    PrintPair("2,000 files on the command line", {here + "/talmir-cli", QStringList{"calc", "--json"} + mod},
+    PrintPair("2,000 files on the command line",
+              {here + "/talmir-cli", QStringList{"calc", "--json"} + mod},
               {here + "/start/read_all", mod});
     return 0;
 }

@@ -18,10 +18,13 @@ constexpr std::array<int, 5> UnwrittenAbilities{Ability::Caster, Ability::FleshA
                                                 Ability::Flyer, Ability::LargeCreature,
                                                 Ability::Shooter};
 
+/// A creature with every box ticked comes near it.
+constexpr qsizetype LongestCreature = 24000;
+
 /// Collects lines, each with its number of tabs.
 class Lines {
 public:
-    Lines() { text.reserve(4096); }
+    Lines() { text.reserve(LongestCreature); }
 
     template <typename... Pieces>
     void Add(int tabs, const Pieces&... pieces) {
@@ -32,7 +35,7 @@ public:
     }
 
     /// <name>value</name>
-    void Element(int tabs, const char* name, const QString& value, const char* prefix = "") {
+    void Element(int tabs, const char* name, QStringView value, const char* prefix = "") {
         Add(tabs, QLatin1String("<"), QLatin1String(name), QLatin1String(">"),
             QLatin1String(prefix), value, QLatin1String("</"), QLatin1String(name),
             QLatin1String(">"));
@@ -52,8 +55,7 @@ void AddKnownSpell(Lines& lines, const char* prefix, const CheckBox& box,
                    const MultiOption& selector) {
     lines.Add(2, QLatin1String("<Item>"));
     lines.Element(3, "Spell", box.Caption(), prefix);
-    lines.Element(3, "Mastery",
-                  QString::fromUtf16(MasteryToken.at(static_cast<std::size_t>(selector.Value()))),
+    lines.Element(3, "Mastery", MasteryToken.at(static_cast<std::size_t>(selector.Value())),
                   "MASTERY_");
     lines.Add(2, QLatin1String("</Item>"));
 }
@@ -84,8 +86,7 @@ void AddAbilities(Lines& lines, const MainForm& form) {
         const bool unwritten = std::find(UnwrittenAbilities.begin(), UnwrittenAbilities.end(), i) !=
                                UnwrittenAbilities.end();
         if (form.Abilities(i).Ticked() && !unwritten)
-            lines.Element(2, "Item",
-                          QString::fromUtf16(AbilityCatalogue[static_cast<std::size_t>(i)].token),
+            lines.Element(2, "Item", AbilityCatalogue[static_cast<std::size_t>(i)].token,
                           "ABILITY_");
     }
     lines.Add(1, QLatin1String("</Abilities>"));
