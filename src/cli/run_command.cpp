@@ -18,6 +18,12 @@ constexpr std::uint8_t Russian = 2;
 const QString LanguageOption = QStringLiteral("lang");
 
 void Describe(QCommandLineParser& parser) {
+    parser.setApplicationDescription(parser.applicationDescription() +
+                                     QStringLiteral(" Message boxes are answered with OK; 'state' "
+                                                    "lists them. What can't be done is told as\n"
+                                                    "SCRIPT:LINE: reason, and the run goes on.\n\n"
+                                                    "Actions, one a line; # starts a comment:\n") +
+                                     ActionsHelp().trimmed().prepend(QLatin1String("  ")));
     parser.addPositionalArgument(
         QStringLiteral("SCRIPT"),
         QStringLiteral("File of user actions, one a line; - reads standard input."));

@@ -145,15 +145,37 @@ QString State(ScriptStage& stage, const QString&) {
 
 struct Action {
     const char* name;
+    const char* takes;
+    const char* does;
     QString (*play)(ScriptStage& stage, const QString& arguments);
 };
 
+// clang-format off
 constexpr Action Actions[] = {
-    {"set", Set},         {"keys", Keys},   {"choose", Choose}, {"tick", Tick}, {"untick", Untick},
-    {"mastery", Mastery}, {"press", Press}, {"menu", Menu},     {"show", Show}, {"state", State},
+    {"set",     "FIELD TEXT",     "replaces the text of a field, as a paste would",           Set},
+    {"keys",    "FIELD TEXT",     "types at the end, through key filter and maximum length",  Keys},
+    {"choose",  "LIST INDEX",     "picks an entry, from 0",                                   Choose},
+    {"tick",    "BOX",            "ticks Abilities(66), Spells(46), Specabilities(9)",        Tick},
+    {"untick",  "BOX",            "unticks it",                                               Untick},
+    {"mastery", "SELECTOR LEVEL", "clicks option 0 to 4 of soq(46), saz(9)",                  Mastery},
+    {"press",   "BUTTON",         "cmdCalc, cmdRAP, cmdRAA, cmdRAS, cmdResetAll",             Press},
+    {"menu",    "ENTRY [PATH]",   "mnuNew, mnuOpen PATH, mnuSave PATH, mnuEnglish, mnuRussian", Menu},
+    {"show",    "NAME",           "prints the text, caption or state of a control",           Show},
+    {"state",   "",               "prints the whole state, and the boxes shown, as JSON",     State},
 };
+// clang-format on
 
 } // namespace
+
+QString ActionsHelp() {
+    QString help;
+    for (const Action& action : Actions)
+        help += QStringLiteral("  %1 %2 %3\n")
+                    .arg(QLatin1String(action.name), -7)
+                    .arg(QLatin1String(action.takes), -14)
+                    .arg(QLatin1String(action.does));
+    return help;
+}
 
 QString PlayLine(ScriptStage& stage, const QString& line) {
     const Words words = SplitFirst(line);

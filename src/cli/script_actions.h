@@ -16,4 +16,7 @@ struct ScriptStage {
 /// is done. `show` and `state` print.
 QString PlayLine(ScriptStage& stage, const QString& line);
 
+/// The actions, a line each: name, what it takes, what it does.
+QString ActionsHelp();
+
 } // namespace Hesperin
