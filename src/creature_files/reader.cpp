@@ -157,12 +157,12 @@ private:
     void MatchList(QStringView openingTag, QStringView prefix, ComboBox& list,
                    ComboBox* twin = nullptr) {
         NoteIfMissing(openingTag);
-        for (std::int16_t index = 0; index < list.Items().size(); ++index) {
+        for (qsizetype index = 0; index < list.Items().size(); ++index) {
             if (FindToken(state, text, prefix.toString() + list.Items()[index]) == 0)
                 continue;
-            list.Select(index);
+            list.Select(static_cast<std::int16_t>(index));
             if (twin != nullptr)
-                twin->Select(index);
+                twin->Select(static_cast<std::int16_t>(index));
             return;
         }
     }

@@ -20,7 +20,7 @@ QString Open(QSaveFile& file) {
 
 QString SaveFile(const QString& path, const QByteArray& bytes) {
     QSaveFile file(path);
-    const QString obstacle = Open(file);
+    QString obstacle = Open(file);
     if (!obstacle.isEmpty())
         return obstacle;
     // commit() alone doesn't notice that its last write failed: on a full disk it would replace the
@@ -31,7 +31,7 @@ QString SaveFile(const QString& path, const QByteArray& bytes) {
 
 QString SaveObstacle(const QString& path) {
     QSaveFile file(path);
-    const QString obstacle = Open(file);
+    QString obstacle = Open(file);
     file.cancelWriting();
     return obstacle;
 }

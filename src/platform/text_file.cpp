@@ -30,7 +30,7 @@ QString DecodeText(const QByteArray& bytes, CodePage fallback) {
         return DecodeUtf16(bytes, QStringConverter::Utf16LE);
     // Stateless: a character that the end cuts off is an error too.
     QStringDecoder utf8(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
-    const QString text = utf8(bytes);
+    QString text = utf8(bytes);
     if (!utf8.hasError())
         return text;
     return DecodeCodePage(bytes, fallback);

@@ -12,7 +12,6 @@
 #include <QMimeData>
 #include <QScreen>
 #include <QScrollArea>
-#include <QTimer>
 #include <QUrl>
 
 namespace Hesperin {
@@ -91,7 +90,8 @@ bool MainWindow::event(QEvent* event) {
     const bool taken = QMainWindow::event(event);
     // The pages behind the first are built when the first has been painted.
     if (event->type() == QEvent::Paint && !std::exchange(painted, true))
-        QTimer::singleShot(0, this, [this] { tabs->BuildAll(); });
+        QMetaObject::invokeMethod(
+            this, [this] { tabs->BuildAll(); }, Qt::QueuedConnection);
     return taken;
 }
 
@@ -111,7 +111,8 @@ void MainWindow::dropEvent(QDropEvent* event) {
     const QString file = DraggedFile(*event->mimeData());
     event->acceptProposedAction();
     // After the drop has ended, or the program it came from would wait for the message boxes.
-    QTimer::singleShot(0, this, [this, file] { OpenCreatureFile(program, file); });
+    QMetaObject::invokeMethod(
+        this, [this, file] { OpenCreatureFile(program, file); }, Qt::QueuedConnection);
 }
 
 } // namespace Hesperin

@@ -24,42 +24,42 @@ struct FrameRow {
     int left;
     int top;
     int width;
+    QRgb ink;
     TextField MainForm::*field; ///< or
     ComboBox MainForm::*list;
-    QRgb ink;
 };
 
 // clang-format off
 // In reading order, which is also the order of the tab key. Places in twips from the tab control's corner.
 constexpr FrameRow FrameRowsOfPage[] = {
-    //                           left   top   width  field                    list                        ink
-    {&MainForm::FrameNC,          240,  600,  2715, &MainForm::txtNC,        nullptr,                    Name},
-    {&MainForm::FrameIDC,        3000,  600,  2715, &MainForm::txtIDC,       nullptr,                    Name},
-    {&MainForm::FrameAttack,      240, 1440,  1395, &MainForm::txtAttack,    nullptr,                    Parameter},
-    {&MainForm::FrameDefence,    1680, 1440,  1275, &MainForm::txtDefence,   nullptr,                    Parameter},
-    {&MainForm::FrameDamage,     3000, 1440,  2715, nullptr,                 nullptr,                    Parameter}, // two fields
-    {&MainForm::FrameHealth,      240, 2280,  1275, &MainForm::txtHealth,    nullptr,                    Parameter},
-    {&MainForm::FrameTier,       1560, 2280,  1395, nullptr,                 &MainForm::ComboTier,       Text},
-    {&MainForm::FrameSpeed,      3000, 2280,  1155, nullptr,                 &MainForm::ComboSpeed,      Text},
-    {&MainForm::FrameInitiative, 4200, 2280,  1515, nullptr,                 &MainForm::ComboInitiative, Text},
-    {&MainForm::FrameFaction,     240, 3120,  2715, nullptr,                 &MainForm::ComboFaction,    Text},
-    {&MainForm::FrameFME,        3000, 3120,  2715, nullptr,                 &MainForm::ComboFME,        Text},
-    {&MainForm::FrameUpgrade,     240, 3960,  2715, nullptr,                 &MainForm::ComboUpgrade,    Text},
-    {&MainForm::FrameSME,        3000, 3960,  2715, nullptr,                 &MainForm::ComboSME,        Text},
-    {&MainForm::FramePowerf,      240, 4800,  1165, &MainForm::txtPower,     nullptr,                    InFile},
-    {&MainForm::FrameExpf,       1450, 4800,  1505, &MainForm::txtExp,       nullptr,                    InFile},
-    {&MainForm::FrameShots,      3000, 4800,  1275, &MainForm::txtShots,     nullptr,                    Parameter},
-    {&MainForm::FrameRange,      4320, 4800,  1395, nullptr,                 &MainForm::ComboRange,      Text},
-    {&MainForm::FrameGrowthf,     240, 5640,  1165, &MainForm::txtGrowthf,   nullptr,                    InFile},
-    {&MainForm::FrameCostf,      1450, 5640,  1505, &MainForm::txtGoldf,     nullptr,                    InFile},
-    {&MainForm::FrameMana,       3000, 5640,   795, &MainForm::txtMana,      nullptr,                    Parameter},
-    {&MainForm::FrameTTC,        3840, 5640,  1875, nullptr,                 &MainForm::ComboTTC,        Text},
-    {&MainForm::FrameWoodf,       240, 6480,  1275, &MainForm::txtWoodf,     nullptr,                    InFile},
-    {&MainForm::FrameOref,       1560, 6480,  1395, &MainForm::txtOref,      nullptr,                    InFile},
-    {&MainForm::FrameMercuryf,    240, 7320,  1170, &MainForm::txtMercuryf,  nullptr,                    InFile},
-    {&MainForm::FrameCrystalf,   1455, 7320,  1500, &MainForm::txtCrystalf,  nullptr,                    InFile},
-    {&MainForm::FrameSulfurf,     240, 8160,  1170, &MainForm::txtSulfurf,   nullptr,                    InFile},
-    {&MainForm::FrameGemf,       1455, 8160,  1500, &MainForm::txtGemf,      nullptr,                    InFile},
+    //                            left   top  width  ink        field                    list
+    {&MainForm::FrameNC,           240,  600, 2715,  Name,      &MainForm::txtNC,        nullptr},
+    {&MainForm::FrameIDC,         3000,  600, 2715,  Name,      &MainForm::txtIDC,       nullptr},
+    {&MainForm::FrameAttack,       240, 1440, 1395,  Parameter, &MainForm::txtAttack,    nullptr},
+    {&MainForm::FrameDefence,     1680, 1440, 1275,  Parameter, &MainForm::txtDefence,   nullptr},
+    {&MainForm::FrameDamage,      3000, 1440, 2715,  Parameter, nullptr,                 nullptr}, // two fields
+    {&MainForm::FrameHealth,       240, 2280, 1275,  Parameter, &MainForm::txtHealth,    nullptr},
+    {&MainForm::FrameTier,        1560, 2280, 1395,  Text,      nullptr,                 &MainForm::ComboTier},
+    {&MainForm::FrameSpeed,       3000, 2280, 1155,  Text,      nullptr,                 &MainForm::ComboSpeed},
+    {&MainForm::FrameInitiative,  4200, 2280, 1515,  Text,      nullptr,                 &MainForm::ComboInitiative},
+    {&MainForm::FrameFaction,      240, 3120, 2715,  Text,      nullptr,                 &MainForm::ComboFaction},
+    {&MainForm::FrameFME,         3000, 3120, 2715,  Text,      nullptr,                 &MainForm::ComboFME},
+    {&MainForm::FrameUpgrade,      240, 3960, 2715,  Text,      nullptr,                 &MainForm::ComboUpgrade},
+    {&MainForm::FrameSME,         3000, 3960, 2715,  Text,      nullptr,                 &MainForm::ComboSME},
+    {&MainForm::FramePowerf,       240, 4800, 1165,  InFile,    &MainForm::txtPower,     nullptr},
+    {&MainForm::FrameExpf,        1450, 4800, 1505,  InFile,    &MainForm::txtExp,       nullptr},
+    {&MainForm::FrameShots,       3000, 4800, 1275,  Parameter, &MainForm::txtShots,     nullptr},
+    {&MainForm::FrameRange,       4320, 4800, 1395,  Text,      nullptr,                 &MainForm::ComboRange},
+    {&MainForm::FrameGrowthf,      240, 5640, 1165,  InFile,    &MainForm::txtGrowthf,   nullptr},
+    {&MainForm::FrameCostf,       1450, 5640, 1505,  InFile,    &MainForm::txtGoldf,     nullptr},
+    {&MainForm::FrameMana,        3000, 5640,  795,  Parameter, &MainForm::txtMana,      nullptr},
+    {&MainForm::FrameTTC,         3840, 5640, 1875,  Text,      nullptr,                 &MainForm::ComboTTC},
+    {&MainForm::FrameWoodf,        240, 6480, 1275,  InFile,    &MainForm::txtWoodf,     nullptr},
+    {&MainForm::FrameOref,        1560, 6480, 1395,  InFile,    &MainForm::txtOref,      nullptr},
+    {&MainForm::FrameMercuryf,     240, 7320, 1170,  InFile,    &MainForm::txtMercuryf,  nullptr},
+    {&MainForm::FrameCrystalf,    1455, 7320, 1500,  InFile,    &MainForm::txtCrystalf,  nullptr},
+    {&MainForm::FrameSulfurf,      240, 8160, 1170,  InFile,    &MainForm::txtSulfurf,   nullptr},
+    {&MainForm::FrameGemf,        1455, 8160, 1500,  InFile,    &MainForm::txtGemf,      nullptr},
 };
 // clang-format on
 

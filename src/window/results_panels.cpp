@@ -71,23 +71,25 @@ void BuildGroup(MainForm& form, FrameView& panel, const Group& group, int top) {
     }
 }
 
-void BuildPanel(MainForm& form, QWidget& page, Frame& frame, const QRect& place,
-                std::span<const Group> groups) {
-    auto* panel = new FrameView(frame, &page, HeadingFace(), place);
+void BuildGroups(MainForm& form, FrameView& panel, std::span<const Group> groups) {
     int top = FirstGroupTop;
     for (const Group& group : groups) {
-        BuildGroup(form, *panel, group, top);
+        BuildGroup(form, panel, group, top);
         top += GroupPitch;
     }
+}
+
+FrameView& BuildPanel(QWidget& page, Frame& frame, const QRect& place) {
+    return *new FrameView(frame, &page, HeadingFace(), place);
 }
 
 } // namespace
 
 void BuildResultPanels(MainForm& form, QWidget& page, int top) {
-    BuildPanel(form, page, form.frmMM, PixelRect(12360, 480, 2730, 5330).translated(0, -top),
-               MainMethod);
-    BuildPanel(form, page, form.frmAM, PixelRect(9480, 480, 2730, 3625).translated(0, -top),
-               AlternativeMethod);
+    const QRect mainPlace = PixelRect(12360, 480, 2730, 5330).translated(0, -top);
+    const QRect alternativePlace = PixelRect(9480, 480, 2730, 3625).translated(0, -top);
+    BuildGroups(form, BuildPanel(page, form.frmMM, mainPlace), MainMethod);
+    BuildGroups(form, BuildPanel(page, form.frmAM, alternativePlace), AlternativeMethod);
 }
 
 } // namespace Hesperin

@@ -6,7 +6,6 @@
 
 #include <QApplication>
 #include <QIcon>
-#include <QTimer>
 
 namespace Hesperin {
 
@@ -25,8 +24,9 @@ bool WindowedProgram::Start(const QString& creatureFile) {
     window->move(0, 0);
     window->show();
     if (!creatureFile.isEmpty())
-        QTimer::singleShot(0, window.get(),
-                           [this, creatureFile] { OpenCreatureFile(program, creatureFile); });
+        QMetaObject::invokeMethod(
+            window.get(), [this, creatureFile] { OpenCreatureFile(program, creatureFile); },
+            Qt::QueuedConnection);
     return true;
 }
 
