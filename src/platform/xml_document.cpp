@@ -1,6 +1,9 @@
 #include "platform/xml_document.h"
 
 #include "platform/code_page.h"
+#include "platform/shortened.h"
+#include "platform/text_file.h"
+#include "platform/xml_limits.h"
 
 #include <QXmlStreamReader>
 
@@ -11,6 +14,9 @@
 namespace Hesperin {
 
 namespace {
+
+/// Of all entities of a document together, in characters.
+constexpr qsizetype LongestExpansion = 1 << 20;
 
 /// An element whose end hasn't been reached. Its name is kept as a place in the output.
 struct OpenElement {
@@ -75,6 +81,13 @@ public:
     }
 
     qsizetype Length() const { return out.size(); }
+
+    /// Name of the innermost open element.
+    QStringView Innermost() const {
+        return open.empty() ? QStringView()
+                            : QStringView(out).sliced(open.back().nameAt, open.back().nameLength);
+    }
+
     QString Take() { return std::move(out); }
 
 private:
@@ -110,43 +123,58 @@ private:
     std::vector<OpenElement> open;
 };
 
-/// The code page that the document declares, where it is one that a parser need not know.
-std::optional<CodePage> DeclaredCodePage(const QByteArray& bytes) {
+/// The document as text where its declaration names an encoding that the parser can't be left alone
+/// with: a code page that it may not know, or UTF-16 in a file of single bytes, which is UTF-8.
+std::optional<QString> DecodedByDeclaration(const QByteArray& bytes) {
     if (!bytes.startsWith("<?xml"))
         return std::nullopt;
     const QByteArray declaration = bytes.left(bytes.indexOf("?>")).left(256).toLower();
     if (declaration.contains("windows-1251"))
-        return CodePage::Windows1251;
+        return DecodeCodePage(bytes, CodePage::Windows1251);
     if (declaration.contains("windows-1252"))
-        return CodePage::Windows1252;
+        return DecodeCodePage(bytes, CodePage::Windows1252);
+    if (declaration.contains("utf-16"))
+        return DecodeText(bytes, CodePage::Windows1252);
     return std::nullopt;
 }
 
-XmlProblem ProblemOf(const QXmlStreamReader& reader) {
-    const bool endsEarly = reader.error() == QXmlStreamReader::PrematureEndOfDocumentError;
-    return {endsEarly ? XmlProblem::Kind::EndsEarly : XmlProblem::Kind::NotWellFormed,
-            reader.errorString(), reader.lineNumber(), reader.columnNumber() + 1};
+/// The first entity that is declared as another file and referred to.
+QString EntityInAnotherFile(const QXmlStreamReader& reader, const QByteArray& bytes) {
+    for (const QXmlStreamEntityDeclaration& entity : reader.entityDeclarations())
+        if (!entity.systemId().isEmpty() && bytes.contains('&' + entity.name().toUtf8() + ';'))
+            return entity.name().toString();
+    return {};
 }
 
 } // namespace
 
 std::variant<QString, XmlProblem> NormaliseXml(const QByteArray& bytes, QStringView root,
                                                qsizetype longest) {
+    const XmlProblem tooLong{XmlProblem::Kind::TooLong, {}};
+    if (HasEndlessMarkup(bytes, longest))
+        return tooLong;
     QXmlStreamReader reader;
     reader.setNamespaceProcessing(false);
-    if (const auto codePage = DeclaredCodePage(bytes))
-        reader.addData(DecodeCodePage(bytes, *codePage));
+    reader.setEntityExpansionLimit(EntityLimit(bytes, LongestExpansion));
+    if (const auto text = DecodedByDeclaration(bytes))
+        reader.addData(*text);
     else
         reader.addData(bytes);
 
     Normaliser normaliser(bytes.size() + bytes.size() / 8);
+    const auto problem = [&reader, &normaliser](XmlProblem::Kind kind, QStringView detail) {
+        return XmlProblem{kind, Shortened(detail), reader.lineNumber(), reader.columnNumber() + 1,
+                          Shortened(normaliser.Innermost())};
+    };
+    const auto notWellFormed = [&problem](const QString& detail) {
+        return problem(XmlProblem::Kind::NotWellFormed, detail);
+    };
     bool rootSeen = false;
     while (!reader.atEnd()) {
         switch (reader.readNext()) {
         case QXmlStreamReader::StartElement:
             if (!rootSeen && reader.qualifiedName() != root)
-                return XmlProblem{XmlProblem::Kind::WrongRoot, reader.qualifiedName().toString(),
-                                  reader.lineNumber(), reader.columnNumber() + 1};
+                return problem(XmlProblem::Kind::WrongRoot, reader.qualifiedName());
             rootSeen = true;
             normaliser.Start(reader.qualifiedName(), reader.attributes());
             break;
@@ -156,20 +184,24 @@ std::variant<QString, XmlProblem> NormaliseXml(const QByteArray& bytes, QStringV
         case QXmlStreamReader::Characters:
             normaliser.Characters(reader.text());
             break;
+        case QXmlStreamReader::DTD:
+            if (const QString entity = EntityInAnotherFile(reader, bytes); !entity.isEmpty())
+                return notWellFormed(
+                    QStringLiteral("Entity '%1' lies in another file, which is not read.")
+                        .arg(entity));
+            break;
         case QXmlStreamReader::EntityReference:
-            return XmlProblem{
-                XmlProblem::Kind::NotWellFormed,
-                QStringLiteral("Entity '%1' is not declared here.").arg(reader.name()),
-                reader.lineNumber(), reader.columnNumber() + 1};
+            return notWellFormed(QStringLiteral("Entity '%1' not declared.").arg(reader.name()));
         default:
             break;
         }
         if (normaliser.Length() > longest && !reader.hasError())
-            return XmlProblem{
-                XmlProblem::Kind::TooLong, {}, reader.lineNumber(), reader.columnNumber() + 1};
+            return tooLong;
     }
+    if (reader.error() == QXmlStreamReader::PrematureEndOfDocumentError)
+        return problem(XmlProblem::Kind::EndsEarly, {});
     if (reader.hasError())
-        return ProblemOf(reader);
+        return notWellFormed(reader.errorString());
     return normaliser.Take();
 }
 
