@@ -121,7 +121,7 @@ void BuildAndSave(benchmark::State& state) {
     const FullProgram full;
     for (auto _ : state) {
         const QString text = BuildCreatureText(full.program, QStringLiteral("Full"));
-        if (!SaveFile(full.path, CreatureFileBytes(text)).isEmpty())
+        if (SaveFile(full.path, CreatureFileBytes(text)))
             state.SkipWithError("the file could not be written");
     }
 }

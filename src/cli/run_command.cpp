@@ -15,6 +15,9 @@ namespace {
 constexpr std::uint8_t English = 1;
 constexpr std::uint8_t Russian = 2;
 
+/// Of a script, in bytes: a file that is no script must not fill the memory.
+constexpr qint64 LongestLine = 1 << 20;
+
 const QString LanguageOption = QStringLiteral("lang");
 
 void Describe(QCommandLineParser& parser) {
@@ -57,7 +60,12 @@ bool IsAction(const QString& line) {
 bool Play(QFile& script, const QString& name, ScriptStage& stage) {
     bool allDone = true;
     for (int number = 1; !script.atEnd(); ++number) {
-        QByteArray bytes = script.readLine();
+        QByteArray bytes = script.readLine(LongestLine + 1);
+        if (bytes.size() > LongestLine) {
+            Complain(QStringLiteral("%1:%2: the line is longer than %3 bytes; the run ends here")
+                         .arg(name, QString::number(number), QString::number(LongestLine)));
+            return false;
+        }
         if (number == 1 && bytes.startsWith("\xEF\xBB\xBF"))
             bytes.remove(0, 3);
         const QString line = WithoutLineEnd(bytes);

@@ -1,39 +1,35 @@
 #include "creature_files/document.h"
 
+#include "localisation/obstacle_text.h"
+#include "localisation/parser_words.h"
 #include "localisation/string_tables.h"
 
 namespace Hesperin {
 
 namespace {
 
-QString Reason(const SharedState& state, const ReadProblem& problem) {
-    switch (problem.kind) {
-    case ReadProblem::Kind::Missing:
-        return state.MsgFileMissing;
-    case ReadProblem::Kind::IsFolder:
-        return state.MsgFileIsFolder;
-    case ReadProblem::Kind::TooLarge:
-        return Fill(state.MsgFileTooLarge, {QString::number(LargestCreatureFile)});
-    case ReadProblem::Kind::Unreadable:
-        break;
-    }
-    return Fill(state.MsgFileUnreadable, {problem.reason});
+QString Reason(const SharedState& state, const FileObstacle& obstacle) {
+    return ObstacleText(state, obstacle);
+}
+
+QString Place(const SharedState& state, const XmlProblem& problem) {
+    return Fill(problem.element.isEmpty() ? state.MsgAtLine : state.MsgAtLineIn,
+                {QString::number(problem.line), QString::number(problem.column), problem.element});
 }
 
 QString Reason(const SharedState& state, const XmlProblem& problem) {
-    const QString place =
-        Fill(state.MsgAtLine, {QString::number(problem.line), QString::number(problem.column)});
     switch (problem.kind) {
     case XmlProblem::Kind::EndsEarly:
-        return state.MsgEndsEarly + place;
+        return state.MsgEndsEarly + Place(state, problem);
     case XmlProblem::Kind::WrongRoot:
-        return Fill(state.MsgWrongRoot, {problem.detail}) + place;
+        return Fill(state.MsgWrongRoot, {problem.detail}) + Place(state, problem);
     case XmlProblem::Kind::TooLong:
         return Fill(state.MsgTextTooLong, {QString::number(LongestCreatureText)});
     case XmlProblem::Kind::NotWellFormed:
         break;
     }
-    return Fill(state.MsgNotWellFormed, {problem.detail}) + place;
+    return Fill(state.MsgNotWellFormed, {ParserWords(state, problem.detail)}) +
+           Place(state, problem);
 }
 
 } // namespace
@@ -47,7 +43,7 @@ std::variant<QString, OpenProblem> NormaliseCreature(const QByteArray& bytes) {
 
 std::variant<QString, OpenProblem> LoadCreatureDocument(const QString& path) {
     const auto content = ReadFile(path, LargestCreatureFile);
-    if (const auto* problem = std::get_if<ReadProblem>(&content))
+    if (const auto* problem = std::get_if<FileObstacle>(&content))
         return *problem;
     return NormaliseCreature(std::get<QByteArray>(content));
 }

@@ -7,7 +7,7 @@
 namespace Hesperin {
 
 /// Why a creature file was refused.
-using OpenProblem = std::variant<ReadProblem, XmlProblem>;
+using OpenProblem = std::variant<FileObstacle, XmlProblem>;
 
 /// The largest file that is read at all, in bytes.
 inline constexpr qint64 LargestCreatureFile = 1 << 20;

@@ -8,6 +8,7 @@
 #include "engine/clear_creature.h"
 #include "engine/numbers.h"
 #include "form/version_record.h"
+#include "localisation/obstacle_text.h"
 #include "localisation/string_tables.h"
 #include "platform/save_file.h"
 
@@ -126,11 +127,11 @@ void mnuSave_Click(Program& program) {
     }
     state.CreatureName = name;
     form.RTBData.SetText(BuildCreatureText(program, name));
-    const QString reason = SaveFile(dialog.FileName, CreatureFileBytes(form.RTBData.Text()));
+    const auto obstacle = SaveFile(dialog.FileName, CreatureFileBytes(form.RTBData.Text()));
     ShowFilePage(form);
-    if (reason.isEmpty())
+    if (!obstacle)
         return;
-    program.failure = Fill(state.MsgSaveFailed, {dialog.FileName, reason});
+    program.failure = Fill(state.MsgSaveFailed, {dialog.FileName, ObstacleText(state, *obstacle)});
     program.ShowStatus(program.failure);
 }
 

@@ -3,6 +3,7 @@
 #include "creature_files/file_tokens.h"
 #include "creature_files/scanning.h"
 #include "localisation/string_tables.h"
+#include "platform/shortened.h"
 
 namespace Hesperin {
 
@@ -74,9 +75,9 @@ private:
             return std::nullopt;
         }
         if (number.limited)
-            limited.append(
-                QStringLiteral("%1 %2 (%3)")
-                    .arg(ElementName(openingTag), number.text, QString::number(number.value)));
+            limited.append(QStringLiteral("%1 %2 (%3)")
+                               .arg(ElementName(openingTag), Shortened(number.text),
+                                    QString::number(number.value)));
         return number.value;
     }
 

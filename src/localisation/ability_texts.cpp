@@ -29,8 +29,8 @@ constexpr OddNames OddTextFiles[] = {
     {145, u"Shield_other_name", u"Shield_other_desc"},
 };
 
-/// No text of the game comes near it.
-constexpr qint64 LargestText = 1 << 20;
+/// In bytes. No text of the game comes near it, and 348 of them fit into memory.
+constexpr qint64 LargestText = 1 << 16;
 
 constexpr const char* TextTree = "Text/Game/Creatures/Creature_abilities";
 const QString Extension = QStringLiteral(".txt");
@@ -41,7 +41,7 @@ QString Stem(int index) {
 
 QString LoadText(PathLookup& tree, const QStringList& levels, CodePage fallback) {
     auto content = ReadFile(tree.Spelled(levels), LargestText);
-    if (std::holds_alternative<ReadProblem>(content)) {
+    if (std::holds_alternative<FileObstacle>(content)) {
         const QString otherCase = tree.Find(levels);
         if (otherCase.isEmpty())
             return {};

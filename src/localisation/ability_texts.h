@@ -8,7 +8,8 @@ namespace Hesperin {
 /// of ability `index`, 1 to 174, some of which the game spells otherwise than their folder.
 void AbilityTextFiles(SharedState& state, int index);
 
-/// Folder of the texts of ability `index`, 1 to 174, below the program's folder: one per language and ability.
+/// Folder of the texts of ability `index`, 1 to 174, below the program's folder: one per language
+/// and ability.
 QString AbilityTextFolder(const QString& languageCode, int index);
 
 /// Loads name and description of every ability from the language's folder of the text tree beside

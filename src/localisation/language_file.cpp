@@ -25,7 +25,8 @@ QString FileIn(const QString& folder) {
 QByteArray FirstLine(const QString& path) {
     constexpr qint64 longEnough = 16; // for any line that is a code, and to tell one that isn't
     QFile file(path);
-    const QByteArray start = file.open(QIODevice::ReadOnly) ? file.read(longEnough) : QByteArray();
+    const bool opened = QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly);
+    const QByteArray start = opened ? file.read(longEnough) : QByteArray();
     const auto end = std::find_if(start.begin(), start.end(),
                                   [](char byte) { return byte == '\r' || byte == '\n'; });
     return start.left(end - start.begin());
@@ -46,12 +47,12 @@ std::uint8_t ReadLanguageFile(const LanguageFilePlaces& places) {
 bool WriteLanguageFile(const LanguageFilePlaces& places, std::uint8_t languageId) {
     const QByteArray code = Codes.at(languageId);
     const QString users = FileIn(places.settingsFolder);
-    if (SaveFile(FileIn(places.programFolder), code).isEmpty()) {
+    if (!SaveFile(FileIn(places.programFolder), code)) {
         QFile::remove(users); // or it would win at the next start
         return true;
     }
     QDir().mkpath(places.settingsFolder);
-    return SaveFile(users, code).isEmpty();
+    return !SaveFile(users, code);
 }
 
 } // namespace Hesperin

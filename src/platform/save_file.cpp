@@ -1,5 +1,6 @@
 #include "platform/save_file.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QSaveFile>
 
@@ -7,31 +8,41 @@ namespace Hesperin {
 
 namespace {
 
-/// Opens `file` for writing beside its place. Gives the reason when that can't be done.
-QString Open(QSaveFile& file) {
+/// Opens `file` for writing beside its place. Gives the obstacle when that can't be done.
+std::optional<FileObstacle> Open(QSaveFile& file) {
     const QFileInfo place(file.fileName());
-    if (place.exists() && !place.isFile()) // the finished file would be moved over a device
-        return place.isDir() ? QStringLiteral("Is a directory")
-                             : QStringLiteral("Not a regular file");
-    return file.open(QIODevice::WriteOnly) ? QString() : file.errorString();
+    if (place.exists()) {
+        if (place.isDir())
+            return FileObstacle{FileObstacle::Kind::IsFolder, {}};
+        if (!place.isFile()) // the finished file would be moved over a device
+            return FileObstacle{FileObstacle::Kind::NotAFile, {}};
+        if (!place.isWritable()) // and the new one over a file that its owner protects
+            return FileObstacle{FileObstacle::Kind::NotAllowed, {}};
+    }
+    if (file.open(QIODevice::WriteOnly))
+        return std::nullopt;
+    FileObstacle obstacle = ObstacleOf(file.errorString());
+    if (obstacle.kind == FileObstacle::Kind::Missing) // a new file always is
+        obstacle.kind = FileObstacle::Kind::FolderMissing;
+    return obstacle;
 }
 
 } // namespace
 
-QString SaveFile(const QString& path, const QByteArray& bytes) {
+std::optional<FileObstacle> SaveFile(const QString& path, const QByteArray& bytes) {
     QSaveFile file(path);
-    QString obstacle = Open(file);
-    if (!obstacle.isEmpty())
+    if (const auto obstacle = Open(file))
         return obstacle;
     // commit() alone doesn't notice that its last write failed: on a full disk it would replace the
     // old file by half of the new one.
-    const bool complete = file.write(bytes) == bytes.size() && file.flush() && file.commit();
-    return complete ? QString() : file.errorString();
+    if (file.write(bytes) == bytes.size() && file.flush() && file.commit())
+        return std::nullopt;
+    return ObstacleOf(file.errorString());
 }
 
-QString SaveObstacle(const QString& path) {
+std::optional<FileObstacle> SaveObstacle(const QString& path) {
     QSaveFile file(path);
-    QString obstacle = Open(file);
+    auto obstacle = Open(file);
     file.cancelWriting();
     return obstacle;
 }

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QThread>
 
 namespace Hesperin {
@@ -21,14 +22,16 @@ bool SingleInstance::TellsItsHolder() const {
 
 bool SingleInstance::OtherRuns() {
     constexpr unsigned long aStartIsWriting = 100; // milliseconds
-    if (lock.isLocked() || lock.tryLock(0))
+    if (const QFileInfo place(path); place.exists() && !place.isFile())
         return false;
-    if (lock.error() == QLockFile::LockFailedError && !TellsItsHolder()) {
-        QThread::msleep(aStartIsWriting);
-        if (!TellsItsHolder() && QFile::remove(path) && lock.tryLock(0))
-            return false;
-    }
-    return lock.error() == QLockFile::LockFailedError;
+    if (lock.isLocked() || lock.tryLock(0) || lock.error() != QLockFile::LockFailedError)
+        return false;
+    if (TellsItsHolder())
+        return true;
+    QThread::msleep(aStartIsWriting);
+    if (TellsItsHolder())
+        return true;
+    return QFile::remove(path) && !lock.tryLock(0) && lock.error() == QLockFile::LockFailedError;
 }
 
 } // namespace Hesperin

@@ -11,8 +11,8 @@ public:
     explicit SingleInstance(const QString& folder);
 
     /// True when another running process holds the lock. A lock left by a process that no longer
-    /// runs, or one that can't be read, is taken over; a folder that can't be written counts as
-    /// free, so that the program still starts.
+    /// runs, or one that can't be read, is taken over; where no lock can be had, in a folder that
+    /// can't be written or beside something else of its name, the program starts without one.
     bool OtherRuns();
 
 private:

@@ -1,5 +1,6 @@
 #include "window/window_platform.h"
 
+#include "localisation/obstacle_text.h"
 #include "localisation/string_tables.h"
 #include "platform/save_file.h"
 #include "window/ability_window.h"
@@ -93,13 +94,14 @@ bool WindowPlatform::ShowSaveDialog(FileDialog& dialog) {
     Prepare(shown, dialog, QFileDialog::AcceptSave);
     while (shown.exec() == QDialog::Accepted) {
         const QString path = shown.selectedFiles().value(0);
-        const QString obstacle = SaveObstacle(path);
-        if (obstacle.isEmpty()) {
+        const auto obstacle = SaveObstacle(path);
+        if (!obstacle) {
             dialog.FileName = path;
             return true;
         }
-        ShowMessage(BoxIcon::Critical, program->state.WarningTitle,
-                    Fill(program->state.MsgSaveFailed, {path, obstacle}));
+        ShowMessage(
+            BoxIcon::Critical, program->state.WarningTitle,
+            Fill(program->state.MsgSaveFailed, {path, ObstacleText(program->state, *obstacle)}));
     }
     return false;
 }

@@ -51,53 +51,54 @@ TEST_F(ReadFileTest, GivesTheBytesUpToTheLimit) {
 }
 
 TEST_F(ReadFileTest, TellsWhyAFileCannotBeRead) {
-    using Kind = ReadProblem::Kind;
+    using Kind = FileObstacle::Kind;
     const struct {
         QString path;
         Kind kind;
-        bool hasReason;
     } cases[] = {
-        {Path("nowhere"), Kind::Missing, true},
-        {Path("no/where"), Kind::Missing, true},
-        {folder.path(), Kind::IsFolder, false},
-        {Write("six", "sixsix"), Kind::TooLarge, false},
-        {QFile::exists("/dev/zero") ? "/dev/zero" : Write("seven", "7777777"), Kind::TooLarge, false},
+        {Path("nowhere"), Kind::Missing},
+        {Path("no/where"), Kind::Missing},
+        {Write("six", "sixsix") + "/where", Kind::FolderMissing},
+        {Path(QString(300, 'x')), Kind::NameTooLong},
+        {folder.path(), Kind::IsFolder},
+        {Write("six", "sixsix"), Kind::TooLarge},
+        {QFile::exists("/dev/zero") ? "/dev/zero" : folder.path() + "/.", //
+         QFile::exists("/dev/zero") ? Kind::NotAFile : Kind::IsFolder},
     };
     for (const auto& test : cases) {
         SCOPED_TRACE(test.path.toStdString());
         const auto content = ReadFile(test.path, 5);
-        ASSERT_TRUE(std::holds_alternative<ReadProblem>(content));
-        EXPECT_EQ(static_cast<int>(std::get<ReadProblem>(content).kind), static_cast<int>(test.kind));
-        EXPECT_EQ(!std::get<ReadProblem>(content).reason.isEmpty(), test.hasReason);
+        ASSERT_TRUE(std::holds_alternative<FileObstacle>(content));
+        EXPECT_EQ(static_cast<int>(std::get<FileObstacle>(content).kind), static_cast<int>(test.kind));
     }
 }
 
 using SaveFileTest = Files;
 
 TEST_F(SaveFileTest, WritesTheWholeContentAndNothingElse) {
-    EXPECT_EQ(SaveFile(Path("new"), "first\n"), "");
+    EXPECT_FALSE(SaveFile(Path("new"), "first\n"));
     EXPECT_EQ(ReadAll(Path("new")), "first\n");
-    EXPECT_EQ(SaveFile(Path("new"), "2"), "") << "over a longer old one";
+    EXPECT_FALSE(SaveFile(Path("new"), "2")) << "over a longer old one";
     EXPECT_EQ(ReadAll(Path("new")), "2");
     EXPECT_EQ(Names(), QStringList{"new"}) << "no temporary file stays";
 }
 
 TEST_F(SaveFileTest, LeavesNothingBehindWhereItCannotWrite) {
-    EXPECT_NE(SaveFile(Path("missing/new"), "x"), "");
+    EXPECT_TRUE(SaveFile(Path("missing/new"), "x"));
     EXPECT_EQ(Names(), QStringList());
 
     Write("taken/inside", "old");
-    EXPECT_NE(SaveFile(Path("taken"), "x"), "") << "a folder stands there";
+    EXPECT_TRUE(SaveFile(Path("taken"), "x")) << "a folder stands there";
     EXPECT_EQ(ReadAll(Path("taken/inside")), "old");
     EXPECT_EQ(Names(), QStringList{"taken"});
-    EXPECT_NE(SaveFile({}, "x"), "");
+    EXPECT_TRUE(SaveFile({}, "x"));
 }
 
 TEST_F(SaveFileTest, WritesThroughASymbolicLink) {
     const QString target = Write("target", "old");
     if (!QFile::link(target, Path("link")) || !QFileInfo(Path("link")).isSymLink())
         GTEST_SKIP() << "no symbolic links here";
-    EXPECT_EQ(SaveFile(Path("link"), "new"), "");
+    EXPECT_FALSE(SaveFile(Path("link"), "new"));
     EXPECT_TRUE(QFileInfo(Path("link")).isSymLink());
     EXPECT_EQ(ReadAll(target), "new");
 }
@@ -228,9 +229,11 @@ TEST_F(SingleInstanceTest, TakesOverALockThatCannotBeRead) {
     }
 }
 
-TEST_F(SingleInstanceTest, AFolderThatCannotBeMadeCountsAsFree) {
+TEST_F(SingleInstanceTest, TheProgramStartsWhereNoLockCanBeHad) {
     Write("file", "no folder");
     EXPECT_FALSE(SingleInstance(Path("file/settings")).OtherRuns());
+    Write("e/talmir.lock/inside", "a folder in its place");
+    EXPECT_FALSE(SingleInstance(Path("e")).OtherRuns());
 }
 
 } // namespace
