@@ -18,8 +18,7 @@ struct FuzzProgram {
     Program program{platform};
 };
 
-/// What must hold whenever no handler runs: the ranges of the parameters, the nature rule, the link
-/// between boxes and selectors and between linked boxes.
+/// Ends the run unless what must hold between any two actions does.
 void RequireInvariants(const Program& program);
 
 /// The whole state of the window on one line, to be compared.

@@ -219,24 +219,6 @@ TEST(Run, StateTellsEverything) {
     EXPECT_EQ(outcome.Json(1)["messages"].toArray(), QJsonArray()) << "told once";
 }
 
-TEST(Run, ASaveThatFailsHalfwayKeepsTheOldFile) {
-    if (!QFile::exists("/bin/sh"))
-        GTEST_SKIP() << "no shell to limit the size of files with";
-    const TestProgram files;
-    files.Write("old.xdb", "precious");
-    const QString script = files.Write("script", "set txtNC wyrm\npress cmdCalc\nmenu mnuSave " +
-                                                     files.Path("old.xdb").toUtf8() + "\nshow Tablus.Tab(4)");
-    QProcess process;
-    process.start("/bin/sh", {"-c", "trap '' XFSZ; ulimit -f 1; exec \"$0\" run \"$1\"", TALMIR_CLI, script});
-    const CliOutcome outcome = FinishCli(process);
-    EXPECT_EQ(outcome.code, 1);
-    EXPECT_EQ(ReadAll(files.Path("old.xdb")), "precious");
-    EXPECT_TRUE(outcome.err.startsWith(script + ":3: ")) << outcome.err.toStdString();
-    EXPECT_TRUE(outcome.err.contains("old.xdb"));
-    EXPECT_EQ(outcome.out, files.Path("old.xdb") + "\n");
-    EXPECT_EQ(QDir(files.folder.path()).entryList(QDir::Files), (QStringList{"old.xdb", "script"}));
-}
-
 } // namespace
 
 } // namespace Hesperin
