@@ -3,24 +3,23 @@
 #include "cli/calc_report.h"
 #include "cli/output.h"
 #include "creature_files/file_commands.h"
+#include "engine/languages.h"
 #include "ui/form_load.h"
 
 namespace Hesperin {
 
 namespace {
 
-constexpr std::uint8_t English = 1;
-
 const QString JsonOption = QStringLiteral("json");
 
-void Describe(QCommandLineParser& parser) {
+void DescribeCalc(QCommandLineParser& parser) {
     parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Creature files (.xdb)."),
                                  QStringLiteral("FILE..."));
     parser.addOption(
         {JsonOption, QStringLiteral("One JSON object a line and file instead of a table.")});
 }
 
-int Run(const QCommandLineParser& parser) {
+int Calc(const QCommandLineParser& parser) {
     const QStringList files = parser.positionalArguments();
     const bool json = parser.isSet(JsonOption);
     if (files.isEmpty()) {
@@ -47,6 +46,6 @@ int Run(const QCommandLineParser& parser) {
 
 } // namespace
 
-const Command CalcCommand{"calc", "Shows the balance figures of creature files.", Describe, Run};
+const Command CalcCommand{"calc", "Shows the balance figures of creature files.", DescribeCalc, Calc};
 
 } // namespace Hesperin

@@ -2,6 +2,7 @@
 
 #include "cli/output.h"
 #include "cli/script_actions.h"
+#include "engine/languages.h"
 #include "ui/form_load.h"
 
 #include <QFile>
@@ -12,15 +13,12 @@ namespace Hesperin {
 
 namespace {
 
-constexpr std::uint8_t English = 1;
-constexpr std::uint8_t Russian = 2;
-
 /// Of a script, in bytes: a file that is no script must not fill the memory.
 constexpr qint64 LongestLine = 1 << 20;
 
 const QString LanguageOption = QStringLiteral("lang");
 
-void Describe(QCommandLineParser& parser) {
+void DescribeRun(QCommandLineParser& parser) {
     parser.setApplicationDescription(parser.applicationDescription() +
                                      QStringLiteral(" Message boxes are answered with OK; 'state' "
                                                     "lists them. What can't be done is told as\n"
@@ -83,7 +81,7 @@ bool Play(QFile& script, const QString& name, ScriptStage& stage) {
     return false;
 }
 
-int Run(const QCommandLineParser& parser) {
+int RunScript(const QCommandLineParser& parser) {
     const QStringList names = parser.positionalArguments();
     const auto language = LanguageOf(parser);
     if (names.size() != 1 || !language) {
@@ -108,6 +106,6 @@ int Run(const QCommandLineParser& parser) {
 
 } // namespace
 
-const Command RunCommand{"run", "Plays a script of user actions.", Describe, Run};
+const Command RunCommand{"run", "Plays a script of user actions.", DescribeRun, RunScript};
 
 } // namespace Hesperin

@@ -1,5 +1,6 @@
 #include "localisation/language_file.h"
 
+#include "engine/languages.h"
 #include "platform/save_file.h"
 
 #include <QDir>
@@ -14,8 +15,6 @@ namespace Hesperin {
 namespace {
 
 constexpr std::array<const char*, 5> Codes{"", "EN", "RU", "FR", "DE"};
-constexpr std::uint8_t English = 1;
-constexpr std::uint8_t Russian = 2;
 
 QString FileIn(const QString& folder) {
     return folder + QLatin1String("/lang.ini");

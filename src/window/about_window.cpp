@@ -12,7 +12,7 @@ namespace Hesperin {
 
 namespace {
 
-constexpr QSize ClientSize(Pixels(8385), Pixels(5055));
+constexpr QSize AboutClient(Pixels(8385), Pixels(5055));
 
 /// A picture on black and its mask, light where the ground is to stay.
 struct MaskedPicture {
@@ -28,7 +28,7 @@ constexpr MaskedPicture Pictures[] = {
 
 /// The mask clears the shape in the ground, then the picture is painted into it.
 QImage DrawPictures() {
-    QImage surface(ClientSize, QImage::Format_RGB32);
+    QImage surface(AboutClient, QImage::Format_RGB32);
     surface.fill(Colours::AboutGround);
     QPainter painter(&surface);
     for (const MaskedPicture& picture : Pictures) {
@@ -83,7 +83,7 @@ AboutWindow::AboutWindow(Program& owner, QWidget* mainWindow)
     add("utbAbout", product + state.MsgAppDescription, PixelRect(4080, 1200, 4215, 3735),
         FigureFace(), Qt::AlignLeft | Qt::AlignTop);
     AddButton("cmdQuit", program.form.mnuQuit.Caption(), PixelRect(1080, 4560, 1815, 375));
-    ShowCentred(ClientSize);
+    ShowCentred(AboutClient);
 }
 
 void AboutWindow::paintEvent(QPaintEvent*) {

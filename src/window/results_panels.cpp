@@ -51,22 +51,22 @@ constexpr Group AlternativeMethod[] = {
 // Pixels inside a panel.
 constexpr int FirstGroupTop = 20;
 constexpr int HeadingHeight = 20;
-constexpr int FrameHeight = 41;
+constexpr int FigureHeight = 41;
 constexpr int FrameGap = 2;
-constexpr int GroupPitch = HeadingHeight + 2 * FrameHeight + FrameGap + 5;
-constexpr int Margin = 7;
+constexpr int GroupPitch = HeadingHeight + 2 * FigureHeight + FrameGap + 5;
+constexpr int PanelMargin = 7;
 
 void BuildGroup(MainForm& form, FrameView& panel, const Group& group, int top) {
     new LabelView(form.*group.heading, &panel,
-                  {Margin, top, panel.width() - 2 * Margin, HeadingHeight}, HeadingFace(),
+                  {PanelMargin, top, panel.width() - 2 * PanelMargin, HeadingHeight}, HeadingFace(),
                   group.ink, Qt::AlignCenter);
-    const int width = (panel.width() - 2 * Margin - FrameGap) / 2;
+    const int width = (panel.width() - 2 * PanelMargin - FrameGap) / 2;
     for (int place = 0; place < 4; ++place) {
-        const QRect rect(Margin + (place % 2) * (width + FrameGap),
-                         top + HeadingHeight + (place / 2) * (FrameHeight + FrameGap), width,
-                         FrameHeight);
+        const QRect rect(PanelMargin + (place % 2) * (width + FrameGap),
+                         top + HeadingHeight + (place / 2) * (FigureHeight + FrameGap), width,
+                         FigureHeight);
         auto* frame = new FrameView(form.*group.frames[place], &panel, CaptionFace(), rect);
-        new LabelView(form.*group.figures[place], frame, {4, 15, width - 8, FrameHeight - 17},
+        new LabelView(form.*group.figures[place], frame, {4, 15, width - 8, FigureHeight - 17},
                       FigureFace(), group.ink, Qt::AlignCenter);
     }
 }

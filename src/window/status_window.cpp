@@ -12,7 +12,7 @@ namespace Hesperin {
 
 namespace {
 
-constexpr QSize ClientSize(Pixels(6450), Pixels(4650)); // taller when the words need it
+constexpr QSize SmallestClient(Pixels(6450), Pixels(4650)); // taller when the words need it
 constexpr int TitleHeight = Pixels(960); // a dark ground, on which the white title can be read
 constexpr QRect WordsPlace = PixelRect(120, 4200, 6210, 375);
 
@@ -33,7 +33,7 @@ StatusWindow::StatusWindow(Program& owner, QWidget* mainWindow, const QString& m
     words->setTextInteractionFlags(Qt::TextSelectableByMouse);
     const int height = std::max(WordsPlace.height(), words->heightForWidth(WordsPlace.width()));
     words->resize(WordsPlace.width(), height);
-    ShowCentred(ClientSize + QSize(0, height - WordsPlace.height()));
+    ShowCentred(SmallestClient + QSize(0, height - WordsPlace.height()));
 }
 
 void StatusWindow::paintEvent(QPaintEvent*) {

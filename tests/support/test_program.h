@@ -1,13 +1,12 @@
 #pragma once
 
+#include "engine/languages.h"
 #include "engine/program.h"
 #include "support/scripted_platform.h"
 
 #include <ostream>
 
 namespace Hesperin {
-
-enum Language : std::uint8_t { English = 1, Russian = 2 };
 
 /// A program of its own for one test, in folders of its own, started as far as `start` says.
 struct TestProgram {
