@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QSet>
 #include <QTest>
@@ -53,7 +54,13 @@ private:
         // Not inside the timer's own event: an answer may bring up a further box, to be answered
         // first.
         QMetaObject::invokeMethod(
-            &timer, [this, front] { Handle(front); }, Qt::QueuedConnection);
+            &timer,
+            [this, front, alive = QPointer<QWidget>(front)] {
+                if (alive != nullptr)
+                    Handle(front);
+                inHand.remove(front);
+            },
+            Qt::QueuedConnection);
     }
 
     void Handle(QWidget* front) {
@@ -61,7 +68,6 @@ private:
             AnswerBox(*box);
         else if (auto* dialog = qobject_cast<QFileDialog*>(front))
             AnswerDialog(*dialog);
-        inHand.remove(front);
     }
 
     void AnswerBox(QMessageBox& box) {
