@@ -48,6 +48,17 @@ need_build_tools() {
 build() {
     local preset=$1 options=$2
     shift 2
+    local tree="$top/build/$preset" log="$top/build/$preset.log"
+    configure "$preset" "$options"
+    ninja -C "$tree" "$@" >"$log" 2>&1 || {
+        grep -E 'error|FAILED' "$log" | head -20 >&2
+        die "the build failed; the whole story is in build/$preset.log"
+    }
+}
+
+# configure PRESET OPTIONS: where that hasn't been done with these OPTIONS.
+configure() {
+    local preset=$1 options=${2:-}
     local tree="$top/build/$preset" log="$top/build/$preset.log" done_with="$top/build/$preset.options"
     mkdir -p "$top/build"
     if [ ! -f "$tree/build.ninja" ] || { [ -n "$options" ] && [ "$(cat "$done_with" 2>/dev/null)" != "$options" ]; }; then
@@ -58,8 +69,4 @@ build() {
         }
         echo "$options" >"$done_with"
     fi
-    ninja -C "$tree" "$@" >"$log" 2>&1 || {
-        grep -E 'error|FAILED' "$log" | head -20 >&2
-        die "the build failed; the whole story is in build/$preset.log"
-    }
 }

@@ -202,7 +202,10 @@ std::variant<QString, XmlProblem> NormaliseXml(const QByteArray& bytes, QStringV
         return problem(XmlProblem::Kind::EndsEarly, {});
     if (reader.hasError())
         return notWellFormed(reader.errorString());
-    return normaliser.Take();
+    QString text = normaliser.Take();
+    if (!text.isValidUtf16()) // half a pair, which some encodings can write
+        return notWellFormed(QStringLiteral("Encountered incorrectly encoded content."));
+    return text;
 }
 
 } // namespace Hesperin

@@ -110,9 +110,13 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
 void MainWindow::dropEvent(QDropEvent* event) {
     const QString file = DraggedFile(*event->mimeData());
     event->acceptProposedAction();
-    // After the drop has ended, or the program it came from would wait for the message boxes.
+    OpenSoon(file); // or the program that it came from would wait for the message boxes
+}
+
+void MainWindow::OpenSoon(const QString& file) {
+    fileToOpen = file;
     QMetaObject::invokeMethod(
-        this, [this, file] { OpenCreatureFile(program, file); }, Qt::QueuedConnection);
+        this, [this] { OpenCreatureFile(program, fileToOpen); }, Qt::QueuedConnection);
 }
 
 } // namespace Hesperin

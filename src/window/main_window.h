@@ -20,6 +20,9 @@ public:
     /// The widget that shows the control of that name; null when there is none.
     QWidget* WidgetOf(const Control& control) const;
 
+    /// Opens a creature file when the event of the moment has ended.
+    void OpenSoon(const QString& file);
+
     /// The process is about to end: closing the window asks nothing any more.
     void LetGo() { ending = true; }
 
@@ -37,6 +40,7 @@ private:
     Program& program;
     TabView* tabs = nullptr;
     std::vector<std::unique_ptr<EntryView>> menus;
+    QString fileToOpen;
     bool ending = false;
     bool painted = false;
 };

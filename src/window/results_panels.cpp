@@ -79,17 +79,15 @@ void BuildGroups(MainForm& form, FrameView& panel, std::span<const Group> groups
     }
 }
 
-FrameView& BuildPanel(QWidget& page, Frame& frame, const QRect& place) {
-    return *new FrameView(frame, &page, HeadingFace(), place);
-}
-
 } // namespace
 
 void BuildResultPanels(MainForm& form, QWidget& page, int top) {
     const QRect mainPlace = PixelRect(12360, 480, 2730, 5330).translated(0, -top);
     const QRect alternativePlace = PixelRect(9480, 480, 2730, 3625).translated(0, -top);
-    BuildGroups(form, BuildPanel(page, form.frmMM, mainPlace), MainMethod);
-    BuildGroups(form, BuildPanel(page, form.frmAM, alternativePlace), AlternativeMethod);
+    auto* mainPanel = new FrameView(form.frmMM, &page, HeadingFace(), mainPlace);
+    auto* alternativePanel = new FrameView(form.frmAM, &page, HeadingFace(), alternativePlace);
+    BuildGroups(form, *mainPanel, MainMethod);
+    BuildGroups(form, *alternativePanel, AlternativeMethod);
 }
 
 } // namespace Hesperin

@@ -1,6 +1,5 @@
 #include "window/windowed_program.h"
 
-#include "creature_files/file_commands.h"
 #include "ui/form_load.h"
 #include "window/palette.h"
 
@@ -24,9 +23,7 @@ bool WindowedProgram::Start(const QString& creatureFile) {
     window->move(0, 0);
     window->show();
     if (!creatureFile.isEmpty())
-        QMetaObject::invokeMethod(
-            window.get(), [this, creatureFile] { OpenCreatureFile(program, creatureFile); },
-            Qt::QueuedConnection);
+        window->OpenSoon(creatureFile);
     return true;
 }
 

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QElapsedTimer>
 #include <QThread>
 
 #include <random>
@@ -31,10 +32,13 @@ QList<QByteArray> Results(const TestProgram& files) {
 }
 
 TEST(KilledSave, TheFileIsTheOldOneOrTheWholeNewOne) {
-    constexpr int kills = 150;
+    constexpr int kills = 100;
     const TestProgram files;
     const QString path = files.Write("a.xdb", "old");
+    QElapsedTimer clock;
+    clock.start();
     const QList<QByteArray> whole = Results(files);
+    const auto oneRun = static_cast<unsigned long>(clock.nsecsElapsed() / 2000); // microseconds
     ASSERT_NE(whole[0], whole[1]);
     const QString script = files.Write("script", ScriptThatSaves(path, 20'000));
     std::mt19937 random(7);
@@ -43,7 +47,7 @@ TEST(KilledSave, TheFileIsTheOldOneOrTheWholeNewOne) {
         QProcess process;
         process.start(TALMIR_CLI, {"run", script});
         ASSERT_TRUE(process.waitForStarted());
-        QThread::usleep(5000 + random() % 40'000);
+        QThread::usleep(oneRun / 2 + random() % (2 * oneRun));
         process.kill();
         ASSERT_TRUE(process.waitForFinished());
         ASSERT_EQ(static_cast<int>(process.exitStatus()), static_cast<int>(QProcess::CrashExit))
