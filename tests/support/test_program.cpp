@@ -20,18 +20,42 @@ QString TestProgram::Write(const QString& name, const QByteArray& bytes) const {
     return file.fileName();
 }
 
+void TestProgram::SetText(const QString& control, const QString& text) const {
+    Control* found = form.Find(control);
+    if (auto* field = dynamic_cast<TextField*>(found))
+        field->SetText(text);
+    else
+        dynamic_cast<ComboBox&>(*found).SetText(text);
+}
+
 void TestProgram::FillInCreature() {
-    form.txtNC.SetText("Test");
-    form.txtAttack.SetText("4");
-    form.txtDefence.SetText("3");
-    form.txtMinDam.SetText("2");
-    form.txtMaxDam.SetText("3");
-    form.txtHealth.SetText("10");
+    for (const auto& [field, text] : std::initializer_list<std::pair<const char*, const char*>>{{"txtNC", "Test"},
+                                                                                                {"txtAttack", "4"},
+                                                                                                {"txtDefence", "3"},
+                                                                                                {"txtMinDam", "2"},
+                                                                                                {"txtMaxDam", "3"},
+                                                                                                {"txtHealth", "10"}})
+        SetText(field, text);
+}
+
+QStringList TestProgram::Ticked() const {
+    QStringList names;
+    for (const Control* control : form.Controls())
+        if (const auto* box = dynamic_cast<const CheckBox*>(control); box != nullptr && box->Ticked())
+            names.append(box->Name());
+    return names;
 }
 
 QByteArray ReadAll(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+std::uint32_t Hash(const QString& text) {
+    std::uint32_t hash = 2166136261U;
+    for (const QChar unit : text)
+        hash = (hash ^ unit.unicode()) * 16777619U;
+    return hash;
 }
 
 } // namespace Hesperin
