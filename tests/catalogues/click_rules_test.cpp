@@ -22,15 +22,6 @@ std::map<int, int> ExpectedLinks(const MainForm& form) {
     return links;
 }
 
-/// The names of all ticked boxes.
-QStringList Ticked(const MainForm& form) {
-    QStringList names;
-    for (const Control* control : form.Controls())
-        if (const auto* box = dynamic_cast<const CheckBox*>(control); box != nullptr && box->Ticked())
-            names.append(box->Name());
-    return names;
-}
-
 QString AbilityName(int i) { return QString("Abilities(%1)").arg(i); }
 QString SpecabilityName(int j) { return QString("Specabilities(%1)").arg(j); }
 
@@ -47,13 +38,13 @@ TEST(Links, EveryAbilityTicksItsPartnerAndMovesCounterAndFlag) {
             expected.append(SpecabilityName(links.at(i)));
         test.state.SpecabilityFlag = FlagFalse;
         test.form.Abilities(i).SetTicked(true);
-        EXPECT_EQ(Ticked(test.form), expected);
+        EXPECT_EQ(test.Ticked(), expected);
         EXPECT_EQ(test.state.SpellPoints1Count, steps);
         EXPECT_EQ(test.state.SpecabilityFlag, steps > 0 ? -1 : 0);
         EXPECT_EQ(test.form.saz(linked ? links.at(i) : 1).Enabled(), linked);
         test.state.SpecabilityFlag = FlagTrue;
         test.form.Abilities(i).SetTicked(false);
-        EXPECT_EQ(Ticked(test.form), QStringList());
+        EXPECT_EQ(test.Ticked(), QStringList());
         EXPECT_EQ(test.state.SpellPoints1Count, 0);
         EXPECT_EQ(test.state.SpecabilityFlag, steps > 0 ? 0 : -1);
     }
@@ -72,7 +63,7 @@ TEST(Links, EverySpecialAbilityTicksItsPartnerAndWritesTheFlag) {
             expected.append(AbilityName(abilities.at(j)));
         expected.append(SpecabilityName(j));
         test.form.Specabilities(j).SetTicked(true);
-        EXPECT_EQ(Ticked(test.form), expected);
+        EXPECT_EQ(test.Ticked(), expected);
         EXPECT_EQ(test.state.SpellPoints1Count, linked ? 2 : (j == 3 || j == 49 ? 1 : 0));
         EXPECT_EQ(test.state.SpecabilityFlag, -1);
         EXPECT_TRUE(test.form.saz(j).Enabled());
@@ -80,7 +71,7 @@ TEST(Links, EverySpecialAbilityTicksItsPartnerAndWritesTheFlag) {
 
         test.form.saz(j).ClickOption(3);
         test.form.Specabilities(j).SetTicked(false);
-        EXPECT_EQ(Ticked(test.form), QStringList());
+        EXPECT_EQ(test.Ticked(), QStringList());
         EXPECT_EQ(test.state.SpellPoints1Count, 0);
         EXPECT_EQ(test.state.SpecabilityFlag, 0);
         EXPECT_FALSE(test.form.saz(j).Enabled());
@@ -112,7 +103,7 @@ TEST(Links, ALanguageChangeZeroesTheCounterAndKeepsTheTicks) {
     mnuRussian_Click(test.program);
     EXPECT_EQ(test.state.SpellPoints1Count, 0);
     EXPECT_EQ(test.state.SpecabilityFlag, 0);
-    EXPECT_EQ(Ticked(test.form), (QStringList{AbilityName(17), SpecabilityName(4)}));
+    EXPECT_EQ(test.Ticked(), (QStringList{AbilityName(17), SpecabilityName(4)}));
     EXPECT_EQ(test.form.Abilities(17).ToolTip(), "Value for this ability is 1.1");
     EXPECT_EQ(test.state.AbilityCurrentValue[17], 1.1F);
     test.form.Specabilities(4).SetTicked(false);
@@ -139,80 +130,47 @@ TEST(Abilities, ASecondNatureIsTakenBackWithoutAWord) {
     TestProgram test;
     for (const int first : natures) {
         test.form.Abilities(first).SetTicked(true);
-        for (const int second : natures) {
-            if (second == first)
-                continue;
-            test.form.Abilities(second).SetTicked(true);
-            EXPECT_EQ(Ticked(test.form), QStringList{AbilityName(first)}) << second;
-            EXPECT_EQ(test.form.Abilities(second).ToolTip(), "1");
-            EXPECT_EQ(test.state.AbilityCurrentValue[static_cast<std::size_t>(second)], 1.0F);
-        }
+        for (const int second : natures)
+            if (second != first) {
+                test.form.Abilities(second).SetTicked(true);
+                EXPECT_EQ(test.Ticked(), QStringList{AbilityName(first)}) << second;
+                EXPECT_EQ(test.state.AbilityCurrentValue[static_cast<std::size_t>(second)], 1.0F);
+            }
         test.form.Abilities(first).SetTicked(false);
-        EXPECT_EQ(Ticked(test.form), QStringList());
     }
     EXPECT_TRUE(test.platform.boxes.empty());
 }
 
-TEST(Caster, OpensTheSpellsPageAndTheManaField) {
-    TestProgram test;
-    const auto expectOpen = [&](bool open) {
-        EXPECT_EQ(test.form.Tablus.Tab(2).Enabled(), open);
-        EXPECT_EQ(test.form.Tablus.Tab(2).Visible(), open);
-        EXPECT_EQ(test.form.cmdRAS.Enabled(), open);
-        EXPECT_EQ(test.form.FrameMana.Enabled(), open);
-        EXPECT_EQ(test.form.txtMana.Usable(), open);
-        EXPECT_EQ(test.form.Spells(7).Usable(), open);
+TEST(Abilities, CasterAndShooterOpenTheirFieldsAndCloseThemEmpty) {
+    const struct {
+        int ability;
+        TextField MainForm::*field;
+        QStringList opened;
+    } cases[] = {
+        {29, &MainForm::txtMana, {"Tablus.Tab(2)", "cmdRAS", "FrameMana", "txtMana"}},
+        {147, &MainForm::txtShots, {"ComboRange", "FrameRange", "FrameShots", "txtShots"}},
     };
-    expectOpen(false);
-    test.form.Abilities(29).SetTicked(true);
-    expectOpen(true);
-    EXPECT_EQ(test.platform.focus, QStringList{"txtMana"});
-    EXPECT_EQ(test.form.txtMana.Text(), "0");
-
-    test.form.Spells(7).SetTicked(true);
-    EXPECT_TRUE(test.form.soq(7).Usable());
-    test.form.soq(7).ClickOption(2);
-    test.form.txtMana.SetText("25");
-    test.form.Abilities(29).SetTicked(false);
-    expectOpen(false);
-    EXPECT_EQ(test.form.txtMana.Text(), "");
-    EXPECT_TRUE(test.form.Spells(7).Ticked());
-    EXPECT_EQ(test.form.soq(7).Value(), 2);
-    EXPECT_EQ(test.platform.focus.size(), 1);
-    test.form.Abilities(29).SetTicked(true);
-    expectOpen(true);
-    EXPECT_EQ(test.form.txtMana.Text(), "");
-
-    test.form.Spells(7).SetTicked(false);
-    EXPECT_FALSE(test.form.soq(7).Enabled());
-    test.form.Spells(7).SetTicked(true);
-    EXPECT_EQ(test.form.soq(7).Value(), 0);
-    EXPECT_EQ(test.form.soq(7).SelectedOption(), 0);
-    EXPECT_EQ(test.state.SpellPoints1Count, 0);
-    EXPECT_EQ(test.state.SpecabilityFlag, 0);
-}
-
-TEST(Shooter, OpensRangeAndShotsAndFallsBackToTheFirstRange) {
-    TestProgram test;
-    const auto expectOpen = [&](bool open) {
-        EXPECT_EQ(test.form.ComboRange.Usable(), open);
-        EXPECT_EQ(test.form.FrameRange.Enabled(), open);
-        EXPECT_EQ(test.form.txtShots.Usable(), open);
-        EXPECT_EQ(test.form.FrameShots.Enabled(), open);
-    };
-    expectOpen(false);
-    test.form.Abilities(147).SetTicked(true);
-    expectOpen(true);
-    EXPECT_EQ(test.platform.focus, QStringList{"txtShots"});
-    test.form.ComboRange.Select(2);
-    EXPECT_EQ(test.form.ComboDiapazon.Text(), "-2");
-    test.form.txtShots.SetText("12");
-    test.form.Abilities(147).SetTicked(false);
-    expectOpen(false);
-    EXPECT_EQ(test.form.ComboRange.Text(), "None");
-    EXPECT_EQ(test.form.ComboDiapazon.Text(), "0");
-    EXPECT_EQ(test.form.txtShots.Text(), "");
-    EXPECT_FALSE(test.form.txtMana.Usable());
+    for (const auto& row : cases) {
+        TestProgram test;
+        TextField& field = test.form.*row.field;
+        const auto expectOpen = [&](bool open) {
+            for (const QString& name : row.opened)
+                EXPECT_EQ(test.form.Find(name)->Enabled(), open) << name.toStdString();
+            EXPECT_EQ(field.Usable(), open);
+            EXPECT_EQ(test.form.Tablus.Tab(2).Visible(), open && row.ability == 29);
+        };
+        expectOpen(false);
+        for (const char* text : {"0", ""}) { // "0" at the start only
+            test.form.Abilities(row.ability).SetTicked(true);
+            expectOpen(true);
+            EXPECT_EQ(field.Text(), text);
+            field.SetText("25");
+            test.form.Abilities(row.ability).SetTicked(false);
+            expectOpen(false);
+            EXPECT_EQ(field.Text(), "");
+        }
+        EXPECT_EQ(test.platform.focus, (QStringList{field.Name(), field.Name()}));
+    }
 }
 
 } // namespace
