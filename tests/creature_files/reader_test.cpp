@@ -38,7 +38,7 @@ TEST(Reader, FillsEveryFieldFromItsOwnElement) {
         {"txtExp", "61"},         {"txtPower", "905"},       {"txtGrowthf", "7"},         {"txtWoodf", "1"},
         {"txtOref", "2"},         {"txtMercuryf", "3"},      {"txtCrystalf", "4"},        {"txtSulfurf", "5"},
         {"txtGemf", "6"},         {"txtGoldf", "420"},       {"txtNC", "Bog_wyrm"},       {"txtIDC", ""},
-        {"txtMana", ""},          {"txtShots", "0"},         {"ComboSpeed", "6"},
+        {"txtMana", ""},          {"txtShots", "0"},
     };
     for (const auto& field : cases)
         EXPECT_EQ(test.Shown(field.control), field.shown) << field.control;
@@ -53,10 +53,9 @@ TEST(Reader, FillsEveryFieldFromItsOwnElement) {
     EXPECT_EQ(test.state.UpgradeFactor, 1.6F);
     EXPECT_EQ(test.platform.focus, QStringList{"cmdCalc"});
     EXPECT_TRUE(test.form.mnuSave.Enabled());
-    EXPECT_FALSE(test.form.Tablus.Tab(2).On());
     EXPECT_TRUE(test.form.Tablus.Tab(4).On());
     EXPECT_EQ(test.form.Tablus.Tab(4).Caption(), test.Path("creature.xdb"));
-    EXPECT_FALSE(test.form.txtMana.Enabled() || test.form.txtShots.Enabled() || test.form.FrameMana.Enabled());
+    EXPECT_FALSE(test.form.txtMana.Enabled() || test.form.txtShots.Enabled() || test.form.Tablus.Tab(2).On());
 }
 
 TEST(Reader, ReadsOddContentsOfAnElement) {
@@ -67,42 +66,28 @@ TEST(Reader, ReadsOddContentsOfAnElement) {
         const char* shown;
     } cases[] = {
         {"Speed", "5.5", "ComboSpeed", "6"},
-        {"Speed", "4.5", "ComboSpeed", "4"},
-        {"Speed", "7 fast", "ComboSpeed", "7"},
         {"Speed", "12", "ComboSpeed", "9"}, // Calculate limits it
         {"Exp", "many", "txtExp", "0"},
-        {"Exp", "", "txtExp", "0"},
         {"Exp", "-7", "txtExp", "-7"},
         {"Gold", "99999", "txtGoldf", "32767"},
         {"Power", "-99999", "txtPower", "-32768"},
         {"Flying", "true", "Abilities(66)", "1"},
-        {"Flying", "True", "Abilities(66)", "0"},
         {"Flying", "<!-- -->true", "Abilities(66)", "1"},
         {"CombatSize", "2", "Abilities(91)", "1"},
         {"CombatSize", "3", "Abilities(91)", "0"},
-        {"CombatSize", "0", "Abilities(91)", "0"},
         {"Upgrade", "false", "ComboUpgrade", "False"},
-        {"Upgrade", "TRUE", "ComboUpgrade", "False"},
         {"Range", "-12", "ComboDiapazon", "-1"},
         {"Range", "-2", "ComboRange", "Half"},
         {"Range", "5", "ComboDiapazon", "0"},
-        {"Range", "05", "ComboDiapazon", "0"},
         {"TimeToCommand", "100", "ComboTTC", "10"},
-        {"TimeToCommand", "12", "ComboTTC", "10"},
-        {"CreatureTown", "TOWN_INFERNO", "ComboFaction", "Inferno"},
         {"CreatureTown", "town_inferno", "ComboAlias", "INFERNO"},
         {"CreatureTown", "TOWN_ATLANTIS", "ComboAlias", "NO_TYPE"},
-        {"CreatureTown", "TOWN_ATLANTIS", "ComboFaction", "Unknown"},
         {"CreatureTown", "ACADEMY", "ComboAlias", "NO_TYPE"},
         {"First", "ELEMENT_EARTH", "ComboFME", "Earth"},
         {"First", "ELEMENT_AETHER", "ComboFME", "None"},
         {"Second", "ELEMENT_AIR", "ComboSME", "None"}, // the first one has it already
-        {"SpellPoints", "8", "txtMana", "8"},
-        {"SpellPoints", "8", "Abilities(29)", "1"},
         {"SpellPoints", "-8", "Abilities(29)", "0"},
         {"SpellPoints1", "5", "txtMana", ""},
-        {"Shots", "3", "txtShots", "3"},
-        {"Shots", "3", "Abilities(147)", "1"},
         {"Shots", "0.5", "Abilities(147)", "0"},
     };
     for (const auto& odd : cases) {
@@ -111,13 +96,12 @@ TEST(Reader, ReadsOddContentsOfAnElement) {
     }
 }
 
-TEST(Reader, ManaAndShotsOpenTheirFieldsAndTheSpellsPage) {
+TEST(Reader, ManaAndShotsTickTheirAbilitiesAndOpenTheirFields) {
     const Opened test(CreatureXml().Set("SpellPoints", "8").Set("Shots", "3"));
-    for (const Control* control :
-         std::initializer_list<const Control*>{&test.form.txtMana, &test.form.FrameMana, &test.form.txtShots,
-                                               &test.form.FrameShots, &test.form.ComboRange, &test.form.cmdRAS})
-        EXPECT_TRUE(control->Enabled()) << control->Name().toStdString();
-    EXPECT_TRUE(test.form.Tablus.Tab(2).On());
+    EXPECT_EQ(test.Ticked("Abilities"), (QStringList{"CASTER", "FLESH_AND_BLOOD", "SHOOTER"}));
+    EXPECT_EQ(test.form.txtMana.Text(), "8");
+    EXPECT_EQ(test.form.txtShots.Text(), "3");
+    EXPECT_TRUE(test.form.txtMana.Usable() && test.form.txtShots.Usable() && test.form.Tablus.Tab(2).On());
     EXPECT_EQ(test.form.ComboDiapazon.Text(), "-1");
     EXPECT_EQ(test.platform.focus.last(), "cmdCalc");
     EXPECT_EQ(test.platform.focus.count("txtMana"), 2) << "once by the tick, once at the end";
@@ -128,8 +112,6 @@ TEST(Reader, AbilityCasterWithoutManaOpensTheFieldForCalculateToCorrect) {
     EXPECT_EQ(test.Ticked("Abilities"),
               (QStringList{"CASTER", "FLESH_AND_BLOOD", "FLYER", "LARGE_CREATURE", "SHOOTER"}));
     EXPECT_TRUE(test.form.Tablus.Tab(2).On());
-    EXPECT_EQ(test.form.txtMana.Text(), "1");
-    EXPECT_EQ(test.form.txtShots.Text(), "1");
     EXPECT_EQ(test.platform.Texts().mid(0, 2),
               (QStringList{"Value for 'Mana' out of the range!", "Value for 'Shots' out of the range!"}));
 }
@@ -173,23 +155,16 @@ TEST(Reader, OneTokenInsideAnotherTicksBoth) {
     }
 }
 
-TEST(Reader, InfersTheNature) {
-    const struct {
-        QStringList inFile;
-        QStringList ticked;
-    } cases[] = {
-        {{}, {"FLESH_AND_BLOOD"}},
-        {{"UNDEAD"}, {"UNDEAD"}},
-        {{"MECHANICAL"}, {"MECHANICAL"}},
-        {{"ELEMENTAL"}, {"ELEMENTAL"}},
-        {{"UNDEAD", "ELEMENTAL"}, {"ELEMENTAL"}}, // catalogue order decides, not the order in the file
-        {{"UNDEAD", "FLESH_AND_BLOOD"}, {"FLESH_AND_BLOOD"}},
-    };
-    for (const auto& test : cases) {
+TEST(Reader, TheNatureThatStandsFirstInTheCatalogueWins) {
+    for (const auto& [inFile, ticked] :
+         std::initializer_list<std::pair<QStringList, QString>>{{{"UNDEAD"}, "UNDEAD"},
+                                                                {{"MECHANICAL"}, "MECHANICAL"},
+                                                                {{"UNDEAD", "ELEMENTAL"}, "ELEMENTAL"},
+                                                                {{"UNDEAD", "FLESH_AND_BLOOD"}, "FLESH_AND_BLOOD"}}) {
         CreatureXml document;
-        for (const QString& nature : test.inFile)
+        for (const QString& nature : inFile)
             document.Ability(nature);
-        EXPECT_EQ(Opened(document).Ticked("Abilities"), test.ticked) << test.inFile.join(' ').toStdString();
+        EXPECT_EQ(Opened(document).Ticked("Abilities"), QStringList{ticked});
     }
 }
 
@@ -200,17 +175,10 @@ TEST(Reader, MasteryCountsOnlyInsideItsWindow) {
         QString levels; // read back for the masteries 0 to 4
     } cases[] = {
         {75, "SLOW", "01234"},
-        {40, "HOLY_WORD", "01234"},
         {89, "WARCRY_SHOUT_OF_MANY", "01230"},       // 26 with its prefix
         {68, "RUNE_OF_DRAGONFORM", "01230"},         // 24
         {51, "MASS_DEFLECT_ARROWS", "01230"},        // 25
-        {49, "MASS_BLOODLUST", "01234"},             // 20
-        {82, "UBER_CHAIN_LIGHTNING", "01230"},       // 26
-        {64, "REGENERATION", "01234"},               // 18
-        {71, "RUNE_OF_EXORCISM", "01234"},           // 22
         {74, "RUNE_OF_STUNNING", "01234"},           // 22
-        {27, "EMPOWERED_ICE_BOLT", "01230"},         // 24
-        {22, "EMPOWERED_ARMAGEDDON", "01230"},       // 26
         {33, "EMPOWERED_STONE_SPIKES", "01030"},     // 28
         {32, "EMPOWERED_METEOR_SHOWER", "01030"},    // 29
         {29, "EMPOWERED_LIGHTNING_BOLT", "01000"},   // 30
