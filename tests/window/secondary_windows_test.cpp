@@ -12,21 +12,14 @@ namespace Hesperin {
 namespace {
 
 /// Writes the texts of BASH in both languages.
-void WriteTexts(const QString& folder, const QString& description) {
-    const struct {
-        const char* language;
-        const char* name;
-    } texts[] = {{"EN", "Bash"}, {"RU", "Оглушение"}};
-    for (const auto& text : texts) {
-        const QDir place(folder + '/' + text.language + "/Text/Game/Creatures/Creature_abilities/Bash");
+void WriteTexts(const QString& folder, const QByteArray& description) {
+    for (const auto& [language, name] :
+         std::initializer_list<std::pair<const char*, const char*>>{{"EN", "Bash"}, {"RU", "Оглушение"}}) {
+        const QDir place(folder + '/' + language + "/Text/Game/Creatures/Creature_abilities/Bash");
         place.mkpath(".");
-        const auto write = [&](const char* name, const QString& content) {
-            QFile file(place.filePath(name));
-            if (!file.open(QIODevice::WriteOnly) || file.write(content.toUtf8()) < 0)
+        for (const auto& [file, text] : {std::pair("Bash_name.txt", QByteArray(name)), {"Bash_desc.txt", description}})
+            if (QFile out(place.filePath(file)); !out.open(QIODevice::WriteOnly) || out.write(text) < 0)
                 qFatal("a test could not write its texts");
-        };
-        write("Bash_name.txt", text.name);
-        write("Bash_desc.txt", description);
     }
 }
 
@@ -43,44 +36,35 @@ void RightClick(const WindowInUse& use, const QString& box) {
     WindowInUse::Click(use.Find(box), {8, 8}, Qt::RightButton);
 }
 
-struct Closing {
-    const char* how;
-    std::function<void(QDialog&)> act;
-};
-
 QPushButton& ButtonOf(QDialog& dialog) { return *dialog.findChild<QPushButton*>(); }
 
-const Closing Closings[] = {
-    {"button", [](QDialog& dialog) { WindowInUse::Click(ButtonOf(dialog)); }},
-    {"Return", [](QDialog& dialog) { QTest::keyClick(dialog.windowHandle(), Qt::Key_Return); }},
-    {"Escape", [](QDialog& dialog) { QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape); }},
-    {"window manager", [](QDialog& dialog) { dialog.windowHandle()->close(); }},
-};
-
 TEST(SecondaryWindows, LockTheMainWindowUntilTheyClose) {
-    const struct {
-        const char* window;
-        std::function<void(WindowInUse&)> open;
-    } windows[] = {
+    const std::pair<const char*, void (*)(WindowInUse&)> windows[] = {
         {"frmAbility", [](WindowInUse& use) { RightClick(use, "Abilities(16)"); }},
         {"frmAbout",
          [](WindowInUse& use) {
-             use.Pick({"mnuInfo", "mnuAbout"});
+             use.Pick({QString("mnuInfo"), "mnuAbout"});
          }},
         {"frmStatus",
          [](WindowInUse& use) {
-             use.Pick({"mnuOptions", "mnuCalculator"});
+             use.Pick({QString("mnuOptions"), "mnuCalculator"});
          }},
+    };
+    const std::pair<const char*, void (*)(QDialog&)> closings[] = {
+        {"button", [](QDialog& dialog) { WindowInUse::Click(ButtonOf(dialog)); }},
+        {"Return", [](QDialog& dialog) { QTest::keyClick(dialog.windowHandle(), Qt::Key_Return); }},
+        {"Escape", [](QDialog& dialog) { QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape); }},
+        {"window manager", [](QDialog& dialog) { dialog.windowHandle()->close(); }},
     };
     WindowInUse use;
     use.ShowPage(1);
-    for (const auto& test : windows)
-        for (const Closing& closing : Closings) {
-            SCOPED_TRACE(std::string(test.window) + ' ' + closing.how);
-            test.open(use);
+    for (const auto& [name, open] : windows)
+        for (const auto& [how, close] : closings) {
+            SCOPED_TRACE(testing::Message() << name << ' ' << how);
+            open(use);
             const QPointer<QDialog> dialog = Second(use);
             ASSERT_NE(dialog, nullptr);
-            EXPECT_EQ(dialog->objectName(), test.window);
+            EXPECT_EQ(dialog->objectName(), name);
             ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
             EXPECT_FALSE(use.form.frmMain.Enabled());
             use.ShowPage(1);
@@ -91,13 +75,13 @@ TEST(SecondaryWindows, LockTheMainWindowUntilTheyClose) {
             EXPECT_TRUE(use.answers.boxes.empty()) << "a command ran behind the window";
 
             ASSERT_FALSE(dialog.isNull());
-            closing.act(*dialog);
+            close(*dialog);
             EXPECT_TRUE(use.form.frmMain.Enabled());
             EXPECT_TRUE(QTest::qWaitFor([&] { return dialog.isNull(); })) << "not unloaded";
-            use.ShowPage(1);
-            use.ClickBox("Abilities(66)");
-            EXPECT_TRUE(use.Find<QCheckBox>("Abilities(66)").isChecked());
-            use.ClickBox("Abilities(66)");
+            for (const bool ticked : {true, false}) {
+                use.ClickBox("Abilities(66)");
+                EXPECT_EQ(use.Find<QCheckBox>("Abilities(66)").isChecked(), ticked);
+            }
         }
 }
 
@@ -136,7 +120,7 @@ TEST(AbilityWindow, OnlyAbilityBoxesHaveOne) {
 }
 
 TEST(AbilityWindow, GrowsWithItsTextUpToTheScreen) {
-    const auto open = [](const QString& description) {
+    const auto open = [](const QByteArray& description) {
         const WindowInUse use(English, [&](const QString& folder) { WriteTexts(folder, description); });
         RightClick(use, "Abilities(16)");
         QDialog* dialog = Second(use);
@@ -146,16 +130,14 @@ TEST(AbilityWindow, GrowsWithItsTextUpToTheScreen) {
         EXPECT_LE(dialog->height(), dialog->screen()->availableGeometry().height());
         return std::pair(dialog->height(), bar->maximum() > 0);
     };
-    const QString line = "Strikes.\n";
+    const QByteArray line = "Strikes.\n";
     const auto [one, oneScrolls] = open("Strikes.");
-    const auto [three, threeScrolls] = open(line.repeated(2) + "Strikes.");
-    EXPECT_GE(one, (2550 - 345) / 15);
-    EXPECT_GE(three - one, 2 * 600 / 15);
     const auto [nine, nineScrolls] = open(line.repeated(8) + "Strikes.");
+    EXPECT_GE(one, (2550 - 345) / 15);
     EXPECT_GE(nine - one, 8 * 600 / 15);
-    EXPECT_FALSE(oneScrolls || threeScrolls || nineScrolls);
+    EXPECT_FALSE(oneScrolls || nineScrolls);
     const auto [longest, longestScrolls] = open(line.repeated(200));
-    EXPECT_GT(longest, three);
+    EXPECT_GT(longest, nine);
     EXPECT_TRUE(longestScrolls) << "the rest can't be read";
 }
 
@@ -199,15 +181,11 @@ TEST(StatusWindow, ShowsTheWholeOfALongText) {
         EXPECT_GE(words.height(), words.heightForWidth(words.width()));
         EXPECT_TRUE(dialog->rect().contains(words.geometry()));
         EXPECT_FALSE(words.geometry().intersects(ButtonOf(*dialog).geometry()));
-        EXPECT_EQ(dialog->windowTitle(), "Average values");
-        const QImage picture = dialog->grab().toImage();
-        bool red = false, white = false;
-        for (int x = 10; x < 120; ++x)
-            for (int y = 10; y < 60; ++y) {
-                red = red || picture.pixelColor(x, y) == QColor(255, 0, 0);
-                white = white || picture.pixelColor(x, y) == QColor(255, 255, 255);
-            }
-        EXPECT_TRUE(red && white) << "the title and its shadow";
+        QSet<QRgb> colours;
+        const QImage title = dialog->grab({10, 10, 110, 50}).toImage();
+        for (int pixel = 0; pixel < title.width() * title.height(); ++pixel)
+            colours.insert(title.pixel(pixel % title.width(), pixel / title.width()));
+        EXPECT_TRUE(colours.contains(0xFFFF0000) && colours.contains(0xFFFFFFFF)) << "the title and its shadow";
         WindowInUse::Click(ButtonOf(*dialog));
     }
 }
