@@ -115,31 +115,6 @@ TEST(FindToken, LeavesThePositionAndDoesNotCountTheVeryStart) {
     EXPECT_EQ(state.TokenPosition, 32767 - 11);
 }
 
-TEST(Mastery, IsReadFromTheWordBehindThePrefix) {
-    const struct {
-        const char* text;
-        const char* token;
-        std::int16_t level;
-    } cases[] = {
-        {"x MASTERY_NONE", "MASTERY_NONE", 0},
-        {"x MASTERY_EXPERT", "MASTERY_EXPERT", 3},
-        {"x MASTERY_EXTRA_EXPERT", "MASTERY_EXTRA_EXPERT", 4},
-        {"MASTERY_EXPERT", "MASTERY_EXPERT", 3},
-        {"mastery_EXPERT", "MASTERY_EXPERT", 3},
-        {"x MASTERY_expert", "MASTERY_EXPERT", -1},
-        {"x MASTERY_EXPER", "MASTERY_EXPERT", -1},
-        {"x MASTERY_EXTRA_EXPERT", "MASTERY_EXPERT", -1},
-        {"SPELL_ARMAGEDDON</Spell>", "MASTERY_EXPERT", -1},
-        {"", "MASTERY_NONE", -1},
-    };
-    for (const auto& test : cases) {
-        SCOPED_TRACE(test.text);
-        const Buffer text(test.text);
-        EXPECT_EQ(MasteryInSpellWindow(text.buffer, QString(test.token)), test.level);
-        EXPECT_EQ(MasteryInSpecabilityWindow(text.buffer, QString(test.token)), test.level);
-    }
-}
-
 TEST(SharedMark, IsTheOneBasedPlaceOfTheExactMark) {
     EXPECT_EQ(SharedMarkText(Buffer("Drake.(AdvMapMonsterShared).xdb").buffer), "6");
     EXPECT_EQ(SharedMarkText(Buffer("Drake.(advmapmonstershared)").buffer), "0");

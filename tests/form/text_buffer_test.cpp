@@ -69,6 +69,18 @@ TEST(TextBuffer, FindsWhatANaiveSearchFinds) {
     }
 }
 
+TEST(TextBuffer, FindsNothingThatReachesPastTheEndsOfALongText) {
+    ControlRegistry registry;
+    TextBuffer buffer(registry, "buffer");
+    const QString text = "<Head>" + QString(400, u'.') + "</Жя>!";
+    buffer.SetText(text);
+    EXPECT_EQ(buffer.LooseSearch(u"</жЯ>!"), 406);
+    EXPECT_EQ(buffer.LooseSearch(u"</Жя>!!"), -1);
+    EXPECT_EQ(buffer.LooseSearch(u"!<Head>"), -1);
+    EXPECT_EQ(buffer.ExactSearch(text), 1);
+    EXPECT_EQ(buffer.ExactSearch(text + u'.'), 0);
+}
+
 TEST(TextBuffer, ANewTextLeavesNothingOfTheOldOneBehind) {
     ControlRegistry registry;
     TextBuffer buffer(registry, "buffer");

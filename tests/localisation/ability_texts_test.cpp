@@ -11,11 +11,9 @@ namespace Hesperin {
 
 namespace {
 
-/// Writes a file of the text tree; `name` begins with the language's folder.
+/// Writes a file of the text tree; `name` begins with the ability's folder.
 void WriteText(const TestProgram& test, const QString& language, const QString& name, const QByteArray& bytes) {
-    const QString path = language + "/Text/Game/Creatures/Creature_abilities/" + name + ".txt";
-    QDir(test.folder.path()).mkpath(QFileInfo(path).path());
-    test.Write(path, bytes);
+    test.Write(language + "/Text/Game/Creatures/Creature_abilities/" + name + ".txt", bytes);
 }
 
 TEST(AbilityTexts, LieUnderTheGamesFileNames) {
@@ -120,9 +118,7 @@ TEST(AbilityTexts, ANameLosesOneLineEndAndADescriptionNone) {
 
 TEST(AbilityTexts, AreFoundInOtherLetterCase) {
     TestProgram test;
-    const QString path = "en/TEXT/game/Creatures/creature_Abilities/BASH/bash_NAME.TXT";
-    QDir(test.folder.path()).mkpath(QFileInfo(path).path());
-    test.Write(path, "Bash");
+    test.Write("en/TEXT/game/Creatures/creature_Abilities/BASH/bash_NAME.TXT", "Bash");
     LoadAbilityTexts(test.program);
     EXPECT_EQ(test.form.utbN(16).Text(), "Bash");
     WriteText(test, "EN", "Bash/Bash_name", "exact"); // the exact spelling is preferred

@@ -1,8 +1,9 @@
 #include "support/test_program.h"
 
+#include "form/result_labels.h"
 #include "ui/form_load.h"
 
-#include <QFile>
+#include <QDir>
 
 namespace Hesperin {
 
@@ -14,10 +15,8 @@ TestProgram::TestProgram(std::uint8_t language, Start start) {
 }
 
 QString TestProgram::Write(const QString& name, const QByteArray& bytes) const {
-    QFile file(Path(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("a test could not write its file");
-    return file.fileName();
+    WriteFile(Path(name), bytes);
+    return Path(name);
 }
 
 void TestProgram::SetText(const QString& control, const QString& text) const {
@@ -38,12 +37,25 @@ void TestProgram::FillInCreature() {
         SetText(field, text);
 }
 
+QString TestProgram::Results() const {
+    QStringList captions;
+    for (const auto label : ResultLabels)
+        captions.append((form.*label).Caption());
+    return captions.join(' ');
+}
+
 QStringList TestProgram::Ticked() const {
     QStringList names;
     for (const Control* control : form.Controls())
         if (const auto* box = dynamic_cast<const CheckBox*>(control); box != nullptr && box->Ticked())
             names.append(box->Name());
     return names;
+}
+
+void WriteFile(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    if (!QDir().mkpath(QFileInfo(path).path()) || !file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("a test could not write its file");
 }
 
 QByteArray ReadAll(const QString& path) {

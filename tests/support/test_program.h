@@ -33,6 +33,9 @@ struct TestProgram {
     /// Fills in a valid creature: attack 4, defence 3, damage 2 to 3, health 10, name "Test".
     void FillInCreature();
 
+    /// What the labels of the results show.
+    QString Results() const;
+
     /// Names of all ticked boxes.
     QStringList Ticked() const;
 
@@ -44,6 +47,9 @@ struct TestProgram {
         return platform.Texts();
     }
 };
+
+/// Writes a file, in folders made for it.
+void WriteFile(const QString& path, const QByteArray& bytes);
 
 /// The content of a file, empty when it can't be read.
 QByteArray ReadAll(const QString& path);

@@ -132,18 +132,6 @@ TEST(Colours, LoseNoTextOnItsGround) {
     EXPECT_GT(widgets, 500);
 }
 
-TEST(Colours, TellTheKindsApart) {
-    const WindowInUse use;
-    for (const auto& [name, ink] :
-         std::initializer_list<std::pair<const char*, QColor>>{{"txtAttack", {0, 0, 255}},
-                                                               {"txtPower", {192, 0, 192}},
-                                                               {"txtNC", {0, 64, 0}},
-                                                               {"lblPowerS", {255, 128, 0}}}) {
-        const QWidget& widget = use.Find(name);
-        EXPECT_EQ(widget.palette().color(widget.foregroundRole()).rgb(), ink.rgb()) << name;
-    }
-}
-
 } // namespace
 
 } // namespace Hesperin

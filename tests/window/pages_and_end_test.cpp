@@ -106,11 +106,9 @@ int ExitCodeAfter(const std::function<void()>& act) {
 }
 
 TEST(Quit, AsksAndEndsOnlyAfterAYes) {
-    const std::pair<const char*, void (*)(const WindowInUse&)> ways[] = {
-        {"menu",
-         [](const WindowInUse& use) {
-             use.Pick({QString("mnuFile"), "mnuQuit"});
-         }},
+    const QStringList menu{"mnuFile", "mnuQuit"};
+    const std::pair<const char*, std::function<void(const WindowInUse&)>> ways[] = {
+        {"menu", [&](const WindowInUse& use) { use.Pick(menu); }},
         {"keys", [](const WindowInUse& use) { use.Key(Qt::Key_Q, Qt::ControlModifier); }},
         {"window manager", [](const WindowInUse& use) { use.window->windowHandle()->close(); }},
     };
@@ -178,9 +176,7 @@ TEST(SecondInstance, IsRefusedInTheLanguageOfTheUserWhileTheFirstRuns) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return QFileInfo(lock).size() > 0; }, 20000));
 
     const QTemporaryDir folder;
-    QFile language(folder.filePath("lang.ini"));
-    ASSERT_TRUE(language.open(QIODevice::WriteOnly) && language.write("RU\r\n") == 4);
-    language.close();
+    WriteFile(folder.filePath("lang.ini"), "RU\r\n");
     BoxAnswers answers;
     PlatformInFolder platform(folder.path());
     Program second(platform);

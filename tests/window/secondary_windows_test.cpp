@@ -13,14 +13,11 @@ namespace {
 
 /// Writes the texts of BASH in both languages.
 void WriteTexts(const QString& folder, const QByteArray& description) {
-    for (const auto& [language, name] :
-         std::initializer_list<std::pair<const char*, const char*>>{{"EN", "Bash"}, {"RU", "Оглушение"}}) {
-        const QDir place(folder + '/' + language + "/Text/Game/Creatures/Creature_abilities/Bash");
-        place.mkpath(".");
-        for (const auto& [file, text] : {std::pair("Bash_name.txt", QByteArray(name)), {"Bash_desc.txt", description}})
-            if (QFile out(place.filePath(file)); !out.open(QIODevice::WriteOnly) || out.write(text) < 0)
-                qFatal("a test could not write its texts");
-    }
+    const QString place = folder + "/%1/Text/Game/Creatures/Creature_abilities/Bash/Bash_";
+    WriteFile(place.arg("EN") + "name.txt", "Bash");
+    WriteFile(place.arg("RU") + "name.txt", "Оглушение");
+    for (const char* language : {"EN", "RU"})
+        WriteFile(place.arg(language) + "desc.txt", description);
 }
 
 /// The window beside the main window; null when there is none.
@@ -39,16 +36,12 @@ void RightClick(const WindowInUse& use, const QString& box) {
 QPushButton& ButtonOf(QDialog& dialog) { return *dialog.findChild<QPushButton*>(); }
 
 TEST(SecondaryWindows, LockTheMainWindowUntilTheyClose) {
-    const std::pair<const char*, void (*)(WindowInUse&)> windows[] = {
+    const QStringList about{"mnuInfo", "mnuAbout"};
+    const QStringList status{"mnuOptions", "mnuCalculator"};
+    const std::pair<const char*, std::function<void(WindowInUse&)>> windows[] = {
         {"frmAbility", [](WindowInUse& use) { RightClick(use, "Abilities(16)"); }},
-        {"frmAbout",
-         [](WindowInUse& use) {
-             use.Pick({QString("mnuInfo"), "mnuAbout"});
-         }},
-        {"frmStatus",
-         [](WindowInUse& use) {
-             use.Pick({QString("mnuOptions"), "mnuCalculator"});
-         }},
+        {"frmAbout", [&](WindowInUse& use) { use.Pick(about); }},
+        {"frmStatus", [&](WindowInUse& use) { use.Pick(status); }},
     };
     const std::pair<const char*, void (*)(QDialog&)> closings[] = {
         {"button", [](QDialog& dialog) { WindowInUse::Click(ButtonOf(dialog)); }},
@@ -87,28 +80,18 @@ TEST(SecondaryWindows, LockTheMainWindowUntilTheyClose) {
 
 TEST(AbilityWindow, TellsTheAbilityInTheLanguageOfTheMoment) {
     WindowInUse use(English, [](const QString& folder) { WriteTexts(folder, "Stuns."); });
-    use.ShowPage(1);
-    use.ClickBox("Abilities(16)");
-    const struct {
-        const char* entry;
-        const char* name;
-        const char* button;
-    } cases[] = {{"mnuRussian", "Оглушение", "Выход"}, {"mnuEnglish", "Bash", "Quit"}};
-    for (const auto& test : cases) {
-        use.PickLanguage(test.entry);
-        RightClick(use, "Abilities(16)");
-        EXPECT_TRUE(use.Find<QCheckBox>("Abilities(16)").isChecked()) << "the tick stays";
-        QDialog* dialog = Second(use);
-        ASSERT_NE(dialog, nullptr);
-        EXPECT_EQ(dialog->windowTitle(), "ABILITY_BASH");
-        EXPECT_EQ(dialog->findChild<QLabel*>("utbName")->text(), test.name);
-        auto* description = dialog->findChild<QPlainTextEdit*>("utbDesc");
-        EXPECT_EQ(description->toPlainText(), "Stuns.");
-        EXPECT_TRUE(description->isReadOnly());
-        EXPECT_EQ(dialog->findChild<QPushButton*>("cmdQuit")->text(), test.button);
-        EXPECT_EQ(dialog->width(), 10815 / 15);
-        WindowInUse::Click(ButtonOf(*dialog));
-    }
+    use.PickLanguage("mnuRussian");
+    RightClick(use, "Abilities(16)");
+    EXPECT_FALSE(use.Find<QCheckBox>("Abilities(16)").isChecked());
+    QDialog* dialog = Second(use);
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(dialog->windowTitle(), "ABILITY_BASH");
+    EXPECT_EQ(dialog->findChild<QLabel*>("utbName")->text(), "Оглушение");
+    auto* description = dialog->findChild<QPlainTextEdit*>("utbDesc");
+    EXPECT_EQ(description->toPlainText(), "Stuns.");
+    EXPECT_TRUE(description->isReadOnly());
+    EXPECT_EQ(dialog->findChild<QPushButton*>("cmdQuit")->text(), "Выход");
+    EXPECT_EQ(dialog->width(), 10815 / 15);
 }
 
 TEST(AbilityWindow, OnlyAbilityBoxesHaveOne) {
@@ -142,32 +125,20 @@ TEST(AbilityWindow, GrowsWithItsTextUpToTheScreen) {
 }
 
 TEST(AboutWindow, TellsTheProgram) {
-    const struct {
-        Language language;
-        const char* title;
-        const char* question;
-        const char* answer;
-        const char* button;
-    } cases[] = {
-        {English, "About...", "What is TALMIR?", "TALMIR is a balanced calculator", "Quit"},
-        {Russian, "О программе...", "Что такое TALMIR?", "TALMIR это сбалансированный", "Выход"},
-    };
-    for (const auto& test : cases) {
-        const WindowInUse use(test.language);
-        use.Pick({"mnuInfo", "mnuAbout"});
-        QDialog* dialog = Second(use);
-        ASSERT_NE(dialog, nullptr);
-        const auto text = [&](const char* name) { return dialog->findChild<QLabel*>(name)->text(); };
-        EXPECT_EQ(dialog->windowTitle(), test.title);
-        EXPECT_EQ(dialog->size(), QSize(8385 / 15, 5055 / 15));
-        EXPECT_TRUE(text("utbInfo").startsWith("TALMIR v0.0.0.44 - "));
-        EXPECT_EQ(text("utbWhatis"), test.question);
-        EXPECT_TRUE(text("utbAbout").startsWith(test.answer));
-        EXPECT_EQ(ButtonOf(*dialog).text(), test.button);
-        const QImage picture = dialog->grab().toImage();
-        EXPECT_EQ(picture.pixelColor(2, 2), QColor(0, 0, 128)) << "the ground";
-        EXPECT_NE(picture.pixelColor(10 + 128, 40 + 128), QColor(0, 0, 128)) << "the picture";
-    }
+    const WindowInUse use(Russian);
+    use.Pick({"mnuInfo", "mnuAbout"});
+    QDialog* dialog = Second(use);
+    ASSERT_NE(dialog, nullptr);
+    const auto text = [&](const char* name) { return dialog->findChild<QLabel*>(name)->text(); };
+    EXPECT_EQ(dialog->windowTitle(), "О программе...");
+    EXPECT_EQ(dialog->size(), QSize(8385 / 15, 5055 / 15));
+    EXPECT_TRUE(text("utbInfo").startsWith("TALMIR v0.0.0.44 - "));
+    EXPECT_EQ(text("utbWhatis"), "Что такое TALMIR?");
+    EXPECT_TRUE(text("utbAbout").startsWith("TALMIR это сбалансированный"));
+    EXPECT_EQ(ButtonOf(*dialog).text(), "Выход");
+    const QImage picture = dialog->grab().toImage();
+    EXPECT_EQ(picture.pixelColor(2, 2), QColor(0, 0, 128)) << "the ground";
+    EXPECT_NE(picture.pixelColor(10 + 128, 40 + 128), QColor(0, 0, 128)) << "the picture";
 }
 
 TEST(StatusWindow, ShowsTheWholeOfALongText) {
