@@ -29,10 +29,7 @@ QString Summary(const TestProgram& test) {
 }
 
 TEST(Resets, EachTouchesItsOwnPages) {
-    const struct {
-        Button MainForm::*button;
-        const char* after;
-    } cases[] = {
+    const std::pair<Button MainForm::*, const char*> cases[] = {
         {&MainForm::cmdRAP,
          "Abilities(16) Abilities(17) Abilities(29) Abilities(147) Spells(7) Specabilities(1) "
          "Specabilities(4) Specabilities(49) | soq 2 saz 3 | attack '0' mana '0' shots '0' range None "
@@ -47,9 +44,9 @@ TEST(Resets, EachTouchesItsOwnPages) {
          "Specabilities(1) Specabilities(49) | soq 0 saz 3 | attack '0' mana '' shots '' range None | "
          "pages ++-+- | count 1 flag 0 | save 0 spells 0 loaded 0 | TALMIR v0.0.0.44"},
     };
-    for (const auto& row : cases) {
+    for (const auto& [button, after] : cases) {
         TestProgram test;
-        SCOPED_TRACE((test.form.*row.button).Name().toStdString());
+        SCOPED_TRACE((test.form.*button).Name().toStdString());
         MainForm& form = test.form;
         for (const int ability : {16, 29, 147})
             form.Abilities(ability).SetTicked(true);
@@ -67,8 +64,8 @@ TEST(Resets, EachTouchesItsOwnPages) {
         form.frmMain.SetCaption(QString("title"));
         test.state.CreatureFileLoaded = true;
 
-        (form.*row.button).Click();
-        EXPECT_EQ(Summary(test), row.after);
+        (form.*button).Click();
+        EXPECT_EQ(Summary(test), after);
         EXPECT_EQ(form.saz(1).Enabled(), form.Specabilities(1).Ticked());
         EXPECT_EQ(form.soq(7).Enabled(), form.Spells(7).Ticked());
     }

@@ -28,19 +28,16 @@ CreatureXml SmallCreature() {
 }
 
 TEST(Cli, HelpAndVersionGoToStandardOutput) {
-    const struct {
-        QStringList arguments;
-        const char* piece;
-    } cases[] = {
+    const std::pair<QStringList, const char*> cases[] = {
         {{"--help"}, "talmir-cli COMMAND"}, {{"-h"}, "talmir-cli COMMAND"},          {{"--version"}, "TALMIR v0."},
         {{"run", "-v"}, "TALMIR v0."},      {{"calc", "--help"}, "talmir-cli calc"}, {{"run", "-h"}, "talmir-cli run"},
     };
-    for (const auto& test : cases) {
-        SCOPED_TRACE(test.arguments.join(' ').toStdString());
-        const CliOutcome outcome = RunCli(test.arguments);
+    for (const auto& [arguments, piece] : cases) {
+        SCOPED_TRACE(arguments.join(' ').toStdString());
+        const CliOutcome outcome = RunCli(arguments);
         EXPECT_EQ(outcome.code, 0);
         EXPECT_EQ(outcome.err, "");
-        EXPECT_TRUE(outcome.out.contains(test.piece)) << outcome.out.toStdString();
+        EXPECT_TRUE(outcome.out.contains(piece)) << outcome.out.toStdString();
         EXPECT_FALSE(outcome.out.contains(TALMIR_CLI)) << "a path on this machine helps nobody";
     }
 }

