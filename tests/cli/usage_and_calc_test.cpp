@@ -12,17 +12,11 @@ namespace {
 
 /// A creature whose figures can be worked out by hand: Power 129 and 146 at tier 2.
 CreatureXml SmallCreature() {
+    const std::pair<const char*, const char*> elements[] = {
+        {"AttackSkill", "4"}, {"DefenceSkill", "3"}, {"MinDamage", "2"},    {"MaxDamage", "3"},  {"Health", "10"},
+        {"Speed", "5"},       {"Initiative", "10"},  {"CreatureTier", "2"}, {"Upgrade", "false"}};
     CreatureXml creature;
-    for (const auto& [element, content] :
-         std::initializer_list<std::pair<const char*, const char*>>{{"AttackSkill", "4"},
-                                                                    {"DefenceSkill", "3"},
-                                                                    {"MinDamage", "2"},
-                                                                    {"MaxDamage", "3"},
-                                                                    {"Health", "10"},
-                                                                    {"Speed", "5"},
-                                                                    {"Initiative", "10"},
-                                                                    {"CreatureTier", "2"},
-                                                                    {"Upgrade", "false"}})
+    for (const auto& [element, content] : elements)
         creature.Set(element, content);
     return creature;
 }

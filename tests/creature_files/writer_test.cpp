@@ -10,26 +10,13 @@ namespace {
 TEST(Writer, WritesTheWholeFileInCatalogueOrder) {
     TestProgram test;
     MainForm& form = test.form;
-    for (const auto& [control, text] :
-         std::initializer_list<std::pair<const char*, const char*>>{{"txtAttack", "4"},
-                                                                    {"txtDefence", "3"},
-                                                                    {"txtMinDam", "2"},
-                                                                    {"txtMaxDam", "3"},
-                                                                    {"txtHealth", "10"},
-                                                                    {"ComboSpeed", "12"},
-                                                                    {"ComboInitiative", "8"},
-                                                                    {"ComboTier", "2"},
-                                                                    {"txtExp", "12"},
-                                                                    {"txtPower", "137"},
-                                                                    {"txtWoodf", "1"},
-                                                                    {"txtOref", "2"},
-                                                                    {"txtMercuryf", "3"},
-                                                                    {"txtCrystalf", "4"},
-                                                                    {"txtSulfurf", "5"},
-                                                                    {"txtGemf", "6"},
-                                                                    {"txtGoldf", "58"},
-                                                                    {"txtGrowthf", "99"},
-                                                                    {"txtIDC", "183"}})
+    const std::pair<const char*, const char*> texts[] = {
+        {"txtAttack", "4"},   {"txtDefence", "3"},      {"txtMinDam", "2"},   {"txtMaxDam", "3"},   {"txtHealth", "10"},
+        {"ComboSpeed", "12"}, {"ComboInitiative", "8"}, {"ComboTier", "2"},   {"txtExp", "12"},     {"txtPower", "137"},
+        {"txtWoodf", "1"},    {"txtOref", "2"},         {"txtMercuryf", "3"}, {"txtCrystalf", "4"}, {"txtSulfurf", "5"},
+        {"txtGemf", "6"},     {"txtGoldf", "58"},       {"txtGrowthf", "99"}, {"txtIDC", "183"},    {"txtMana", "10"},
+        {"txtShots", "7"}};
+    for (const auto& [control, text] : texts)
         test.SetText(control, text);
     for (const int ability : {174, 29, 1, 38, 65, 66, 91, 147}) // five of them travel by other elements
         form.Abilities(ability).SetTicked(true);
@@ -39,8 +26,6 @@ TEST(Writer, WritesTheWholeFileInCatalogueOrder) {
         form.Spells(spell).SetTicked(true);
     form.saz(54).SetValue(2);
     form.soq(46).SetValue(1);
-    form.txtMana.SetText("10");
-    form.txtShots.SetText("7");
     form.ComboUpgrade.Select(1);
     form.ComboFaction.Select(1);
     form.ComboFME.Select(3);

@@ -1,7 +1,6 @@
 #include "engine/calculate.h"
 #include "engine/clear_creature.h"
 #include "engine/tier_advice.h"
-#include "engine/title.h"
 #include "support/test_program.h"
 
 #include <gtest/gtest.h>
@@ -101,24 +100,6 @@ TEST(TierAdvice, ComparesWithTheReferenceOfThePlainOrUpgradedCreature) {
                 QString("It is recommended to %1 tier from %2 to 4").arg(tier < 4 ? "increase" : "lower").arg(tier);
             EXPECT_EQ(advice, tier == 4 ? QStringList() : QStringList{text});
         }
-}
-
-TEST(Title, SetsTheFileBesideTheCalculationOnceAFileIsOpen) {
-    TestProgram test(Russian);
-    test.FillInCreature();
-    test.form.ComboTier.Select(1);
-    Calculate(test.program);
-    BuildTitle(test.program);
-    EXPECT_EQ(test.form.frmMain.Caption(), "TALMIR v0.0.0.44");
-    test.state.CreatureFileLoaded = true;
-    test.state.CreatureName = "Орк";
-    test.state.FilePower = 7;
-    test.state.FileExperience = -8;
-    test.state.FileGrowth = 9;
-    test.state.FileGold = 32767;
-    BuildTitle(test.program);
-    EXPECT_EQ(test.form.frmMain.Caption(), "TALMIR v0.0.0.44 [Существо: Орк, Сила=7{137}, Опыт=-8{12}, Прирост=9{16}, "
-                                           "Золото=32767{58}]");
 }
 
 TEST(ClearCreature, EmptiesFieldsAndLabelsAndKeepsTicksAndResults) {

@@ -28,12 +28,9 @@ void TestProgram::SetText(const QString& control, const QString& text) const {
 }
 
 void TestProgram::FillInCreature() {
-    for (const auto& [field, text] : std::initializer_list<std::pair<const char*, const char*>>{{"txtNC", "Test"},
-                                                                                                {"txtAttack", "4"},
-                                                                                                {"txtDefence", "3"},
-                                                                                                {"txtMinDam", "2"},
-                                                                                                {"txtMaxDam", "3"},
-                                                                                                {"txtHealth", "10"}})
+    const std::pair<const char*, const char*> texts[] = {{"txtNC", "Test"},  {"txtAttack", "4"}, {"txtDefence", "3"},
+                                                         {"txtMinDam", "2"}, {"txtMaxDam", "3"}, {"txtHealth", "10"}};
+    for (const auto& [field, text] : texts)
         SetText(field, text);
 }
 

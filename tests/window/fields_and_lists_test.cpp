@@ -18,16 +18,6 @@ void OpenAllFields(const WindowInUse& use) {
 
 QString TextOf(const WindowInUse& use, const QString& field) { return use.Find<QLineEdit>(field).text(); }
 
-TEST(Fields, TakeTypedKeysThatTheyKnowUpToTheirLength) {
-    const WindowInUse use;
-    for (const auto& [field, expected] : std::initializer_list<std::pair<const char*, const char*>>{
-             {"txtNC", "aZ_bc"}, {"txtAttack", "12"}, {"txtHealth", "123"}, {"txtPower", "12345"}}) {
-        use.Type(field, "a-1Z.2_ 3/b4:c56");
-        EXPECT_EQ(TextOf(use, field), expected) << field;
-    }
-    EXPECT_EQ(Disagreements(use), "");
-}
-
 TEST(Fields, AreTypedIntoWhereTheCursorStands) {
     const WindowInUse use;
     use.Type("txtHealth", "13");
