@@ -23,46 +23,30 @@ Figures Of(double rolvane, double hesperin, std::int16_t tier, float upgradeFact
 }
 
 TEST(Formulas, WorkedExamples) {
-    // Worked out by hand from the formulas, with a pocket calculator's precision.
-    using Three = std::array<double, 3>; // first method, second method, average
+    // Worked out by hand from the formulas, with a pocket calculator's precision: power, experience,
+    // growth and cost, each by the first method, by the second and their average.
+    using Results = std::vector<double>;
     const struct {
         const char* what;
         Creature creature;
-        Three power;
-        Three experience;
-        Three growth;
-        Three cost;
+        Results expected;
     } cases[] = {
-        {"plain creature",
-         {4, 3, 10, 2, 3, 5, 10, 2, 1, 1, false},
-         {129, 146, 137},
-         {11, 13, 12},
-         {18, 15, 16},
-         {54, 63, 58}},
-        {"the same, upgraded",
+        {"plain", {4, 3, 10, 2, 3, 5, 10, 2, 1, 1, false}, {129, 146, 137, 11, 13, 12, 18, 15, 16, 54, 63, 58}},
+        {"upgraded",
          {4, 3, 10, 2, 3, 5, 10, 2, 1, Upgraded, false},
-         {129, 146, 137},
-         {11, 13, 12},
-         {11, 15, 13},
-         {54, 63, 58}},
-        {"shooter",
-         {7, 7, 16, 4, 7, 5, 8, 3, 1.2F, 1, true},
-         {312, 310, 311},
-         {26, 25, 25},
-         {9, 7, 8},
-         {133, 166, 149}},
-        {"everything 1", {1, 1, 1, 1, 1, 1, 1, 1, 1, 1, false}, {2, 8, 5}, {1, 0, 1}, {1000, 812, 906}, {1, 1, 1}},
+         {129, 146, 137, 11, 13, 12, 11, 15, 13, 54, 63, 58}},
+        {"shooter", {7, 7, 16, 4, 7, 5, 8, 3, 1.2F, 1, true}, {312, 310, 311, 26, 25, 25, 9, 7, 8, 133, 166, 149}},
+        {"everything 1", {1, 1, 1, 1, 1, 1, 1, 1, 1, 1, false}, {2, 8, 5, 1, 0, 1, 1000, 812, 906, 1, 1, 1}},
     };
     for (const auto& row : cases) {
-        SCOPED_TRACE(row.what);
         const Powers powers = ComputePowers(row.creature);
-        const Figures figures = ComputeFigures(row.creature, powers);
-        EXPECT_EQ((Three{powers.PowerRolvane, powers.PowerHesperin, figures.PowerAverage}), row.power);
-        EXPECT_EQ((Three{double(figures.ExpRolvane), double(figures.ExpHesperin), double(figures.ExpAverage)}),
-                  row.experience);
-        EXPECT_EQ((Three{double(figures.GrowthRolvane), double(figures.GrowthHesperin), double(figures.GrowthAverage)}),
-                  row.growth);
-        EXPECT_EQ((Three{figures.CostRolvane, figures.CostHesperin, figures.CostAverage}), row.cost);
+        const Figures f = ComputeFigures(row.creature, powers);
+        EXPECT_EQ(
+            (Results{powers.PowerRolvane, powers.PowerHesperin, f.PowerAverage, double(f.ExpRolvane),
+                     double(f.ExpHesperin), double(f.ExpAverage), double(f.GrowthRolvane), double(f.GrowthHesperin),
+                     double(f.GrowthAverage), f.CostRolvane, f.CostHesperin, f.CostAverage}),
+            row.expected)
+            << row.what;
     }
     const Powers powers = ComputePowers(cases[0].creature);
     EXPECT_NEAR(powers.OffenceScore, 2.8688075, 1e-7);
@@ -132,18 +116,12 @@ TEST(Formulas, EveryTierHasItsOwnConstants) {
 
 TEST(Formulas, TheSecondMethodsCostStaysAtTheGoldBaseAcrossItsZeroBand) {
     // At tier 1 the divisor is 3250 / Power: 1 from 1626 to 3250, 0 up to 6372, 1 again above.
-    const struct {
-        double power;
-        double divisor;
-        double cost;
-    } cases[] = {{1083, 3, 466},  {1084, 2, 700},  {1625, 2, 700},  {1626, 1, 1400}, {3250, 1, 1400},
-                 {3251, 0, 1400}, {6372, 0, 1400}, {6373, 1, 1400}, {1e6, 1, 1400}};
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.power);
-        const Figures figures = Of(row.power, row.power, 1);
-        EXPECT_EQ(figures.CostDivisor, row.divisor);
-        EXPECT_EQ(figures.CostHesperin, row.cost);
-    }
+    const std::pair<double, double> costs[] = {{1083, 466},  {1084, 700},  {1625, 700},  {1626, 1400}, {3250, 1400},
+                                               {3251, 1400}, {6372, 1400}, {6373, 1400}, {1e6, 1400}};
+    for (const auto& [power, cost] : costs)
+        EXPECT_EQ(Of(power, power, 1).CostHesperin, cost) << power;
+    for (const auto& [power, divisor] : {std::pair(3250.0, 1), {3251.0, 0}, {6372.0, 0}, {6373.0, 1}})
+        EXPECT_EQ(Of(power, power, 1).CostDivisor, divisor) << power;
     EXPECT_EQ(Of(15000, 15000, 8).CostHesperin, 11250); // 14625 / 15000
 }
 

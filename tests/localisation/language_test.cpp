@@ -41,13 +41,12 @@ TEST(Language, EachColumnHasItsTextsLetterForLetter) {
     const struct {
         std::int16_t language;
         std::uint32_t messages;
-        int captionCount;
         std::uint32_t captions;
     } columns[] = {
-        {1, 0xF900785BU, 90, 0x8C88093CU},
-        {2, 0xD8F7E68CU, 90, 0x4AB5677BU},
-        {3, 0x26F8FAC6U, 23, 0x8C3ACB34U},
-        {4, 0xBB0B4083U, 23, 0xE5847B3FU},
+        {1, 0xF900785BU, 0x8C88093CU},
+        {2, 0xD8F7E68CU, 0x4AB5677BU},
+        {3, 0x26F8FAC6U, 0x8C3ACB34U},
+        {4, 0xBB0B4083U, 0xE5847B3FU},
     };
     constexpr std::size_t translatedRows = 23; // those behind them are this program's own
     for (const auto& column : columns) {
@@ -59,15 +58,11 @@ TEST(Language, EachColumnHasItsTextsLetterForLetter) {
             if (const QString& text = test.state.*row.message; !text.isEmpty())
                 messages += Hash(text);
         EXPECT_EQ(messages, column.messages);
-        int count = 0;
         std::uint32_t captions = 0;
         const auto words = Words(test.form);
         for (auto word = words.begin(); word != words.end(); ++word)
-            if (!word.value().isEmpty()) {
-                ++count;
+            if (!word.value().isEmpty())
                 captions += Hash(word.key() + '=' + word.value());
-            }
-        EXPECT_EQ(count, column.captionCount);
         EXPECT_EQ(captions, column.captions);
     }
 }
