@@ -113,7 +113,7 @@ TEST(Reader, AbilityCasterWithoutManaOpensTheFieldForCalculateToCorrect) {
               (QStringList{"Value for 'Mana' out of the range!", "Value for 'Shots' out of the range!"}));
 }
 
-TEST(Reader, OneTokenInsideAnotherTicksBoth) {
+TEST(Reader, EveryTokenInTheTextTicksItsBox) {
     const QStringList flesh{"FLESH_AND_BLOOD"};
     const QStringList casters{"FLESH_AND_BLOOD", "RANDOM_CASTER", "RANDOM_CASTER_BLESS"};
     const QStringList casts{"RANDOM_CAST_DARK", "RANDOM_CAST_DARK_LIGHT"};
@@ -129,6 +129,9 @@ TEST(Reader, OneTokenInsideAnotherTicksBoth) {
         {"a longer ability", CreatureXml().Ability("RANDOM_CASTER_BLESS"), casters, casts},
         {"a longer one", CreatureXml().Spell("ABILITY_RANDOM_CAST_DARK_LIGHT", "EXPERT"), casters, casts},
         {"lower case", CreatureXml().Ability("bash"), QStringList{"BASH"} + flesh, {}},
+        {"a nature", CreatureXml().Ability("UNDEAD"), {"UNDEAD"}, {}},
+        {"the first of two in the catalogue", CreatureXml().Ability("UNDEAD").Ability("ELEMENTAL"), {"ELEMENTAL"}, {}},
+        {"FLESH_AND_BLOOD before UNDEAD", CreatureXml().Ability("UNDEAD").Ability("FLESH_AND_BLOOD"), flesh, {}},
         {"unknown words", CreatureXml().Ability("SINGING").Spell("ABILITY_WEAKNING_STRIKE", ""), flesh, {}},
     };
     for (const auto& test : cases) {
@@ -136,19 +139,6 @@ TEST(Reader, OneTokenInsideAnotherTicksBoth) {
         const Opened opened(test.document);
         EXPECT_EQ(opened.Ticked("Abilities"), test.abilities);
         EXPECT_EQ(opened.Ticked("Specabilities"), test.specabilities);
-    }
-}
-
-TEST(Reader, TheNatureThatStandsFirstInTheCatalogueWins) {
-    for (const auto& [inFile, ticked] :
-         std::initializer_list<std::pair<QStringList, QString>>{{{"UNDEAD"}, "UNDEAD"},
-                                                                {{"MECHANICAL"}, "MECHANICAL"},
-                                                                {{"UNDEAD", "ELEMENTAL"}, "ELEMENTAL"},
-                                                                {{"UNDEAD", "FLESH_AND_BLOOD"}, "FLESH_AND_BLOOD"}}) {
-        CreatureXml document;
-        for (const QString& nature : inFile)
-            document.Ability(nature);
-        EXPECT_EQ(Opened(document).Ticked("Abilities"), QStringList{ticked});
     }
 }
 

@@ -23,37 +23,23 @@ QStringList Warnings(TestProgram& test) {
 }
 
 TEST(Calculate, WarnsOfEveryFieldInOrderAndInTheLanguageOfTheWindow) {
-    const QStringList fixed{"Value for 'Speed' out of the range!", "Value for 'Initiative' out of the range!",
-                            "Value for 'Tier' out of the range!"};
-    const struct {
-        Language language;
-        QString format;
-        QStringList names;
-    } cases[] = {
-        {English,
-         "Value for '%1' out of the range!",
-         {"Mana", "Shots", "Attack", "Defence", "Health", "Min damage", "Max damage"}},
-        {Russian,
-         "Значение для '%1' недопустимо!",
-         {"Мана", "Выстрелы", "Нападение", "Защита", "Ед. жизни", "Мин. урон", "Макс. урон"}},
-    };
-    for (const auto& row : cases) {
-        QStringList expected;
-        for (const QString& name : row.names)
-            expected.append(row.format.arg(name));
-        TestProgram test(row.language);
-        EXPECT_EQ(Warnings(test), expected.mid(2)); // a cleared creature
-        EXPECT_EQ(Warnings(test), QStringList());   // corrected by the first run
+    QStringList expected;
+    for (const char* name : {"Мана", "Выстрелы", "Нападение", "Защита", "Ед. жизни", "Мин. урон", "Макс. урон"})
+        expected.append(QString("Значение для '%1' недопустимо!").arg(name));
+    TestProgram cleared(Russian);
+    EXPECT_EQ(Warnings(cleared), expected.mid(2));
+    EXPECT_EQ(Warnings(cleared), QStringList()); // corrected by the first run
 
-        TestProgram worst(row.language);
-        worst.form.Abilities(Ability::Shooter).SetTicked(true);
-        worst.form.Abilities(Ability::Caster).SetTicked(true);
-        worst.SetText("txtMana", "");
-        worst.SetText("ComboSpeed", "0");
-        worst.SetText("ComboInitiative", "21");
-        worst.SetText("ComboTier", "9");
-        EXPECT_EQ(Warnings(worst), expected + fixed);
-    }
+    TestProgram worst(Russian);
+    worst.form.Abilities(Ability::Shooter).SetTicked(true);
+    worst.form.Abilities(Ability::Caster).SetTicked(true);
+    worst.SetText("txtMana", "");
+    worst.SetText("ComboSpeed", "0");
+    worst.SetText("ComboInitiative", "21");
+    worst.SetText("ComboTier", "9");
+    for (const char* name : {"Speed", "Initiative", "Tier"})
+        expected.append(QString("Value for '%1' out of the range!").arg(name)); // in every language
+    EXPECT_EQ(Warnings(worst), expected);
 }
 
 /// What a valid creature's field becomes when it holds `text`, and whether the user is warned.

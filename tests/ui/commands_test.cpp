@@ -7,26 +7,6 @@ namespace Hesperin {
 
 namespace {
 
-TEST(ConfirmQuit, EndsOnlyAfterAYesAndRemembersTheLanguage) {
-    for (const bool byMenu : {false, true}) {
-        TestProgram test;
-        test.form.mnuRussian.Click();
-        for (const bool yes : {false, true}) {
-            test.platform.answerYes = yes;
-            if (byMenu)
-                test.form.mnuQuit.Click();
-            else
-                EXPECT_EQ(Form_Unload(test.program), yes);
-            EXPECT_EQ(test.platform.ended, yes);
-            EXPECT_EQ(ReadAll(test.Path("lang.ini")), yes ? "RU" : "");
-        }
-        ASSERT_EQ(test.platform.boxes.size(), 2U);
-        EXPECT_EQ(test.platform.boxes[0].icon, BoxIcon::Question);
-        EXPECT_EQ(test.platform.boxes[0].title, "Выход из программы");
-        EXPECT_EQ(test.platform.boxes[0].text, "Вы хотите выйти?");
-    }
-}
-
 TEST(ConfirmQuit, ALanguageFileThatCannotBeWrittenKeepsNobodyFromLeaving) {
     TestProgram test;
     test.platform.programFolder = test.Write("file", "") + "/program";
@@ -133,18 +113,6 @@ TEST(AlternativeMethod, IsShownWithACheckMarkAndHiddenWithout) {
         EXPECT_EQ(test.form.frmAM.Visible(), shown);
         EXPECT_EQ(test.form.mnuAlternativeMethod.Checked(), shown);
     }
-}
-
-TEST(SecondaryWindows, LockTheMainWindow) {
-    TestProgram test;
-    test.form.mnuAbout.Click();
-    EXPECT_FALSE(test.form.frmMain.Enabled());
-    test.form.frmMain.SetEnabled(true);
-    Abilities_RightClick(test.program, 66);
-    EXPECT_FALSE(test.form.frmMain.Enabled());
-    EXPECT_EQ(test.platform.opened, (std::vector{SecondaryWindow::About, SecondaryWindow::AbilityInformation}));
-    EXPECT_EQ(test.state.AbilityInfoIndex, 66);
-    EXPECT_FALSE(test.form.Abilities(66).Ticked());
 }
 
 } // namespace

@@ -32,19 +32,6 @@ TEST_F(StartUp, TheLanguageFileChoosesTheLanguageAndTheAbilityTexts) {
     EXPECT_EQ(ReadAll(test.Path("lang.ini")), "RU\r\n"); // rewritten at quit only
 }
 
-TEST_F(StartUp, ASecondInstanceIsToldInItsLanguageAndSetsNothingUp) {
-    test.Write("lang.ini", "RU");
-    test.platform.otherInstanceRuns = true;
-    EXPECT_FALSE(Form_Load(test.program));
-    ASSERT_EQ(test.platform.boxes.size(), 1U);
-    EXPECT_EQ(test.platform.boxes[0].icon, BoxIcon::Critical);
-    EXPECT_EQ(test.platform.boxes[0].title, "Внимание!");
-    EXPECT_EQ(test.platform.boxes[0].text, "Нельзя запускать эту программу дважды!");
-    EXPECT_EQ(form.frmMain.Caption(), "");
-    EXPECT_TRUE(form.ComboTier.Items().isEmpty());
-    EXPECT_EQ(ReadAll(test.Path("lang.ini")), "RU");
-}
-
 TEST_F(StartUp, FieldsAndListsShowTheirFirstValues) {
     EXPECT_TRUE(Form_Load(test.program));
     QStringList fields; // with their lengths

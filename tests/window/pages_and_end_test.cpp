@@ -122,6 +122,7 @@ TEST(Quit, AsksAndEndsOnlyAfterAYes) {
             EXPECT_EQ(ExitCodeAfter([&, quit = act] { quit(use); }), yes ? 0 : GoesOn);
             ASSERT_EQ(use.answers.boxes.size(), 1U) << "asked once";
             EXPECT_EQ(use.answers.boxes[0].icon, QMessageBox::Question);
+            EXPECT_EQ(use.answers.boxes[0].title, "Выход из программы");
             EXPECT_EQ(use.answers.boxes[0].text, "Вы хотите выйти?");
             EXPECT_EQ(QSet<QString>(use.answers.buttonTexts.begin(), use.answers.buttonTexts.end()),
                       (QSet<QString>{"Да", "Нет"}));
@@ -143,29 +144,19 @@ void StartProgram(QProcess& process, const QStringList& arguments, const QString
 }
 
 TEST(CommandLine, AnswersWithoutADisplay) {
-    const struct {
-        QStringList arguments;
-        int exitCode;
-        const char* output; // how it begins
-        const char* complaint;
-    } cases[] = {
-        {{"--version"}, 0, "TALMIR v0.0.0.44\n", ""},
-        {{"-h"}, 0, "Usage: talmir [FILE]\n", ""},
-        {{"--bogus"}, 2, "", "talmir: '--bogus'"},
-        {{"a.xdb", "b.xdb"}, 2, "", "talmir: 'b.xdb'"},
-    };
-    for (const auto& test : cases) {
-        SCOPED_TRACE(test.arguments.join(' ').toStdString());
+    const std::pair<QStringList, const char*> cases[] = {// exit code, output and complaint, as they begin
+                                                         {{"--version"}, "0 TALMIR v0.0.0.44\n|"},
+                                                         {{"-h"}, "0 Usage: talmir [FILE]\n"},
+                                                         {{"--bogus"}, "2 |talmir: '--bogus'"},
+                                                         {{"a.xdb", "b.xdb"}, "2 |talmir: 'b.xdb'"}};
+    for (const auto& [arguments, expected] : cases) {
         QProcess process;
-        StartProgram(process, test.arguments);
+        StartProgram(process, arguments);
         ASSERT_TRUE(process.waitForFinished());
-        EXPECT_EQ(process.exitCode(), test.exitCode);
-        const QString output = process.readAllStandardOutput();
-        const QString complaint = process.readAllStandardError();
-        EXPECT_TRUE(output.contains(test.output)) << output.toStdString();
-        EXPECT_TRUE(complaint.contains(test.complaint)) << complaint.toStdString();
-        EXPECT_EQ(output.isEmpty(), test.exitCode != 0);
-        EXPECT_EQ(complaint.isEmpty(), test.exitCode == 0);
+        const QString answer = QString("%1 %2|%3")
+                                   .arg(process.exitCode())
+                                   .arg(process.readAllStandardOutput(), process.readAllStandardError());
+        EXPECT_TRUE(answer.startsWith(expected)) << answer.toStdString();
     }
 }
 
@@ -181,7 +172,10 @@ TEST(SecondInstance, IsRefusedInTheLanguageOfTheUserWhileTheFirstRuns) {
     PlatformInFolder platform(folder.path());
     Program second(platform);
     EXPECT_FALSE(Form_Load(second));
+    EXPECT_TRUE(second.form.ComboTier.Items().isEmpty()) << "it has set itself up";
     ASSERT_EQ(answers.boxes.size(), 1U);
+    EXPECT_EQ(answers.boxes[0].icon, QMessageBox::Critical);
+    EXPECT_EQ(answers.boxes[0].title, "Внимание!");
     EXPECT_EQ(answers.boxes[0].text, "Нельзя запускать эту программу дважды!");
 
     first.kill(); // leaves its lock behind
