@@ -70,11 +70,9 @@ TEST(AbilityTexts, AreDecodedByTheirBytes) {
         {"UTF-8 with a mark", "EN", "\xEF\xBB\xBFЖa本", "Жa本"},
         {"UTF-8 in Russian", "RU", "Жар", "Жар"},
         {"Windows-1252", "EN", "caf\xE9 \x80", "café €"},
-        {"Windows-1252 in German", "DE", "Z\xE4h", "Zäh"},
         {"Windows-1251", "RU", "\xC6\xE0\xF0", "Жар"},
         {"the last letter would begin a UTF-8 sequence", "FR", "Agilit\xE9", "Agilité"},
         {"and so would the only one", "DE", "\xC4", "Ä"},
-        {"and in Russian", "RU", "2 \xE8", "2 и"},
         {"only the mark", "EN", "\xFF\xFE", ""},
     };
     for (const auto& row : cases) {

@@ -95,11 +95,13 @@ TEST_P(Texts, InDropDownsAreWhole) {
 
 TEST(Fields, ShrinkTheirTextUntilItFits) {
     const FullWindow use(English);
-    use.form.txtNC.SetText("Swamp_drake_of_the_deep");
-    for (const char* name : {"txtAttack", "txtHealth", "txtExp", "txtPower", "txtGrowthf"}) {
-        auto* model = dynamic_cast<TextField*>(use.form.Find(name));
-        model->SetText(QString(model->MaxLength(), u'0'));
-    }
+    const auto& nameField = use.Find<QLineEdit>("txtNC");
+    QString name; // somewhat too wide, whatever the font
+    while (QFontMetrics(nameField.font()).horizontalAdvance(name) < nameField.width() * 5 / 4)
+        name += u'm';
+    for (Control* control : use.form.Controls())
+        if (auto* field = dynamic_cast<TextField*>(control))
+            field->SetText(field == &use.form.txtNC ? name : QString(field->MaxLength(), u'0'));
     use.ForEach<QLineEdit>([](const QLineEdit& field) {
         ExpectFits(field, field.text(), field.contentsRect().width() - 4);
         EXPECT_LE(QFontMetrics(field.font()).height(), field.height());
