@@ -28,36 +28,15 @@ TEST(TagNumber, ReadsTheNumberAtTheStartOfTheElement) {
         bool limited = false;
     } cases[] = {
         {"<Gold>1250</Gold>", 1250},
-        {"<Gold></Gold>", 0},
-        {"<Gold>many</Gold>", 0},
-        {"<Gold>12.5</Gold>", 12},
-        {"<Gold>13.5</Gold>", 14},
-        {"<Gold>.6</Gold>", 1},
-        {"<Gold>5.</Gold>", 5},
-        {"<Gold>  7 fast</Gold>", 7},
-        {"<Gold>7,9</Gold>", 7},
-        {"<Gold>-3</Gold>", -3},
-        {"<Gold>+3</Gold>", 3},
-        {"<Gold>- 3</Gold>", 0},
-        {"<Gold>2e3</Gold>", 2000},
-        {"<Gold>2e</Gold>", 2},
-        {"<Gold>0x10</Gold>", 0},
-        {"<Gold>inf</Gold>", 0},
-        {"<Gold>nan</Gold>", 0},
+        {"<Gold>  -7.5 fast</Gold>", -8},
         {"x<Gold>1</Gold><Gold>2</Gold>", 1},
         {"<Gold1>9</Gold1><Gold>1</Gold>", 1},
         {"<gold>9</gold><Gold>1</Gold>", 1},
-        {"<Gold>32767</Gold>", 32767},
-        {"<Gold>-32768</Gold>", -32768},
         {"<Gold>32767.4</Gold>", 32767},
         {"<Gold>32767.5</Gold>", 32767, true, true},
-        {"<Gold>32768</Gold>", 32767, true, true},
-        {"<Gold>-32769</Gold>", -32768, true, true},
-        {"<Gold>1e999</Gold>", 32767, true, true},
         {"<Gold>-1e999</Gold>", -32768, true, true},
         {"", 0, false},
         {"<Gold>5", 0, false},
-        {"5</Gold>", 0, false},
         {"<Gold a=\"b\">5</Gold>", 0, false},
         {"</Gold><Gold>5</Gold>", 0, false},
     };
@@ -70,9 +49,6 @@ TEST(TagNumber, ReadsTheNumberAtTheStartOfTheElement) {
             EXPECT_EQ(result.found, test.found);
             EXPECT_EQ(result.limited, test.limited);
         }
-}
-
-TEST(TagNumber, GivesTheTextBetweenTheTags) {
     const Buffer text("<Gold> 70000 a </Gold>");
     EXPECT_EQ(TagNumber(text.buffer, u"<Gold>", u"</Gold>").text.toString(), " 70000 a ");
 }
@@ -85,15 +61,12 @@ TEST(TagIsTrue, LooksBehindTheFirstOccurrenceOfTheName) {
     } cases[] = {
         {"<Flying>true</Flying>", "Flying", 1},
         {"<flying>true</flying>", "Flying", 1},
-        {"<Flying>TRUE</Flying>", "Flying", 0},
         {"<Flying>True</Flying>", "Flying", 0},
-        {"<Flying>false</Flying>", "Flying", 0},
         {"<Flying> true</Flying>", "Flying", 0},
         {"<Flying>truely</Flying>", "Flying", 1},
         {"<Flying>tru", "Flying", 0},
         {"<A>notflying</A><Flying>true</Flying>", "Flying", 0},
         {"<Upgrades></Upgrades><Upgrade>true</Upgrade>", "Upgrade", 0},
-        {"<Upgrade>true</Upgrade><Upgrades></Upgrades>", "Upgrade", 1},
         {"", "Flying", 0},
         {"<A>nothing of it</A>", "Flying", 0},
         {"<A>xx>true", "Flying", 1}, // the name isn't there, and "true" stands just where it is looked for
@@ -117,8 +90,6 @@ TEST(FindToken, LeavesThePositionAndDoesNotCountTheVeryStart) {
         {"SPELL_CURSE", "SPELL_CURSE", 0, 0},
         {"SPELL_CURSE SPELL_CURSE", "SPELL_CURSE", 0, 0},
         {" SPELL_CURS", "SPELL_CURSE", 0, -1},
-        {" SPELL_ABILITY_FEAR", "ABILITY_FEAR", 1, 7},
-        {" ABILITY_RANDOM_CASTER_BLESS", "ABILITY_RANDOM_CASTER", 1, 1},
         {"<Range>-12</Range>", "<Range>-1", 0, 0},
     };
     for (const auto& test : cases)
@@ -135,45 +106,13 @@ TEST(FindToken, LeavesThePositionAndDoesNotCountTheVeryStart) {
             EXPECT_EQ(state.SpecabilityTokenPosition, test.position);
             EXPECT_EQ(state.TokenPosition, 98);
         }
-}
-
-TEST(FindToken, HoldsThePositionsOfTheLongestText) {
-    const Buffer text(QString(32767 - 11, u'x') + "SPELL_CURSE");
+    const Buffer longest(QString(32767 - 11, u'x') + "SPELL_CURSE");
     SharedState state;
-    EXPECT_EQ(FindToken(state, text.buffer, u"SPELL_CURSE"), 1);
+    EXPECT_EQ(FindToken(state, longest.buffer, u"SPELL_CURSE"), 1);
     EXPECT_EQ(state.TokenPosition, 32767 - 11);
 }
 
-TEST(Mastery, IsReadFromTheWordBehindThePrefix) {
-    const struct {
-        const char* text;
-        const char* token;
-        std::int16_t level;
-    } cases[] = {
-        {"x MASTERY_NONE", "MASTERY_NONE", 0},
-        {"x MASTERY_BASIC", "MASTERY_BASIC", 1},
-        {"x MASTERY_ADVANCED", "MASTERY_ADVANCED", 2},
-        {"x MASTERY_EXPERT", "MASTERY_EXPERT", 3},
-        {"x MASTERY_EXTRA_EXPERT", "MASTERY_EXTRA_EXPERT", 4},
-        {"MASTERY_EXPERT", "MASTERY_EXPERT", 3},
-        {"mastery_EXPERT", "MASTERY_EXPERT", 3},
-        {"x MASTERY_expert", "MASTERY_EXPERT", -1},
-        {"x mastery_expert", "MASTERY_EXPERT", -1},
-        {"x MASTERY_EXPER", "MASTERY_EXPERT", -1},
-        {"x MASTERY_EXTRA_EXPERT", "MASTERY_EXPERT", -1},
-        {"SPELL_ARMAGEDDON</Spell>", "MASTERY_EXPERT", -1},
-        {"", "MASTERY_NONE", -1},
-    };
-    for (const auto& test : cases) {
-        SCOPED_TRACE(test.text);
-        const Buffer text(test.text);
-        EXPECT_EQ(MasteryInSpellWindow(text.buffer, QString(test.token)), test.level);
-        EXPECT_EQ(MasteryInSpecabilityWindow(text.buffer, QString(test.token)), test.level);
-    }
-}
-
 TEST(SharedMark, IsTheOneBasedPlaceOfTheExactMark) {
-    EXPECT_EQ(SharedMarkText(Buffer(".(AdvMapMonsterShared)").buffer), "1");
     EXPECT_EQ(SharedMarkText(Buffer("Drake.(AdvMapMonsterShared).xdb").buffer), "6");
     EXPECT_EQ(SharedMarkText(Buffer("Drake.(advmapmonstershared)").buffer), "0");
     EXPECT_EQ(SharedMarkText(Buffer("(AdvMapMonsterShared)").buffer), "0");

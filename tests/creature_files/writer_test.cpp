@@ -7,32 +7,31 @@ namespace Hesperin {
 
 namespace {
 
-/// The creature file of an almost empty window, changed by `act`.
-template <typename Act>
-QString TextAfter(Act act, const QString& name = "Test") {
-    TestProgram test;
-    act(test);
-    return BuildCreatureText(test.program, name);
-}
-
-TEST(Writer, WritesTheWholeFile) {
+TEST(Writer, WritesTheWholeFileInCatalogueOrder) {
     TestProgram test;
     MainForm& form = test.form;
-    const std::initializer_list<std::pair<TextField*, const char*>> fields{
-        {&form.txtAttack, "4"}, {&form.txtDefence, "3"},  {&form.txtShots, ""}, {&form.txtMinDam, "2"},
-        {&form.txtMaxDam, "3"}, {&form.txtHealth, "10"},  {&form.txtExp, "12"}, {&form.txtPower, "137"},
-        {&form.txtGoldf, "58"}, {&form.txtGrowthf, "99"}, {&form.txtIDC, "183"}};
-    for (const auto& [field, text] : fields)
-        field->SetText(text);
-    form.ComboInitiative.SetText("8");
-    for (const int ability : {29, 38, 65})
+    const std::pair<const char*, const char*> texts[] = {
+        {"txtAttack", "4"},   {"txtDefence", "3"},      {"txtMinDam", "2"},   {"txtMaxDam", "3"},   {"txtHealth", "10"},
+        {"ComboSpeed", "12"}, {"ComboInitiative", "8"}, {"ComboTier", "2"},   {"txtExp", "12"},     {"txtPower", "137"},
+        {"txtWoodf", "1"},    {"txtOref", "2"},         {"txtMercuryf", "3"}, {"txtCrystalf", "4"}, {"txtSulfurf", "5"},
+        {"txtGemf", "6"},     {"txtGoldf", "58"},       {"txtGrowthf", "99"}, {"txtIDC", "183"},    {"txtMana", "10"},
+        {"txtShots", "7"}};
+    for (const auto& [control, text] : texts)
+        test.SetText(control, text);
+    for (const int ability : {174, 29, 1, 38, 65, 66, 91, 147}) // five of them travel by other elements
         form.Abilities(ability).SetTicked(true);
-    form.Spells(46).SetTicked(true);
+    for (const int specability : {54, 0}) // the inert one is never written
+        form.Specabilities(specability).SetTicked(true);
+    for (const int spell : {91, 46})
+        form.Spells(spell).SetTicked(true);
+    form.saz(54).SetValue(2);
     form.soq(46).SetValue(1);
-    form.txtMana.SetText("10");
-    form.ComboTier.Select(1);
-    form.ComboAlias.Select(3);
+    form.ComboUpgrade.Select(1);
+    form.ComboFaction.Select(1);
     form.ComboFME.Select(3);
+    form.ComboSME.Select(4);
+    form.ComboRange.Select(2);
+    form.ComboTTC.Select(1);
     test.state.GrowthRolvane = 18;
     test.state.GrowthHesperin = 15;
 
@@ -41,12 +40,12 @@ TEST(Writer, WritesTheWholeFile) {
               "<Creature>\n"
               "\t<AttackSkill>4</AttackSkill>\n"
               "\t<DefenceSkill>3</DefenceSkill>\n"
-              "\t<Shots>0</Shots>\n"
+              "\t<Shots>7</Shots>\n"
               "\t<MinDamage>2</MinDamage>\n"
               "\t<MaxDamage>3</MaxDamage>\n"
-              "\t<Speed>5</Speed>\n"
+              "\t<Speed>12</Speed>\n"
               "\t<Initiative>8</Initiative>\n"
-              "\t<Flying>false</Flying>\n"
+              "\t<Flying>true</Flying>\n"
               "\t<Health>10</Health>\n"
               "\t<KnownSpells>\n"
               "\t\t<Item>\n"
@@ -54,47 +53,57 @@ TEST(Writer, WritesTheWholeFile) {
               "\t\t\t<Mastery>MASTERY_NONE</Mastery>\n"
               "\t\t</Item>\n"
               "\t\t<Item>\n"
+              "\t\t\t<Spell>SPELL_ABILITY_VENOM</Spell>\n"
+              "\t\t\t<Mastery>MASTERY_ADVANCED</Mastery>\n"
+              "\t\t</Item>\n"
+              "\t\t<Item>\n"
               "\t\t\t<Spell>SPELL_MAGIC_ARROW</Spell>\n"
               "\t\t\t<Mastery>MASTERY_BASIC</Mastery>\n"
+              "\t\t</Item>\n"
+              "\t\t<Item>\n"
+              "\t\t\t<Spell>SPELL_WEAKNESS</Spell>\n"
+              "\t\t\t<Mastery>MASTERY_NONE</Mastery>\n"
               "\t\t</Item>\n"
               "\t</KnownSpells>\n"
               "\t<SpellPoints>10</SpellPoints>\n"
               "\t<SpellPoints1>2</SpellPoints1>\n"
-              "\t<SpellPoints2>0</SpellPoints2>\n"
+              "\t<SpellPoints2>1</SpellPoints2>\n"
               "\t<Exp>12</Exp>\n"
               "\t<Power>137</Power>\n"
-              "\t<TimeToCommand>10</TimeToCommand>\n"
+              "\t<TimeToCommand>15</TimeToCommand>\n"
               "\t<CreatureTier>2</CreatureTier>\n"
-              "\t<Upgrade>false</Upgrade>\n"
+              "\t<Upgrade>true</Upgrade>\n"
               "\t<PairCreature>CREATURE_UNKNOWN</PairCreature>\n"
-              "\t<CreatureTown>TOWN_PRESERVE</CreatureTown>\n"
+              "\t<CreatureTown>TOWN_INFERNO</CreatureTown>\n"
               "\t<MagicElement>\n"
               "\t\t<First>ELEMENT_FIRE</First>\n"
-              "\t\t<Second>ELEMENT_NONE</Second>\n"
+              "\t\t<Second>ELEMENT_WATER</Second>\n"
               "\t</MagicElement>\n"
               "\t<WeeklyGrowth>16</WeeklyGrowth>\n"
               "\t<Cost>\n"
-              "\t\t<Wood>0</Wood>\n"
-              "\t\t<Ore>0</Ore>\n"
-              "\t\t<Mercury>0</Mercury>\n"
-              "\t\t<Crystal>0</Crystal>\n"
-              "\t\t<Sulfur>0</Sulfur>\n"
-              "\t\t<Gem>0</Gem>\n"
+              "\t\t<Wood>1</Wood>\n"
+              "\t\t<Ore>2</Ore>\n"
+              "\t\t<Mercury>3</Mercury>\n"
+              "\t\t<Crystal>4</Crystal>\n"
+              "\t\t<Sulfur>5</Sulfur>\n"
+              "\t\t<Gem>6</Gem>\n"
               "\t\t<Gold>58</Gold>\n"
               "\t</Cost>\n"
               "\t<SubjectOfRandomGeneration>true</SubjectOfRandomGeneration>\n"
               "\t<MonsterShared href=\"/MapObjects/Neutral/Swamp_drake.(AdvMapMonsterShared).xdb"
               "#xpointer(/AdvMapMonsterShared)\"/>\n"
-              "\t<CombatSize>1</CombatSize>\n"
+              "\t<CombatSize>2</CombatSize>\n"
               "\t<PatternAttack/>\n"
               "\t<flybySequence/>\n"
               "\t<Visual href=\"/GameMechanics/CreatureVisual/Creatures/Neutrals/Swamp_drake.xdb"
               "#xpointer(/CreatureVisual)\"/>\n"
-              "\t<Range>0</Range>\n"
+              "\t<Range>-2</Range>\n"
               "\t<BaseCreature>CREATURE_UNKNOWN</BaseCreature>\n"
               "\t<Upgrades/>\n"
               "\t<Abilities>\n"
+              "\t\t<Item>ABILITY_ACID_BLOOD</Item>\n"
               "\t\t<Item>ABILITY_DASH</Item>\n"
+              "\t\t<Item>ABILITY_WOUND</Item>\n"
               "\t</Abilities>\n"
               "</Creature>\r\n");
 }
@@ -106,49 +115,44 @@ struct PieceCase {
 };
 
 void ExpectPieces(std::initializer_list<PieceCase> cases) {
-    for (const PieceCase& test : cases) {
-        SCOPED_TRACE(test.what);
-        const QString text = TextAfter([&](TestProgram& program) { test.act(program.form); });
-        EXPECT_TRUE(text.contains(QString::fromUtf8(test.piece))) << text.toStdString();
+    for (const PieceCase& row : cases) {
+        SCOPED_TRACE(row.what);
+        TestProgram test;
+        row.act(test.form);
+        const QString text = BuildCreatureText(test.program, "Test");
+        EXPECT_TRUE(text.contains(QString::fromUtf8(row.piece))) << text.toStdString();
     }
 }
 
-TEST(Writer, TakesEveryValueFromItsOwnControl) {
+TEST(Writer, WritesWhatTheControlsHoldAsItStands) {
     ExpectPieces({
-        {"attack", [](MainForm& form) { form.txtAttack.SetText("a<&"); }, "<AttackSkill>a<&</AttackSkill>"},
-        {"empty field", [](MainForm& form) { form.txtExp.SetText({}); }, "\t<Exp></Exp>\n"},
-        {"shots", [](MainForm& form) { form.txtShots.SetText("7"); }, "<Shots>7</Shots>"},
+        {"markup", [](MainForm& form) { form.txtAttack.SetText("a<&"); }, "<AttackSkill>a<&</AttackSkill>"},
+        {"a pasted word", [](MainForm& form) { form.txtPower.SetText("сто"); }, "<Power>сто</Power>"},
+        {"an empty field", [](MainForm& form) { form.txtExp.SetText({}); }, "\t<Exp></Exp>\n"},
+        {"no mana", [](MainForm& form) { form.txtMana.SetText({}); }, "<SpellPoints>0</SpellPoints>"},
+        {"no shots", [](MainForm& form) { form.txtShots.SetText({}); }, "<Shots>0</Shots>"},
         {"mana of a creature that is no caster", [](MainForm& form) { form.txtMana.SetText("7"); },
          "<SpellPoints>7</SpellPoints>"},
-        {"no mana", [](MainForm& form) { form.txtMana.SetText({}); }, "<SpellPoints>0</SpellPoints>"},
-        {"typed speed", [](MainForm& form) { form.ComboSpeed.SetText("12"); }, "<Speed>12</Speed>"},
-        {"flyer", [](MainForm& form) { form.Abilities(66).SetTicked(true); }, "<Flying>true</Flying>"},
-        {"large", [](MainForm& form) { form.Abilities(91).SetTicked(true); }, "<CombatSize>2</CombatSize>"},
-        {"upgraded", [](MainForm& form) { form.ComboUpgrade.Select(1); }, "<Upgrade>true</Upgrade>"},
-        {"inferno", [](MainForm& form) { form.ComboFaction.Select(1); }, "<SpellPoints2>1</SpellPoints2>\n"},
-        {"inferno's town", [](MainForm& form) { form.ComboFaction.Select(1); }, "TOWN_INFERNO</CreatureTown>"},
-        {"haven", [](MainForm& form) { form.ComboFaction.Select(0); }, "<SpellPoints2>0</SpellPoints2>\n"},
+        {"no flyer", [](MainForm&) {}, "<Flying>false</Flying>"},
+        {"not large", [](MainForm&) {}, "<CombatSize>1</CombatSize>"},
+        {"not upgraded", [](MainForm&) {}, "<Upgrade>false</Upgrade>"},
         {"no town", [](MainForm&) {}, "<CreatureTown>TOWN_NO_TYPE</CreatureTown>"},
-        {"range", [](MainForm& form) { form.ComboRange.Select(2); }, "<Range>-2</Range>"},
-        {"time", [](MainForm& form) { form.ComboTTC.Select(1); }, "<TimeToCommand>15</TimeToCommand>"},
-        {"second element", [](MainForm& form) { form.ComboSME.Select(4); }, "<Second>ELEMENT_WATER</Second>"},
-        {"costs, each its own",
-         [](MainForm& form) {
-             int amount = 1;
-             for (TextField* field : {&form.txtWoodf, &form.txtOref, &form.txtMercuryf, &form.txtCrystalf,
-                                      &form.txtSulfurf, &form.txtGemf, &form.txtGoldf})
-                 field->SetText(QString::number(amount++));
-         },
-         "<Wood>1</Wood>\n\t\t<Ore>2</Ore>\n\t\t<Mercury>3</Mercury>\n\t\t<Crystal>4</Crystal>\n"
-         "\t\t<Sulfur>5</Sulfur>\n\t\t<Gem>6</Gem>\n\t\t<Gold>7</Gold>\n"},
-        {"a pasted word", [](MainForm& form) { form.txtPower.SetText(QString::fromUtf8("сто")); },
-         "<Power>сто</Power>"},
+        {"not inferno", [](MainForm& form) { form.ComboFaction.Select(0); }, "<SpellPoints2>0</SpellPoints2>\n"},
+        {"no range", [](MainForm&) {}, "<Range>0</Range>"},
+        {"no ability", [](MainForm&) {}, "\t<Upgrades/>\n</Creature>"},
+        {"abilities of other elements only", [](MainForm& form) { form.Abilities(66).SetTicked(true); },
+         "\t<Upgrades/>\n\t<Abilities>\n\t</Abilities>\n</Creature>"},
     });
 }
 
 TEST(Writer, WritesKnownSpellsByTheLastRuleOrForACaster) {
     const char* const none = "\t<KnownSpells/>\n\t<SpellPoints>";
     const char* const emptyList = "\t<KnownSpells>\n\t</KnownSpells>\n";
+    const auto lastRuleUnticked = [](MainForm& form) {
+        form.Specabilities(9).SetTicked(true);
+        form.Specabilities(1).SetTicked(true);
+        form.Specabilities(1).SetTicked(false);
+    };
     const auto hidesSpell = [](MainForm& form) {
         form.Abilities(29).SetTicked(true);
         form.Spells(2).SetTicked(true);
@@ -158,86 +162,15 @@ TEST(Writer, WritesKnownSpellsByTheLastRuleOrForACaster) {
     };
     ExpectPieces({
         {"nothing ticked", [](MainForm&) {}, none},
-        {"the last rule unticked",
-         [](MainForm& form) {
-             form.Specabilities(2).SetTicked(true);
-             form.Specabilities(9).SetTicked(true);
-             form.Specabilities(2).SetTicked(false);
-         },
-         none},
-        {"then nothing is charged either",
-         [](MainForm& form) {
-             form.Specabilities(9).SetTicked(true);
-             form.Specabilities(1).SetTicked(true);
-             form.Specabilities(1).SetTicked(false);
-         },
-         "<SpellPoints1>0</SpellPoints1>"},
+        {"the last rule unticked", lastRuleUnticked, none},
+        {"then nothing is charged either", lastRuleUnticked, "<SpellPoints1>0</SpellPoints1>"},
         {"HOWL alone", [](MainForm& form) { form.Abilities(75).SetTicked(true); }, emptyList},
         {"HOWL's charge", [](MainForm& form) { form.Abilities(75).SetTicked(true); }, "<SpellPoints1>1</SpellPoints1>"},
-        {"a linked pair's charge", [](MainForm& form) { form.Specabilities(9).SetTicked(true); },
-         "<SpellPoints1>2</SpellPoints1>"},
         {"a caster without spells", [](MainForm& form) { form.Abilities(29).SetTicked(true); }, emptyList},
         {"a spell on the page that is off", hidesSpell,
          "\t<KnownSpells>\n\t\t<Item>\n\t\t\t<Spell>SPELL_ANTI_MAGIC</Spell>\n"
          "\t\t\t<Mastery>MASTERY_EXTRA_EXPERT</Mastery>\n\t\t</Item>\n\t</KnownSpells>\n"},
     });
-}
-
-TEST(Writer, WritesSpecialAbilitiesBeforeSpellsInCatalogueOrder) {
-    const QString text = TextAfter([](TestProgram& test) {
-        test.form.Specabilities(0).SetTicked(true);
-        for (const int i : {91, 1})
-            test.form.Spells(i).SetTicked(true);
-        for (const int j : {54, 1})
-            test.form.Specabilities(j).SetTicked(true);
-        test.form.saz(54).SetValue(2);
-        test.form.soq(1).SetValue(3);
-    });
-    QStringList known;
-    for (const QString& line : text.split('\n'))
-        if (line.startsWith("\t\t\t"))
-            known.append(line.trimmed());
-    EXPECT_EQ(known, (QStringList{"<Spell>SPELL_ABILITY_AGILITY</Spell>", "<Mastery>MASTERY_NONE</Mastery>",
-                                  "<Spell>SPELL_ABILITY_VENOM</Spell>", "<Mastery>MASTERY_ADVANCED</Mastery>",
-                                  "<Spell>SPELL_ANIMATE_DEAD</Spell>", "<Mastery>MASTERY_EXPERT</Mastery>",
-                                  "<Spell>SPELL_WEAKNESS</Spell>", "<Mastery>MASTERY_NONE</Mastery>"}));
-}
-
-TEST(Writer, LeavesFiveAbilitiesToOtherElements) {
-    const struct {
-        QList<int> ticked;
-        const char* end;
-    } cases[] = {
-        {{}, "\t<Upgrades/>\n</Creature>"},
-        {{29}, "\t<Upgrades/>\n\t<Abilities>\n\t</Abilities>\n</Creature>"},
-        {{29, 65, 66, 91, 147}, "\t<Upgrades/>\n\t<Abilities>\n\t</Abilities>\n</Creature>"},
-        {{174, 66, 1, 164},
-         "\t<Upgrades/>\n\t<Abilities>\n\t\t<Item>ABILITY_ACID_BLOOD</"
-         "Item>\n\t\t<Item>ABILITY_UNDEAD</Item>\n"
-         "\t\t<Item>ABILITY_WOUND</Item>\n\t</Abilities>\n</Creature>"},
-    };
-    for (const auto& test : cases) {
-        const QString text = TextAfter([&](TestProgram& program) {
-            for (const int i : test.ticked)
-                program.form.Abilities(i).SetTicked(true);
-        });
-        EXPECT_TRUE(text.endsWith(test.end)) << text.toStdString();
-    }
-}
-
-TEST(Writer, WritesTheMeanOfTheTwoGrowths) {
-    const struct {
-        std::int16_t rolvane, hesperin;
-        const char* growth;
-    } cases[] = {{0, 0, ">1<"}, {1, 0, ">1<"}, {0, 3, ">1<"}, {2, 2, ">2<"}, {18, 15, ">16<"}, {1000, 812, ">906<"}};
-    for (const auto& test : cases) {
-        const QString text = TextAfter([&](TestProgram& program) {
-            program.state.GrowthRolvane = test.rolvane;
-            program.state.GrowthHesperin = test.hesperin;
-            program.form.txtGrowthf.SetText("77");
-        });
-        EXPECT_TRUE(text.contains("WeeklyGrowth" + QString(test.growth))) << test.rolvane << ' ' << test.hesperin;
-    }
 }
 
 } // namespace

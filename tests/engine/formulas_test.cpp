@@ -23,56 +23,32 @@ Figures Of(double rolvane, double hesperin, std::int16_t tier, float upgradeFact
 }
 
 TEST(Formulas, WorkedExamples) {
-    // Worked out by hand from the formulas, with a pocket calculator's precision.
+    // Worked out by hand from the formulas, with a pocket calculator's precision: power, experience,
+    // growth and cost, each by the first method, by the second and their average.
+    using Results = std::vector<double>;
     const struct {
         const char* what;
         Creature creature;
-        double powers[3]; // first method, second method, average
-        double experience[3];
-        double growth[3];
-        double cost[3];
+        Results expected;
     } cases[] = {
-        {"plain creature",
-         {4, 3, 10, 2, 3, 5, 10, 2, 1, 1, false},
-         {129, 146, 137},
-         {11, 13, 12},
-         {18, 15, 16},
-         {54, 63, 58}},
-        {"the same, upgraded",
+        {"plain", {4, 3, 10, 2, 3, 5, 10, 2, 1, 1, false}, {129, 146, 137, 11, 13, 12, 18, 15, 16, 54, 63, 58}},
+        {"upgraded",
          {4, 3, 10, 2, 3, 5, 10, 2, 1, Upgraded, false},
-         {129, 146, 137},
-         {11, 13, 12},
-         {11, 15, 13},
-         {54, 63, 58}},
-        {"shooter",
-         {7, 7, 16, 4, 7, 5, 8, 3, 1.2F, 1, true},
-         {312, 310, 311},
-         {26, 25, 25},
-         {9, 7, 8},
-         {133, 166, 149}},
-        {"everything 1", {1, 1, 1, 1, 1, 1, 1, 1, 1, 1, false}, {2, 8, 5}, {1, 0, 1}, {1000, 812, 906}, {1, 1, 1}},
+         {129, 146, 137, 11, 13, 12, 11, 15, 13, 54, 63, 58}},
+        {"shooter", {7, 7, 16, 4, 7, 5, 8, 3, 1.2F, 1, true}, {312, 310, 311, 26, 25, 25, 9, 7, 8, 133, 166, 149}},
+        {"everything 1", {1, 1, 1, 1, 1, 1, 1, 1, 1, 1, false}, {2, 8, 5, 1, 0, 1, 1000, 812, 906, 1, 1, 1}},
     };
     for (const auto& row : cases) {
-        SCOPED_TRACE(row.what);
         const Powers powers = ComputePowers(row.creature);
-        const Figures figures = ComputeFigures(row.creature, powers);
-        EXPECT_EQ(powers.PowerRolvane, row.powers[0]);
-        EXPECT_EQ(powers.PowerHesperin, row.powers[1]);
-        EXPECT_EQ(figures.PowerAverage, row.powers[2]);
-        EXPECT_EQ(figures.ExpRolvane, row.experience[0]);
-        EXPECT_EQ(figures.ExpHesperin, row.experience[1]);
-        EXPECT_EQ(figures.ExpAverage, row.experience[2]);
-        EXPECT_EQ(figures.GrowthRolvane, row.growth[0]);
-        EXPECT_EQ(figures.GrowthHesperin, row.growth[1]);
-        EXPECT_EQ(figures.GrowthAverage, row.growth[2]);
-        EXPECT_EQ(figures.CostRolvane, row.cost[0]);
-        EXPECT_EQ(figures.CostHesperin, row.cost[1]);
-        EXPECT_EQ(figures.CostAverage, row.cost[2]);
+        const Figures f = ComputeFigures(row.creature, powers);
+        EXPECT_EQ(
+            (Results{powers.PowerRolvane, powers.PowerHesperin, f.PowerAverage, double(f.ExpRolvane),
+                     double(f.ExpHesperin), double(f.ExpAverage), double(f.GrowthRolvane), double(f.GrowthHesperin),
+                     double(f.GrowthAverage), f.CostRolvane, f.CostHesperin, f.CostAverage}),
+            row.expected)
+            << row.what;
     }
-}
-
-TEST(Formulas, ScoresOfTheWorkedExample) {
-    const Powers powers = ComputePowers({4, 3, 10, 2, 3, 5, 10, 2, 1, 1, false});
+    const Powers powers = ComputePowers(cases[0].creature);
     EXPECT_NEAR(powers.OffenceScore, 2.8688075, 1e-7);
     EXPECT_NEAR(powers.DefenceScore, 10.8637395, 1e-7);
 }
@@ -103,61 +79,49 @@ TEST(Formulas, SpeedCountsInTheFirstMethodOnlyAndAShooterLeansOnInitiative) {
     EXPECT_EQ(ComputePowers(creature).PowerRolvane, 146);
 }
 
-TEST(Formulas, GrowthIsFixedFromTierFiveOn) {
-    constexpr std::int16_t fixed[] = {3, 2, 1, 1};
-    for (std::int16_t tier = 5; tier <= 8; ++tier)
-        for (const double power : {1.0, 3000.0, 1e6})
-            for (const float factor : {1.0F, Upgraded}) {
-                SCOPED_TRACE(testing::Message() << "tier " << tier << ", Power " << power);
-                const Figures figures = Of(power, power, tier, factor);
-                EXPECT_EQ(figures.GrowthRolvane, fixed[tier - 5]);
-                EXPECT_EQ(figures.GrowthHesperin, fixed[tier - 5]);
-                EXPECT_EQ(figures.GrowthAverage, fixed[tier - 5]);
-            }
-    EXPECT_EQ(Of(365, 365, 4).GrowthRolvane, 10); // 3650 / 365
-}
-
 TEST(Formulas, EveryTierHasItsOwnConstants) {
     // At a Power of 1000 by both methods. The 32-bit floats next to 0.35, 0.48 and 0.59 lie below
-    // them, so that a thousand times each falls short of the whole number.
+    // them, so that a thousand times each falls short of the whole number. From tier 5 on growth is
+    // fixed.
     const struct {
         std::int16_t tier;
         std::int16_t experience;
         std::int16_t numerator;
         std::int16_t upgradedNumerator;
+        std::int16_t growthRolvane;
+        std::int16_t growthHesperin;
         double costRolvane;
         double costHesperin;
     } cases[] = {
-        {1, 100, 2000, 1250, 349, 466}, {2, 90, 2400, 1500, 400, 633}, {3, 83, 2900, 1812, 430, 625},
-        {4, 71, 3650, 2281, 479, 700},  {5, 62, 4650, 2906, 589, 785}, {6, 55, 5000, 3125, 680, 850},
-        {7, 50, 7000, 4375, 750, 818},  {8, 45, 9000, 5625, 800, 803},
+        {1, 100, 2000, 1250, 2, 1, 349, 466}, {2, 90, 2400, 1500, 2, 1, 400, 633}, {3, 83, 2900, 1812, 2, 2, 430, 625},
+        {4, 71, 3650, 2281, 3, 2, 479, 700},  {5, 62, 4650, 2906, 3, 3, 589, 785}, {6, 55, 5000, 3125, 2, 2, 680, 850},
+        {7, 50, 7000, 4375, 1, 1, 750, 818},  {8, 45, 9000, 5625, 1, 1, 800, 803},
     };
     for (const auto& row : cases) {
         SCOPED_TRACE(row.tier);
         const Figures figures = Of(1000, 1000, row.tier);
+        const Figures upgraded = Of(1000, 1000, row.tier, Upgraded);
         EXPECT_EQ(figures.ExpRolvane, row.experience);
         EXPECT_EQ(figures.ExpHesperin, row.experience);
         EXPECT_EQ(figures.GrowthNumerator, row.numerator);
-        EXPECT_EQ(Of(1000, 1000, row.tier, Upgraded).GrowthNumerator, row.upgradedNumerator);
+        EXPECT_EQ(upgraded.GrowthNumerator, row.upgradedNumerator);
+        EXPECT_EQ(figures.GrowthRolvane, row.growthRolvane);
+        EXPECT_EQ(figures.GrowthHesperin, row.growthHesperin);
+        EXPECT_TRUE(row.tier < 5 || upgraded.GrowthRolvane == row.growthRolvane);
         EXPECT_EQ(figures.CostRolvane, row.costRolvane);
         EXPECT_EQ(figures.CostHesperin, row.costHesperin);
     }
+    EXPECT_EQ(Of(365, 365, 4).GrowthRolvane, 10); // 3650 / 365
 }
 
 TEST(Formulas, TheSecondMethodsCostStaysAtTheGoldBaseAcrossItsZeroBand) {
     // At tier 1 the divisor is 3250 / Power: 1 from 1626 to 3250, 0 up to 6372, 1 again above.
-    const struct {
-        double power;
-        double divisor;
-        double cost;
-    } cases[] = {{1083, 3, 466},  {1084, 2, 700},  {1625, 2, 700},  {1626, 1, 1400}, {3250, 1, 1400},
-                 {3251, 0, 1400}, {6372, 0, 1400}, {6373, 1, 1400}, {1e6, 1, 1400}};
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.power);
-        const Figures figures = Of(row.power, row.power, 1);
-        EXPECT_EQ(figures.CostDivisor, row.divisor);
-        EXPECT_EQ(figures.CostHesperin, row.cost);
-    }
+    const std::pair<double, double> costs[] = {{1083, 466},  {1084, 700},  {1625, 700},  {1626, 1400}, {3250, 1400},
+                                               {3251, 1400}, {6372, 1400}, {6373, 1400}, {1e6, 1400}};
+    for (const auto& [power, cost] : costs)
+        EXPECT_EQ(Of(power, power, 1).CostHesperin, cost) << power;
+    for (const auto& [power, divisor] : {std::pair(3250.0, 1), {3251.0, 0}, {6372.0, 0}, {6373.0, 1}})
+        EXPECT_EQ(Of(power, power, 1).CostDivisor, divisor) << power;
     EXPECT_EQ(Of(15000, 15000, 8).CostHesperin, 11250); // 14625 / 15000
 }
 

@@ -52,13 +52,6 @@ private:
     std::mt19937 random{20240217};
 };
 
-void ExpectNaiveResults(const TextBuffer& buffer, const QString& text, const QString& needle) {
-    EXPECT_EQ(buffer.ExactSearch(needle), NaiveFind(text, needle, true) + 1)
-        << needle.toStdString() << " in a text of " << text.size();
-    EXPECT_EQ(buffer.LooseSearch(needle), NaiveFind(text, needle, false))
-        << needle.toStdString() << " in a text of " << text.size();
-}
-
 TEST(TextBuffer, FindsWhatANaiveSearchFinds) {
     constexpr qsizetype lengths[] = {0, 1, 3, 4, 5, 12, 64, 128, 255, 256, 257, 300, 1000, 24000, 32767, 32768};
     Source source;
@@ -67,31 +60,25 @@ TEST(TextBuffer, FindsWhatANaiveSearchFinds) {
     for (int round = 0; round < 400; ++round) {
         const QString text = source.Text(lengths[source.Below(std::size(lengths))]);
         buffer.SetText(text);
-        for (int needles = 0; needles < 12; ++needles)
-            ExpectNaiveResults(buffer, text, source.Needle(text));
-        ASSERT_FALSE(HasFailure()) << "in round " << round;
+        for (int needles = 0; needles < 12; ++needles) {
+            const QString needle = source.Needle(text);
+            SCOPED_TRACE(needle.toStdString() + " in a text of " + std::to_string(text.size()));
+            ASSERT_EQ(buffer.ExactSearch(needle), NaiveFind(text, needle, true) + 1);
+            ASSERT_EQ(buffer.LooseSearch(needle), NaiveFind(text, needle, false));
+        }
     }
 }
 
-TEST(TextBuffer, FindsNeedlesAtBothEndsOfLongTexts) {
+TEST(TextBuffer, FindsNothingThatReachesPastTheEndsOfALongText) {
     ControlRegistry registry;
     TextBuffer buffer(registry, "buffer");
-    for (const qsizetype length : {255, 256, 32767, 40000}) {
-        SCOPED_TRACE(length);
-        QString text(length, u'.');
-        text.replace(0, 6, "<Head>");
-        text.replace(length - 6, 6, "</Жя>!");
-        buffer.SetText(text);
-        EXPECT_EQ(buffer.ExactSearch(u"<Head>"), 1);
-        EXPECT_EQ(buffer.LooseSearch(u"<hEAD>"), 0);
-        EXPECT_EQ(buffer.ExactSearch(u"<head>"), 0);
-        EXPECT_EQ(buffer.ExactSearch(u"</Жя>!"), length - 5);
-        EXPECT_EQ(buffer.LooseSearch(u"</жЯ>!"), length - 6);
-        EXPECT_EQ(buffer.LooseSearch(u"</Жя>!!"), -1); // reaches past the end
-        EXPECT_EQ(buffer.LooseSearch(u"!<Head>"), -1); // begins before the text
-        EXPECT_EQ(buffer.ExactSearch(text), 1);
-        EXPECT_EQ(buffer.ExactSearch(text + u'.'), 0);
-    }
+    const QString text = "<Head>" + QString(400, u'.') + "</Жя>!";
+    buffer.SetText(text);
+    EXPECT_EQ(buffer.LooseSearch(u"</жЯ>!"), 406);
+    EXPECT_EQ(buffer.LooseSearch(u"</Жя>!!"), -1);
+    EXPECT_EQ(buffer.LooseSearch(u"!<Head>"), -1);
+    EXPECT_EQ(buffer.ExactSearch(text), 1);
+    EXPECT_EQ(buffer.ExactSearch(text + u'.'), 0);
 }
 
 TEST(TextBuffer, ANewTextLeavesNothingOfTheOldOneBehind) {

@@ -1,8 +1,9 @@
 #include "support/test_program.h"
 
+#include "form/result_labels.h"
 #include "ui/form_load.h"
 
-#include <QFile>
+#include <QDir>
 
 namespace Hesperin {
 
@@ -14,24 +15,56 @@ TestProgram::TestProgram(std::uint8_t language, Start start) {
 }
 
 QString TestProgram::Write(const QString& name, const QByteArray& bytes) const {
-    QFile file(Path(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("a test could not write its file");
-    return file.fileName();
+    WriteFile(Path(name), bytes);
+    return Path(name);
+}
+
+void TestProgram::SetText(const QString& control, const QString& text) const {
+    Control* found = form.Find(control);
+    if (auto* field = dynamic_cast<TextField*>(found))
+        field->SetText(text);
+    else
+        dynamic_cast<ComboBox&>(*found).SetText(text);
 }
 
 void TestProgram::FillInCreature() {
-    form.txtNC.SetText("Test");
-    form.txtAttack.SetText("4");
-    form.txtDefence.SetText("3");
-    form.txtMinDam.SetText("2");
-    form.txtMaxDam.SetText("3");
-    form.txtHealth.SetText("10");
+    const std::pair<const char*, const char*> texts[] = {{"txtNC", "Test"},  {"txtAttack", "4"}, {"txtDefence", "3"},
+                                                         {"txtMinDam", "2"}, {"txtMaxDam", "3"}, {"txtHealth", "10"}};
+    for (const auto& [field, text] : texts)
+        SetText(field, text);
+}
+
+QString TestProgram::Results() const {
+    QStringList captions;
+    for (const auto label : ResultLabels)
+        captions.append((form.*label).Caption());
+    return captions.join(' ');
+}
+
+QStringList TestProgram::Ticked() const {
+    QStringList names;
+    for (const Control* control : form.Controls())
+        if (const auto* box = dynamic_cast<const CheckBox*>(control); box != nullptr && box->Ticked())
+            names.append(box->Name());
+    return names;
+}
+
+void WriteFile(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    if (!QDir().mkpath(QFileInfo(path).path()) || !file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("a test could not write its file");
 }
 
 QByteArray ReadAll(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+std::uint32_t Hash(const QString& text) {
+    std::uint32_t hash = 2166136261U;
+    for (const QChar unit : text)
+        hash = (hash ^ unit.unicode()) * 16777619U;
+    return hash;
 }
 
 } // namespace Hesperin

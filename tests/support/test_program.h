@@ -26,8 +26,17 @@ struct TestProgram {
     /// Writes a file into the test's folder and gives its path.
     QString Write(const QString& name, const QByteArray& bytes) const;
 
+    /// Writes a text into a field or list.
+    void SetText(const QString& control, const QString& text) const;
+
     /// Fills in a valid creature: attack 4, defence 3, damage 2 to 3, health 10, name "Test".
     void FillInCreature();
+
+    /// What the labels of the results show.
+    QString Results() const;
+
+    /// Names of all ticked boxes.
+    QStringList Ticked() const;
 
     /// Texts of the boxes that `act` shows.
     template <typename Act>
@@ -38,8 +47,14 @@ struct TestProgram {
     }
 };
 
+/// Writes a file, in folders made for it.
+void WriteFile(const QString& path, const QByteArray& bytes);
+
 /// The content of a file, empty when it can't be read.
 QByteArray ReadAll(const QString& path);
+
+/// 32-bit FNV-1a over the UTF-16 units.
+std::uint32_t Hash(const QString& text);
 
 } // namespace Hesperin
 

@@ -18,26 +18,6 @@ void OpenAllFields(const WindowInUse& use) {
 
 QString TextOf(const WindowInUse& use, const QString& field) { return use.Find<QLineEdit>(field).text(); }
 
-TEST(Fields, TakeTypedKeysThatTheyKnowUpToTheirLength) {
-    const struct {
-        const char* field;
-        const char* expected;
-    } cases[] = {
-        {"txtNC", "aZ_bc"},      {"txtAttack", "12"},  {"txtDefence", "12"},     {"txtMinDam", "12"},
-        {"txtMaxDam", "12"},     {"txtHealth", "123"}, {"txtShots", "12"},       {"txtMana", "123"},
-        {"txtPower", "12345"},   {"txtExp", "1234"},   {"txtGoldf", "1234"},     {"txtGrowthf", "12345"},
-        {"txtWoodf", "12345"},   {"txtOref", "1234"},  {"txtMercuryf", "12345"}, {"txtCrystalf", "1234"},
-        {"txtSulfurf", "12345"}, {"txtGemf", "1234"},
-    };
-    const WindowInUse use;
-    OpenAllFields(use);
-    for (const auto& test : cases) {
-        use.Type(test.field, "a-1Z.2_ 3/b4:c56");
-        EXPECT_EQ(TextOf(use, test.field), test.expected) << test.field;
-    }
-    EXPECT_EQ(Disagreements(use), "");
-}
-
 TEST(Fields, AreTypedIntoWhereTheCursorStands) {
     const WindowInUse use;
     use.Type("txtHealth", "13");
@@ -55,73 +35,57 @@ TEST(Fields, AreTypedIntoWhereTheCursorStands) {
     EXPECT_EQ(use.form.txtHealth.Text(), "7");
 }
 
-TEST(Fields, HaveNoKeyThatGetsRoundTheirFilter) {
+TEST(Fields, HaveNoWayRoundTheirFilter) {
+    const WindowInUse use;
+    auto& field = use.Find<QLineEdit>("txtAttack");
+    const auto expectAfter = [&](QEvent&& event, const char* expected) {
+        use.Type("txtAttack", "4");
+        QApplication::sendEvent(&field, &event);
+        EXPECT_EQ(field.text(), expected);
+        EXPECT_EQ(use.form.txtAttack.Text(), expected);
+    };
     const struct {
         Qt::KeyboardModifiers modifiers;
         QString typed;
         const char* expected;
-    } cases[] = {
+    } keys[] = {
         {Qt::NoModifier, "x", "4"},           {Qt::KeypadModifier, "7", "47"},
         {Qt::ShiftModifier, "X", "4"},        {Qt::AltModifier, "x", "4"},
         {Qt::MetaModifier, "x", "4"},         {Qt::ControlModifier | Qt::AltModifier, "x", "4"},
         {Qt::NoModifier, QChar(0x200D), "4"}, {Qt::NoModifier, QChar(0xE000), "4"},
     };
-    const WindowInUse use;
-    auto& field = use.Find<QLineEdit>("txtAttack");
-    for (const auto& test : cases) {
-        use.Type("txtAttack", "4");
-        QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, test.modifiers, test.typed);
-        QApplication::sendEvent(&field, &press);
-        EXPECT_EQ(field.text(), test.expected) << test.modifiers.toInt() << ' ' << test.typed.toStdString();
+    for (const auto& row : keys) {
+        SCOPED_TRACE(testing::Message() << row.modifiers.toInt() << ' ' << row.typed.toStdString());
+        expectAfter(QKeyEvent(QEvent::KeyPress, Qt::Key_unknown, row.modifiers, row.typed), row.expected);
     }
-}
-
-TEST(Fields, FilterWhatAnInputMethodTypes) {
-    const struct {
-        const char* committed;
-        const char* expected;
-    } cases[] = {{"x", "4"}, {"7", "47"}, {"78", "4"}, {"7x", "4"}};
-    const WindowInUse use;
-    auto& field = use.Find<QLineEdit>("txtAttack");
-    for (const auto& test : cases) {
-        use.Type("txtAttack", "4");
+    for (const char* committed : {"x", "7", "78", "7x"}) {
+        SCOPED_TRACE(committed);
         QInputMethodEvent input;
-        input.setCommitString(test.committed);
-        QApplication::sendEvent(&field, &input);
-        EXPECT_EQ(field.text(), test.expected) << test.committed;
-        EXPECT_EQ(use.form.txtAttack.Text(), test.expected) << test.committed;
+        input.setCommitString(committed);
+        expectAfter(std::move(input), QString(committed) == "7" ? "47" : "4");
     }
 }
 
 TEST(Fields, LetAPastePass) {
     const WindowInUse use;
-    for (const char* field : {"txtAttack", "txtNC", "txtGemf"}) {
-        QGuiApplication::clipboard()->setText("-12.5 drake99");
-        use.Type(field, "");
-        use.Key(Qt::Key_V, Qt::ControlModifier);
-        EXPECT_EQ(TextOf(use, field), "-12.5 drake99") << field;
-    }
-    EXPECT_EQ(use.form.txtAttack.Text(), "-12.5 drake99");
+    QGuiApplication::clipboard()->setText("-12.5 drake99");
+    use.Type("txtAttack", "");
+    use.Key(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(TextOf(use, "txtAttack"), "-12.5 drake99");
     EXPECT_EQ(Disagreements(use), "");
 }
 
-TEST(Fields, CopyWithTheKeysThatTheMenuHasToo) {
-    const WindowInUse use;
+TEST(Fields, LeaveNoKeyToTheWindow) {
+    WindowInUse use;
     use.Type("txtNC", "Drake");
     use.Key(Qt::Key_A, Qt::ControlModifier); // not the about window
     use.Key(Qt::Key_C, Qt::ControlModifier); // not the calculator
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "Drake");
     EXPECT_TRUE(use.form.frmMain.Enabled()) << "a secondary window has opened";
-}
-
-TEST(Fields, PressNothingOnReturn) {
-    WindowInUse use;
-    use.Type("txtNC", "Drake");
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
         use.Key(key);
     EXPECT_TRUE(use.answers.boxes.empty());
     EXPECT_EQ(use.window->windowTitle(), "TALMIR v0.0.0.44");
-    EXPECT_EQ(TextOf(use, "txtNC"), "Drake");
 }
 
 TEST(Lists, DoNotTurnUnderAWheelThatScrollsPast) {
@@ -161,22 +125,6 @@ TEST(Lists, ChooseByKeyboard) {
         EXPECT_EQ(use.Find<QComboBox>(step.list).currentText(), step.expected) << step.list;
         EXPECT_EQ(Disagreements(use), "");
     }
-    EXPECT_EQ(use.form.ComboAlias.Text(), "HEAVEN");
-    EXPECT_EQ(use.form.ComboTTC.Text(), "15");
-    EXPECT_FLOAT_EQ(use.state.UpgradeFactor, 1.6F);
-}
-
-TEST(Lists, ChooseByMouse) {
-    const WindowInUse use;
-    use.Choose("ComboTier", 4);
-    EXPECT_EQ(use.form.ComboTier.Text(), "5");
-    use.Choose("ComboFME", 1);
-    use.Choose("ComboSME", 1);
-    EXPECT_EQ(use.form.ComboFME.Text(), "Air");
-    EXPECT_EQ(use.form.ComboSME.Text(), "None");
-    use.Choose("ComboFaction", 3);
-    EXPECT_EQ(use.form.ComboAlias.Text(), "PRESERVE");
-    EXPECT_EQ(Disagreements(use), "");
 }
 
 TEST(Lists, ShowATextThatIsNoneOfTheirEntries) {
@@ -198,19 +146,6 @@ TEST(Lists, ShowATextThatIsNoneOfTheirEntries) {
     EXPECT_EQ(picture(), byText);
 }
 
-TEST(Lists, LoseTheirChoiceWithALanguageButNotTheGamesWord) {
-    const WindowInUse use;
-    use.Choose("ComboFaction", 1);
-    use.PickLanguage("mnuRussian");
-    auto& list = use.Find<QComboBox>("ComboFaction");
-    EXPECT_EQ(list.currentIndex(), -1);
-    EXPECT_EQ(use.form.ComboAlias.Text(), "INFERNO");
-    list.setFocus();
-    use.Key(Qt::Key_Down);
-    EXPECT_EQ(list.currentText(), "Орден Порядка");
-    EXPECT_EQ(use.form.ComboAlias.Text(), "HEAVEN");
-}
-
 /// Names of the widgets that the tab key reaches, from `first` until it comes back there.
 QStringList TabRound(const WindowInUse& use, const QString& first) {
     use.Find(first).setFocus();
@@ -222,18 +157,7 @@ QStringList TabRound(const WindowInUse& use, const QString& first) {
     return names;
 }
 
-TEST(TabKey, GoesInReadingOrder) {
-    const WindowInUse use;
-    OpenAllFields(use);
-    use.ShowPage(0);
-    EXPECT_EQ(TabRound(use, "txtNC").join(' '),
-              "txtNC txtAttack txtDefence txtMinDam txtMaxDam txtHealth ComboTier ComboSpeed "
-              "ComboInitiative ComboFaction ComboFME ComboUpgrade ComboSME txtPower txtExp txtShots "
-              "ComboRange txtGrowthf txtGoldf txtMana ComboTTC txtWoodf txtOref txtMercuryf "
-              "txtCrystalf txtSulfurf txtGemf cmdCalc cmdRAP cmdRAA cmdRAS cmdResetAll Tablus.Bar");
-}
-
-TEST(TabKey, ReachesEveryControlThatTheUserMayOperate) {
+TEST(TabKey, ReachesInReadingOrderWhatTheUserMayOperate) {
     const WindowInUse use;
     OpenAllFields(use);
     for (int index = 1; index <= 54; index += 2) {
@@ -242,20 +166,27 @@ TEST(TabKey, ReachesEveryControlThatTheUserMayOperate) {
     }
     use.form.Tablus.Tab(4).Switch(true);
     for (int page = 0; page < 5; ++page) {
+        SCOPED_TRACE(page);
         use.ShowPage(page);
         QStringList operable{"Tablus.Bar"};
         for (const Control* control : use.form.Controls()) {
             const QWidget* widget = use.window->WidgetOf(*control);
-            if (widget == nullptr || !widget->isVisible() || !control->Usable())
-                continue;
-            if (!dynamic_cast<const Frame*>(control) && !dynamic_cast<const Label*>(control) &&
+            const bool isShown = widget != nullptr && widget->isVisible() && control->Usable();
+            if (isShown && !dynamic_cast<const Frame*>(control) && !dynamic_cast<const Label*>(control) &&
                 !dynamic_cast<const TabPage*>(control) && control->Name() != "Tablus")
                 operable.append(control->Name());
         }
         QStringList reached = TabRound(use, "Tablus.Bar");
-        EXPECT_EQ(QSet<QString>(reached.begin(), reached.end()), QSet<QString>(operable.begin(), operable.end()))
-            << "page " << page;
-        EXPECT_EQ(reached.size(), operable.size()) << "page " << page;
+        if (page == 0) {
+            EXPECT_EQ(reached.join(' '),
+                      "Tablus.Bar txtNC txtAttack txtDefence txtMinDam txtMaxDam txtHealth ComboTier ComboSpeed "
+                      "ComboInitiative ComboFaction ComboFME ComboUpgrade ComboSME txtPower txtExp txtShots "
+                      "ComboRange txtGrowthf txtGoldf txtMana ComboTTC txtWoodf txtOref txtMercuryf "
+                      "txtCrystalf txtSulfurf txtGemf cmdCalc cmdRAP cmdRAA cmdRAS cmdResetAll");
+        }
+        reached.sort();
+        operable.sort();
+        EXPECT_EQ(reached, operable);
     }
 }
 

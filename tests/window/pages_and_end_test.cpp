@@ -30,16 +30,9 @@ TEST(Pages, AHiddenPageGivesWayToTheFirst) {
     EXPECT_EQ(Disagreements(use), "");
 }
 
-TEST(Pages, HaveTheirCaptionsInTheLanguageOfTheMoment) {
-    const QStringList captions[] = {{"Parametres", "Abilities", "Spells", "Specabilities", "XDB"},
-                                    {"Характеристики", "Способности", "Заклинания", "Особые способности", "XDB"}};
-    const WindowInUse use(Russian);
+TEST(Pages, ALongCaptionIsShortenedToItsEnd) {
+    const WindowInUse use;
     const auto& bar = use.Find<QTabBar>("Tablus.Bar");
-    for (const bool russian : {true, false}) {
-        for (int page = 0; page < 5; ++page)
-            EXPECT_EQ(bar.tabText(page), captions[russian][page]);
-        use.PickLanguage("mnuEnglish");
-    }
     use.form.Tablus.Tab(4).SetCaption("/home/" + QString("long").repeated(100) + "/drake.xdb");
     EXPECT_LE(bar.tabRect(4).width(), use.window->width() / 2);
     EXPECT_TRUE(bar.tabText(4).endsWith(".xdb"));
@@ -76,21 +69,16 @@ bool Drop(const WindowInUse& use, const QList<QUrl>& files) {
     return true;
 }
 
-TEST(Drop, OpensTheFile) {
-    WindowInUse use;
-    EXPECT_TRUE(Drop(use, {QUrl::fromLocalFile(Sample)}));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return use.form.Tablus.Tab(4).On(); }));
-    EXPECT_EQ(use.Find<QLineEdit>("txtNC").text(), "Frost_witch");
-    EXPECT_TRUE(use.window->windowTitle().contains("[Creature: Frost_witch, Power="));
-    EXPECT_EQ(Disagreements(use), "");
-}
-
-TEST(Drop, RefusesAllButOneFileInAnUnlockedWindow) {
+TEST(Drop, OpensOneFileInAnUnlockedWindow) {
     WindowInUse use;
     const QUrl file = QUrl::fromLocalFile(Sample);
     EXPECT_FALSE(Drop(use, {}));
     EXPECT_FALSE(Drop(use, {file, file}));
     EXPECT_FALSE(Drop(use, {QUrl("http://localhost/frost_witch.xdb")}));
+    EXPECT_TRUE(Drop(use, {file}));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return use.form.Tablus.Tab(4).On(); }));
+    EXPECT_EQ(use.Find<QLineEdit>("txtNC").text(), "Frost_witch");
+    EXPECT_EQ(Disagreements(use), "");
     use.program.ShowStatus("Wait.");
     EXPECT_FALSE(Drop(use, {file}));
 }
@@ -118,26 +106,20 @@ int ExitCodeAfter(const std::function<void()>& act) {
 }
 
 TEST(Quit, AsksAndEndsOnlyAfterAYes) {
-    const struct {
-        const char* how;
-        std::function<void(const WindowInUse&)> act;
-    } ways[] = {
-        {"menu",
-         [](const WindowInUse& use) {
-             use.Pick({"mnuFile", "mnuQuit"});
-         }},
+    const QStringList menu{"mnuFile", "mnuQuit"};
+    const std::pair<const char*, std::function<void(const WindowInUse&)>> ways[] = {
+        {"menu", [&](const WindowInUse& use) { use.Pick(menu); }},
         {"keys", [](const WindowInUse& use) { use.Key(Qt::Key_Q, Qt::ControlModifier); }},
         {"window manager", [](const WindowInUse& use) { use.window->windowHandle()->close(); }},
     };
-    for (const auto& way : ways) {
-        SCOPED_TRACE(way.how);
+    for (const auto& [how, act] : ways) {
+        SCOPED_TRACE(how);
         WindowInUse use;
         use.PickLanguage("mnuRussian");
-        use.Type("txtAttack", "7");
         for (const bool yes : {false, true}) {
             use.answers.yes = yes;
             use.answers.boxes.clear();
-            EXPECT_EQ(ExitCodeAfter([&] { way.act(use); }), yes ? 0 : GoesOn);
+            EXPECT_EQ(ExitCodeAfter([&, quit = act] { quit(use); }), yes ? 0 : GoesOn);
             ASSERT_EQ(use.answers.boxes.size(), 1U) << "asked once";
             EXPECT_EQ(use.answers.boxes[0].icon, QMessageBox::Question);
             EXPECT_EQ(use.answers.boxes[0].title, "Выход из программы");
@@ -147,7 +129,6 @@ TEST(Quit, AsksAndEndsOnlyAfterAYes) {
             EXPECT_EQ(ReadAll(use.Path("lang.ini")), yes ? "RU" : "EN");
             EXPECT_TRUE(yes || use.window->isVisible());
         }
-        EXPECT_EQ(use.Find<QLineEdit>("txtAttack").text(), "7");
     }
 }
 
@@ -163,29 +144,19 @@ void StartProgram(QProcess& process, const QStringList& arguments, const QString
 }
 
 TEST(CommandLine, AnswersWithoutADisplay) {
-    const struct {
-        QStringList arguments;
-        int exitCode;
-        const char* output; // how it begins
-        const char* complaint;
-    } cases[] = {
-        {{"--version"}, 0, "TALMIR v0.0.0.44\n", ""},  {{"-v"}, 0, "TALMIR v0.0.0.44\n", ""},
-        {{"--help"}, 0, "Usage: talmir [FILE]\n", ""}, {{"-h"}, 0, "Usage: talmir [FILE]\n", ""},
-        {{"--bogus"}, 2, "", "talmir: '--bogus'"},     {{"a.xdb", "b.xdb"}, 2, "", "talmir: 'b.xdb'"},
-    };
-    for (const auto& test : cases) {
-        SCOPED_TRACE(test.arguments.join(' ').toStdString());
+    const std::pair<QStringList, const char*> cases[] = {// exit code, output and complaint, as they begin
+                                                         {{"--version"}, "0 TALMIR v0.0.0.44\n|"},
+                                                         {{"-h"}, "0 Usage: talmir [FILE]\n"},
+                                                         {{"--bogus"}, "2 |talmir: '--bogus'"},
+                                                         {{"a.xdb", "b.xdb"}, "2 |talmir: 'b.xdb'"}};
+    for (const auto& [arguments, expected] : cases) {
         QProcess process;
-        StartProgram(process, test.arguments);
+        StartProgram(process, arguments);
         ASSERT_TRUE(process.waitForFinished());
-        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
-        EXPECT_EQ(process.exitCode(), test.exitCode);
-        const QString output = process.readAllStandardOutput();
-        const QString complaint = process.readAllStandardError();
-        EXPECT_EQ(output.left(QString(test.output).size()), test.output);
-        EXPECT_EQ(complaint.left(QString(test.complaint).size()), test.complaint);
-        EXPECT_EQ(output.isEmpty(), test.exitCode != 0);
-        EXPECT_EQ(complaint.isEmpty(), test.exitCode == 0);
+        const QString answer = QString("%1 %2|%3")
+                                   .arg(process.exitCode())
+                                   .arg(process.readAllStandardOutput(), process.readAllStandardError());
+        EXPECT_TRUE(answer.startsWith(expected)) << answer.toStdString();
     }
 }
 
@@ -196,18 +167,16 @@ TEST(SecondInstance, IsRefusedInTheLanguageOfTheUserWhileTheFirstRuns) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return QFileInfo(lock).size() > 0; }, 20000));
 
     const QTemporaryDir folder;
-    QFile language(folder.filePath("lang.ini"));
-    ASSERT_TRUE(language.open(QIODevice::WriteOnly) && language.write("RU\r\n") == 4);
-    language.close();
+    WriteFile(folder.filePath("lang.ini"), "RU\r\n");
     BoxAnswers answers;
     PlatformInFolder platform(folder.path());
     Program second(platform);
     EXPECT_FALSE(Form_Load(second));
+    EXPECT_TRUE(second.form.ComboTier.Items().isEmpty()) << "it has set itself up";
     ASSERT_EQ(answers.boxes.size(), 1U);
     EXPECT_EQ(answers.boxes[0].icon, QMessageBox::Critical);
     EXPECT_EQ(answers.boxes[0].title, "Внимание!");
     EXPECT_EQ(answers.boxes[0].text, "Нельзя запускать эту программу дважды!");
-    EXPECT_EQ(ReadAll(language.fileName()), "RU\r\n");
 
     first.kill(); // leaves its lock behind
     ASSERT_TRUE(first.waitForFinished());

@@ -61,11 +61,7 @@ public:
 
     QString Path(const QString& name) const { return folder.filePath(name); }
 
-    void Write(const QString& name, const QByteArray& bytes) const {
-        QFile file(Path(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("a test could not write its file");
-    }
+    void Write(const QString& name, const QByteArray& bytes) const { WriteFile(Path(name), bytes); }
 
     template <typename T = QWidget>
     T& Find(const QString& name) const {
