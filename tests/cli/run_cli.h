@@ -1,6 +1,8 @@
 // Runs the real program of the command line.
 #pragma once
 
+#include "support/test_program.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
@@ -30,7 +32,7 @@ inline CliOutcome FinishCli(QProcess& process) {
 
 inline CliOutcome RunCli(const QStringList& arguments, const QByteArray& input = {}) {
     QProcess process;
-    process.start(TALMIR_CLI, arguments);
+    process.start(TestedProgram("talmir-cli"), arguments);
     process.write(input);
     process.closeWriteChannel();
     return FinishCli(process);

@@ -144,7 +144,7 @@ TEST(Run, NamesTheScriptFileInComplaints) {
 
 TEST(Run, WaitsForInputThatComesInPieces) {
     QProcess process;
-    process.start(TALMIR_CLI, {"run", "-"});
+    process.start(TestedProgram("talmir-cli"), {"run", "-"});
     for (const char* piece : {"set txtNC a", "b\nshow tx", "tNC"}) {
         process.write(piece);
         process.waitForBytesWritten();

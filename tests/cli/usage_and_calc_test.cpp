@@ -32,7 +32,7 @@ TEST(Cli, HelpAndVersionGoToStandardOutput) {
         EXPECT_EQ(outcome.code, 0);
         EXPECT_EQ(outcome.err, "");
         EXPECT_TRUE(outcome.out.contains(piece)) << outcome.out.toStdString();
-        EXPECT_FALSE(outcome.out.contains(TALMIR_CLI)) << "a path on this machine helps nobody";
+        EXPECT_FALSE(outcome.out.contains(TestedProgram("talmir-cli"))) << "a path on this machine helps nobody";
     }
 }
 
@@ -53,7 +53,7 @@ TEST(Cli, OutputThatCannotBeWrittenIsAFailure) {
         GTEST_SKIP() << "no full device here";
     QProcess process;
     process.setStandardOutputFile("/dev/full");
-    process.start(TALMIR_CLI, {"--version"});
+    process.start(TestedProgram("talmir-cli"), {"--version"});
     EXPECT_EQ(FinishCli(process).code, 1);
 }
 

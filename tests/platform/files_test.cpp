@@ -199,7 +199,7 @@ TEST_F(SingleInstanceTest, TheSecondSeesTheFirstUntilItEnds) {
 
 TEST_F(SingleInstanceTest, TakesOverTheLockOfAProcessThatNoLongerRuns) {
     QProcess ended;
-    ended.start(TALMIR_CLI, {"--version"});
+    ended.start(TestedProgram("talmir-cli"), {"--version"});
     const qint64 endedId = ended.processId();
     ASSERT_TRUE(ended.waitForFinished());
     ASSERT_GT(endedId, 0);

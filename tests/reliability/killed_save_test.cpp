@@ -45,7 +45,7 @@ TEST(KilledSave, TheFileIsTheOldOneOrTheWholeNewOne) {
     int saved = 0;
     for (int kill = 0; kill < kills; ++kill) {
         QProcess process;
-        process.start(TALMIR_CLI, {"run", script});
+        process.start(TestedProgram("talmir-cli"), {"run", script});
         ASSERT_TRUE(process.waitForStarted());
         QThread::usleep(oneRun / 2 + random() % (2 * oneRun));
         process.kill();
@@ -66,7 +66,8 @@ TEST(KilledSave, AFileThatMayNotGrowKeepsTheOldContent) {
     files.Write("old.xdb", "precious");
     const QString script = files.Write("script", ScriptThatSaves(files.Path("old.xdb"), 1));
     QProcess process;
-    process.start("/bin/sh", {"-c", "trap '' XFSZ; ulimit -f 1; exec \"$0\" run \"$1\"", TALMIR_CLI, script});
+    process.start("/bin/sh",
+                  {"-c", "trap '' XFSZ; ulimit -f 1; exec \"$0\" run \"$1\"", TestedProgram("talmir-cli"), script});
     const CliOutcome outcome = FinishCli(process);
     EXPECT_EQ(outcome.code, 1);
     EXPECT_EQ(ReadAll(files.Path("old.xdb")), "precious");

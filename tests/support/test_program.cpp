@@ -55,6 +55,10 @@ void WriteFile(const QString& path, const QByteArray& bytes) {
         qFatal("a test could not write its file");
 }
 
+QString TestedProgram(const char* name) {
+    return qEnvironmentVariable("TALMIR_PROGRAMS", TALMIR_PROGRAMS) + '/' + name;
+}
+
 QByteArray ReadAll(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();

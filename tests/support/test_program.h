@@ -50,6 +50,9 @@ struct TestProgram {
 /// Writes a file, in folders made for it.
 void WriteFile(const QString& path, const QByteArray& bytes);
 
+/// Path of a program of ours: in the folder that TALMIR_PROGRAMS names, or where it was built.
+QString TestedProgram(const char* name);
+
 /// The content of a file, empty when it can't be read.
 QByteArray ReadAll(const QString& path);
 

@@ -140,7 +140,7 @@ void StartProgram(QProcess& process, const QStringList& arguments, const QString
     if (!platform.isEmpty())
         environment.insert("QT_QPA_PLATFORM", platform);
     process.setProcessEnvironment(environment);
-    process.start(TALMIR_PROGRAM, arguments);
+    process.start(TestedProgram("talmir"), arguments);
 }
 
 TEST(CommandLine, AnswersWithoutADisplay) {
