@@ -90,6 +90,31 @@ void OpenFromMemory(benchmark::State& state) {
 }
 BENCHMARK(OpenFromMemory);
 
+/// The sample with so many upgrades that it has `kilobytes`.
+QByteArray SampleOfSize(int64_t kilobytes) {
+    const QByteArray item =
+        "\t\t<Item>/GameMechanics/Creature/Creatures/Neutrals/Other.xdb</Item>\r\n";
+    QByteArray bytes = SampleBytes();
+    const qsizetype missing = kilobytes * 1024 - bytes.size();
+    const qsizetype end = bytes.lastIndexOf("</Creature>");
+    return bytes.insert(end, "\t<Odd>\r\n" +
+                                 item.repeated(std::max<qsizetype>(0, missing) / item.size()) +
+                                 "\t</Odd>\r\n");
+}
+
+void OpenOfSize(benchmark::State& state) {
+    OpenedProgram opened;
+    const QByteArray bytes = SampleOfSize(state.range(0));
+    for (auto _ : state) {
+        auto document = NormaliseCreature(bytes);
+        FillFromDocument(opened.program, std::get<QString>(std::move(document)),
+                         QString::fromUtf8(Sample));
+        opened.platform.messages.clear();
+    }
+    state.SetBytesProcessed(state.iterations() * bytes.size());
+}
+BENCHMARK(OpenOfSize)->ArgName("KiB")->RangeMultiplier(2)->Range(2, 32);
+
 /// A creature with every box ticked that can be, saved over and over at one place.
 struct FullProgram {
     FullProgram() {
@@ -115,7 +140,7 @@ void SaveBytesAlone(benchmark::State& state) {
             state.SkipWithError("the file could not be written");
     }
 }
-BENCHMARK(SaveBytesAlone);
+BENCHMARK(SaveBytesAlone)->UseRealTime(); // mostly the disk's
 
 void BuildAndSave(benchmark::State& state) {
     const FullProgram full;
@@ -125,7 +150,7 @@ void BuildAndSave(benchmark::State& state) {
             state.SkipWithError("the file could not be written");
     }
 }
-BENCHMARK(BuildAndSave);
+BENCHMARK(BuildAndSave)->UseRealTime();
 
 /// Paths of the 348 texts of one language.
 QStringList TextPaths(const QString& folder) {

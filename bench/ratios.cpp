@@ -16,7 +16,9 @@ public:
         ConsoleReporter::ReportRuns(runs);
         for (const Run& run : runs)
             if (run.aggregate_name == "median")
-                medians[run.run_name.function_name] = run.GetAdjustedCPUTime();
+                medians[run.run_name.function_name] = run.run_name.time_type.empty()
+                                                          ? run.GetAdjustedCPUTime()
+                                                          : run.GetAdjustedRealTime();
     }
 
     std::map<std::string, double> medians;

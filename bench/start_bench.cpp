@@ -15,9 +15,8 @@ static const QString SamplesFolder = QStringLiteral(TALMIR_SOURCE_DIR "/samples/
 
 namespace {
 
-/// Copies of the samples with other values, so many that a whole mod has no more.
-QStringList MakeMod(const QString& folder) {
-    constexpr int count = 2000;
+/// Copies of the samples with other values.
+QStringList MakeMod(const QString& folder, int count) {
     QDir().mkpath(folder);
     QList<QByteArray> samples;
     for (const QString& name : QDir(SamplesFolder).entryList({QStringLiteral("*.xdb")})) {
@@ -42,17 +41,23 @@ QStringList MakeMod(const QString& folder) {
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     const QString here = QCoreApplication::applicationDirPath();
+    const QString cli = here + QLatin1String("/talmir-cli");
+    constexpr int wholeMod = 2000;
+    const QStringList files = MakeMod(here + QLatin1String("/start/mod"), 5 * wholeMod);
+    for (const int count : {1, 10, 100, 1000, 5 * wholeMod}) // nothing else has been started yet
+        PrintPeakSoFar(qPrintable(QStringLiteral("%1 files on the command line").arg(count)),
+                       {cli, QStringList{"calc", "--json"} + files.first(count)});
     LayTexts(here + QLatin1String("/start"));
     qputenv("QT_QPA_PLATFORM",
             qgetenv("DISPLAY").isEmpty() ? "offscreen" : qgetenv("QT_QPA_PLATFORM"));
     PrintPair("Process start to first complete picture", {here + "/start/window_start", {}},
               {here + "/start/empty_start", {}});
+    PrintMemoryPair("Memory of the idle window", {here + "/start/window_start", {"idle"}},
+                    {here + "/start/empty_start", {"idle"}});
     PrintPair("Process start to result, one file",
-              {here + "/talmir-cli", {"calc", SamplesFolder + "frost_witch.xdb"}},
-              {here + "/start/one_line", {}});
-    const QStringList mod = MakeMod(here + QLatin1String("/start/mod"));
-    PrintPair("2,000 files on the command line",
-              {here + "/talmir-cli", QStringList{"calc", "--json"} + mod},
+              {cli, {"calc", SamplesFolder + "frost_witch.xdb"}}, {here + "/start/one_line", {}});
+    const QStringList mod = files.first(wholeMod);
+    PrintPair("2,000 files on the command line", {cli, QStringList{"calc", "--json"} + mod},
               {here + "/start/read_all", mod});
     return 0;
 }

@@ -13,4 +13,10 @@ struct ProcessCall {
 /// wall times and the ratio.
 void PrintPair(const char* what, const ProcessCall& figure, const ProcessCall& floor);
 
+/// Starts both, waits until they are idle, and prints the memory that each holds and the ratio.
+void PrintMemoryPair(const char* what, const ProcessCall& figure, const ProcessCall& floor);
+
+/// Prints the most memory that any process started so far has held; says what it has done last.
+void PrintPeakSoFar(const char* what, const ProcessCall& last);
+
 } // namespace Hesperin

@@ -9,7 +9,7 @@ namespace Hesperin {
 /// What a start may ask for beyond the ordinary.
 struct StartOptions {
     std::optional<std::uint8_t> languageId; ///< instead of reading (or creating) lang.ini
-    bool loadAbilityTexts = true;           ///< false where nothing can show them
+    bool loadAbilityTexts = true;           ///< false where nothing shows them, or not yet
 };
 
 /// The whole start-up of the program, before anything is shown: language, single-instance test,

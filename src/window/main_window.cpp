@@ -1,6 +1,7 @@
 #include "window/main_window.h"
 
 #include "creature_files/file_commands.h"
+#include "localisation/ability_texts.h"
 #include "ui/window_commands.h"
 #include "window/button_view.h"
 #include "window/faces.h"
@@ -88,10 +89,16 @@ void MainWindow::Changed(Control&, Property what) {
 
 bool MainWindow::event(QEvent* event) {
     const bool taken = QMainWindow::event(event);
-    // The pages behind the first are built when the first has been painted.
+    // The pages behind the first are built, and the texts that only they show are read, when the
+    // first has been painted.
     if (event->type() == QEvent::Paint && !std::exchange(painted, true))
         QMetaObject::invokeMethod(
-            this, [this] { tabs->BuildAll(); }, Qt::QueuedConnection);
+            this,
+            [this] {
+                tabs->BuildAll();
+                LoadAbilityTexts(program);
+            },
+            Qt::QueuedConnection);
     return taken;
 }
 

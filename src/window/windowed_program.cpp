@@ -16,7 +16,7 @@ void WindowedProgram::DressApplication() {
 }
 
 bool WindowedProgram::Start(const QString& creatureFile) {
-    if (!Form_Load(program))
+    if (!Form_Load(program, {std::nullopt, false})) // the texts follow the first picture
         return false;
     window = std::make_unique<MainWindow>(program);
     platform.Attach(program, *window);

@@ -40,7 +40,7 @@ public:
         const std::function<void(const QString& folder)>& prepare = [](const QString&) {}) {
         Write("lang.ini", language == English ? "EN" : "RU");
         prepare(folder.path());
-        if (!Form_Load(program))
+        if (!Form_Load(program, {std::nullopt, false})) // as at a start, the window reads the texts
             qFatal("another instance runs");
         window = std::make_unique<MainWindow>(program);
         platform.Attach(program, *window);
