@@ -68,6 +68,10 @@ private:
 bool HasEndlessMarkup(const QByteArray& bytes, qsizetype longest) {
     if (bytes.size() <= longest)
         return false;
+    const bool oneByteACharacter = !bytes.contains('\0');
+    if (oneByteACharacter && bytes.count('=') <= longest / ShortestAttribute &&
+        !bytes.contains("<!DOCTYPE"))
+        return false; // the walk takes as long as the parser
     const QString text = DecodeText(bytes, CodePage::Windows1252);
     Walk walk(text);
     while (walk.ToNextMarkup()) {

@@ -53,7 +53,7 @@ MainWindow::MainWindow(Program& owner) : program(owner) {
 
     auto* content = new QWidget;
     content->setFixedSize(ContentSize);
-    tabs = new TabView(program, content);
+    new TabView(program, content);
     BuildButtonRow(*content);
     auto* scroll = new QScrollArea(this);
     scroll->setFrameShape(QFrame::NoFrame);
@@ -89,16 +89,10 @@ void MainWindow::Changed(Control&, Property what) {
 
 bool MainWindow::event(QEvent* event) {
     const bool taken = QMainWindow::event(event);
-    // The pages behind the first are built, and the texts that only they show are read, when the
-    // first has been painted.
+    // What only the page of abilities shows is read when the first page has been painted.
     if (event->type() == QEvent::Paint && !std::exchange(painted, true))
         QMetaObject::invokeMethod(
-            this,
-            [this] {
-                tabs->BuildAll();
-                LoadAbilityTexts(program);
-            },
-            Qt::QueuedConnection);
+            this, [this] { LoadAbilityTexts(program); }, Qt::QueuedConnection);
     return taken;
 }
 

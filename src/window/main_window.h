@@ -38,7 +38,6 @@ private:
     void BuildButtonRow(QWidget& content);
 
     Program& program;
-    TabView* tabs = nullptr;
     std::vector<std::unique_ptr<EntryView>> menus;
     QString fileToOpen;
     bool ending = false;

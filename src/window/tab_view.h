@@ -8,8 +8,7 @@
 namespace Hesperin {
 
 /// The tab control with its five pages. A page that is off has no tab; when it was in front, page 0
-/// comes forward. The pages of check boxes are built when they are first shown, or when the program
-/// has nothing else to do.
+/// comes forward. A page is built when it is first shown.
 class TabView : public QWidget {
 public:
     TabView(Program& program, QWidget* parent);
@@ -17,7 +16,7 @@ public:
     TabView(const TabView&) = delete;
     TabView& operator=(const TabView&) = delete;
 
-    /// Builds the pages that haven't been shown yet.
+    /// Builds the pages that haven't been shown yet, for those who look at all widgets.
     void BuildAll();
 
 private:
