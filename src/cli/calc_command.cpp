@@ -46,6 +46,7 @@ int Calc(const QCommandLineParser& parser) {
 
 } // namespace
 
-const Command CalcCommand{"calc", "Shows the balance figures of creature files.", DescribeCalc, Calc};
+const Command CalcCommand{"calc", "Shows the balance figures of creature files.", DescribeCalc,
+                          Calc};
 
 } // namespace Hesperin
