@@ -31,7 +31,7 @@ std::optional<FileObstacle> Open(QSaveFile& file) {
 
 std::optional<FileObstacle> SaveFile(const QString& path, const QByteArray& bytes) {
     QSaveFile file(path);
-    if (const auto obstacle = Open(file))
+    if (auto obstacle = Open(file))
         return obstacle;
     // commit() alone doesn't notice that its last write failed: on a full disk it would replace the
     // old file by half of the new one.

@@ -50,6 +50,10 @@ MainWindow::MainWindow(Program& owner) : program(owner) {
     setObjectName(form.frmMain.Name());
     setAcceptDrops(true);
     menus = BuildMenus(form, *menuBar());
+    opening.setSingleShot(true);
+    reading.setSingleShot(true);
+    connect(&reading, &QTimer::timeout, this, [this] { LoadAbilityTexts(program); });
+    connect(&opening, &QTimer::timeout, this, [this] { OpenCreatureFile(program, fileToOpen); });
 
     auto* content = new QWidget;
     content->setFixedSize(ContentSize);
@@ -91,8 +95,7 @@ bool MainWindow::event(QEvent* event) {
     const bool taken = QMainWindow::event(event);
     // What only the page of abilities shows is read when the first page has been painted.
     if (event->type() == QEvent::Paint && !std::exchange(painted, true))
-        QMetaObject::invokeMethod(
-            this, [this] { LoadAbilityTexts(program); }, Qt::QueuedConnection);
+        reading.start(0);
     return taken;
 }
 
@@ -116,8 +119,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
 
 void MainWindow::OpenSoon(const QString& file) {
     fileToOpen = file;
-    QMetaObject::invokeMethod(
-        this, [this] { OpenCreatureFile(program, fileToOpen); }, Qt::QueuedConnection);
+    opening.start(0);
 }
 
 } // namespace Hesperin

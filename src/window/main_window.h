@@ -4,6 +4,7 @@
 #include "window/menu_view.h"
 
 #include <QMainWindow>
+#include <QTimer>
 
 namespace Hesperin {
 
@@ -40,6 +41,8 @@ private:
     Program& program;
     std::vector<std::unique_ptr<EntryView>> menus;
     QString fileToOpen;
+    QTimer opening; // of a creature file, when the event of the moment has ended
+    QTimer reading; // of the ability texts, after the first picture
     bool ending = false;
     bool painted = false;
 };

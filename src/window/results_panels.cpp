@@ -71,23 +71,23 @@ void BuildGroup(MainForm& form, FrameView& panel, const Group& group, int top) {
     }
 }
 
-void BuildGroups(MainForm& form, FrameView& panel, std::span<const Group> groups) {
+void BuildPanel(MainForm& form, Frame& frame, QWidget& page, const QRect& place,
+                std::span<const Group> groups) {
+    auto* panel = new FrameView(frame, &page, HeadingFace(), place);
     int top = FirstGroupTop;
     for (const Group& group : groups) {
-        BuildGroup(form, panel, group, top);
+        BuildGroup(form, *panel, group, top);
         top += GroupPitch;
     }
-}
+} // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): the page owns the panel
 
 } // namespace
 
 void BuildResultPanels(MainForm& form, QWidget& page, int top) {
     const QRect mainPlace = PixelRect(12360, 480, 2730, 5330).translated(0, -top);
     const QRect alternativePlace = PixelRect(9480, 480, 2730, 3625).translated(0, -top);
-    auto* mainPanel = new FrameView(form.frmMM, &page, HeadingFace(), mainPlace);
-    auto* alternativePanel = new FrameView(form.frmAM, &page, HeadingFace(), alternativePlace);
-    BuildGroups(form, *mainPanel, MainMethod);
-    BuildGroups(form, *alternativePanel, AlternativeMethod);
+    BuildPanel(form, form.frmMM, page, mainPlace, MainMethod);
+    BuildPanel(form, form.frmAM, page, alternativePlace, AlternativeMethod);
 }
 
 } // namespace Hesperin
