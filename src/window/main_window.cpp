@@ -8,8 +8,10 @@
 #include "window/tab_view.h"
 #include "window/units.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
+#include <QIcon>
 #include <QMimeData>
 #include <QScreen>
 #include <QScrollArea>
@@ -51,8 +53,8 @@ MainWindow::MainWindow(Program& owner) : program(owner) {
     setAcceptDrops(true);
     menus = BuildMenus(form, *menuBar());
     opening.setSingleShot(true);
-    reading.setSingleShot(true);
-    connect(&reading, &QTimer::timeout, this, [this] { LoadAbilityTexts(program); });
+    pictured.setSingleShot(true);
+    connect(&pictured, &QTimer::timeout, this, [this] { FinishStart(); });
     connect(&opening, &QTimer::timeout, this, [this] { OpenCreatureFile(program, fileToOpen); });
 
     auto* content = new QWidget;
@@ -93,10 +95,15 @@ void MainWindow::Changed(Control&, Property what) {
 
 bool MainWindow::event(QEvent* event) {
     const bool taken = QMainWindow::event(event);
-    // What only the page of abilities shows is read when the first page has been painted.
+    // What the first picture doesn't show comes when it has been painted.
     if (event->type() == QEvent::Paint && !std::exchange(painted, true))
-        reading.start(0);
+        pictured.start(0);
     return taken;
+}
+
+void MainWindow::FinishStart() {
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/talmir.png"))); // 3 ms
+    LoadAbilityTexts(program);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

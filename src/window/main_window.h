@@ -37,12 +37,13 @@ protected:
 
 private:
     void BuildButtonRow(QWidget& content);
+    void FinishStart();
 
     Program& program;
     std::vector<std::unique_ptr<EntryView>> menus;
     QString fileToOpen;
-    QTimer opening; // of a creature file, when the event of the moment has ended
-    QTimer reading; // of the ability texts, after the first picture
+    QTimer opening;  // of a creature file, when the event of the moment has ended
+    QTimer pictured; // the first picture has been painted
     bool ending = false;
     bool painted = false;
 };

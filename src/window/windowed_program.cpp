@@ -4,7 +4,6 @@
 #include "window/palette.h"
 
 #include <QApplication>
-#include <QIcon>
 
 namespace Hesperin {
 
@@ -12,7 +11,6 @@ void WindowedProgram::DressApplication() {
     QApplication::setApplicationName(QStringLiteral("talmir"));
     QApplication::setStyle(QStringLiteral("Fusion")); // the same look on every desktop
     QApplication::setPalette(ProgramPalette());
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/talmir.png")));
 }
 
 bool WindowedProgram::Start(const QString& creatureFile) {
