@@ -3,7 +3,7 @@ set(share ${CPACK_TEMPORARY_DIRECTORY}${CPACK_PACKAGING_INSTALL_PREFIX}/share)
 set(doc ${share}/doc/talmir)
 
 file(RENAME ${doc}/LICENSE ${doc}/copyright)
-configure_file(${CPACK_TALMIR_CHANGELOG} ${doc}/changelog COPYONLY)
+configure_file(${CPACK_TALMIR_CHANGELOG} ${doc}/changelog NO_SOURCE_PERMISSIONS COPYONLY)
 file(RENAME ${share}/zsh/site-functions ${share}/zsh/vendor-completions)
 
 file(GLOB long ${doc}/changelog ${share}/man/man1/*.1)
