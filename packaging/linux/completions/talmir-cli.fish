@@ -1,0 +1,12 @@
+# Completion of talmir-cli for fish.
+complete -c talmir-cli -f
+complete -c talmir-cli -s h -l help -d 'Show help'
+complete -c talmir-cli -s v -l version -d 'Show the version'
+
+complete -c talmir-cli -n __fish_use_subcommand -a calc -d 'Show the balance figures of creature files'
+complete -c talmir-cli -n '__fish_seen_subcommand_from calc' -l json -d 'Print one JSON object a line and file'
+complete -c talmir-cli -n '__fish_seen_subcommand_from calc' -k -a '(__fish_complete_suffix .xdb)'
+
+complete -c talmir-cli -n __fish_use_subcommand -a run -d 'Play a script of user actions'
+complete -c talmir-cli -n '__fish_seen_subcommand_from run' -l lang -x -a 'EN RU' -d 'Language at the start'
+complete -c talmir-cli -n '__fish_seen_subcommand_from run' -F
