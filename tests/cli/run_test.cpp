@@ -219,6 +219,13 @@ TEST(Run, StateTellsEverything) {
     EXPECT_EQ(outcome.Json(1)["messages"].toArray(), QJsonArray()) << "told once";
 }
 
+TEST(Run, EndsAtALineThatIsLongerThanAnyScriptHas) {
+    const CliOutcome outcome = Play("set txtNC wyrm\nset txtNC " + QByteArray(2 << 20, 'x') + "\nshow txtNC\n");
+    EXPECT_EQ(outcome.code, 1);
+    EXPECT_EQ(outcome.err, "-:2: the line is longer than 1048576 bytes; the run ends here\n");
+    EXPECT_EQ(outcome.out, "");
+}
+
 } // namespace
 
 } // namespace Hesperin
