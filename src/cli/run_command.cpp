@@ -58,7 +58,7 @@ bool IsAction(const QString& line) {
 bool Play(QFile& script, const QString& name, ScriptStage& stage) {
     bool allDone = true;
     for (int number = 1; !script.atEnd(); ++number) {
-        QByteArray bytes = script.readLine(LongestLine + 1);
+        QByteArray bytes = script.readLine(LongestLine + 2); // counts a null that it ends with
         if (bytes.size() > LongestLine) {
             Complain(QStringLiteral("%1:%2: the line is longer than %3 bytes; the run ends here")
                          .arg(name, QString::number(number), QString::number(LongestLine)));
