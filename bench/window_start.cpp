@@ -7,9 +7,10 @@
 #include <QApplication>
 
 int main(int argc, char** argv) {
+    Hesperin::EarlyStart early;
     const QApplication application(argc, argv);
     Hesperin::WindowedProgram::DressApplication();
-    Hesperin::WindowedProgram program;
+    Hesperin::WindowedProgram program(early);
     if (!program.Start({}))
         return 1;
     const EndAfterFirstPicture end(program.Window());

@@ -23,9 +23,9 @@ FrameView::FrameView(Frame& frame, QWidget* parent, const QFont& captionFace, co
 }
 
 void FrameView::Sync() {
-    setTitle(control.Caption()); // also what assistive technology reads for the group
-    NameFields();
     const QString caption = control.Caption().trimmed();
+    setAccessibleName(caption);
+    NameFields();
     fitting = FittingFace(face, caption, width() - 2 * CaptionLeft);
     captionPlace = {CaptionLeft, 0, QFontMetrics(fitting).horizontalAdvance(caption) + 1,
                     QFontMetrics(face).height()};

@@ -1,4 +1,5 @@
 // talmir: the calculator in its window.
+#include "window/early_start.h"
 #include "window/start_arguments.h"
 #include "window/windowed_program.h"
 
@@ -18,9 +19,10 @@ int main(int argc, char** argv) {
         return start.misused ? 2 : 0;
     }
 
+    EarlyStart early;
     const QApplication application(argc, argv);
     WindowedProgram::DressApplication();
-    WindowedProgram program;
+    WindowedProgram program(early);
     if (!program.Start(start.creatureFile))
         return 0;
     return QApplication::exec();

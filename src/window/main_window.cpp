@@ -13,6 +13,7 @@
 #include <QDragEnterEvent>
 #include <QIcon>
 #include <QMimeData>
+#include <QResource>
 #include <QScreen>
 #include <QScrollArea>
 #include <QUrl>
@@ -43,6 +44,15 @@ QString DraggedFile(const QMimeData& data) {
     const QList<QUrl> urls = data.urls();
     return urls.size() == 1 && urls.constFirst().isLocalFile() ? urls.constFirst().toLocalFile()
                                                                : QString();
+}
+
+/// Lies there as plain pixels: any other format would load the readers of all that the system has.
+QIcon WindowIcon() {
+    constexpr int side = 64;
+    const QByteArray pixels = QResource(QStringLiteral(":/icons/talmir.argb")).uncompressedData();
+    const QImage image(reinterpret_cast<const uchar*>(pixels.constData()), side, side,
+                       QImage::Format_ARGB32);
+    return QPixmap::fromImage(image);
 }
 
 } // namespace
@@ -102,7 +112,7 @@ bool MainWindow::event(QEvent* event) {
 }
 
 void MainWindow::FinishStart() {
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/talmir.png"))); // 3 ms
+    QApplication::setWindowIcon(WindowIcon());
     LoadAbilityTexts(program);
 }
 

@@ -1,7 +1,6 @@
 #include "window/tab_view.h"
 
 #include "window/box_pages.h"
-#include "window/faces.h"
 #include "window/file_view.h"
 #include "window/parameters_page.h"
 #include "window/results_panels.h"
@@ -52,7 +51,6 @@ TabView::TabView(Program& owner, QWidget* parent)
     setGeometry(PixelRect(30, 0, 15315, 9255));
     bar->setObjectName(QStringLiteral("Tablus.Bar"));
     bar->setGeometry(0, 2, width(), BarHeight - 2);
-    bar->setFont(BoxFace());
     bar->setDrawBase(true);
     bar->setElideMode(Qt::ElideNone);
     stack->setGeometry(0, BarHeight, width(), height() - BarHeight);

@@ -20,7 +20,8 @@ namespace Hesperin {
 namespace {
 
 QString SettingsFolderOfUser() {
-    return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QLatin1String("/talmir");
 }
 
 QMessageBox::Icon IconOf(BoxIcon icon) {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "engine/program.h"
+#include "window/early_start.h"
 #include "window/main_window.h"
-#include "window/window_platform.h"
 
 #include <memory>
 
@@ -11,8 +11,10 @@ namespace Hesperin {
 /// The program in its window, from start to end.
 class WindowedProgram {
 public:
-    /// Style, palette, name and icon of the application, which must exist by then.
+    /// Style and palette of the application, which must exist by then.
     static void DressApplication();
+
+    explicit WindowedProgram(EarlyStart& begun) : early(begun) {}
 
     /// Starts the program and shows the window; then opens `creatureFile`, unless that is empty.
     /// False: another instance runs, the user has been told, and nothing is shown.
@@ -21,8 +23,8 @@ public:
     MainWindow& Window() { return *window; }
 
 private:
-    WindowPlatform platform;
-    Program program{platform};
+    EarlyStart& early;
+    Program program{early.platform};
     std::unique_ptr<MainWindow> window;
 };
 

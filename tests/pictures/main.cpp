@@ -7,8 +7,8 @@
 #include "window/about_window.h"
 #include "window/faces.h"
 #include "window/main_window.h"
-#include "window/palette.h"
 #include "window/status_window.h"
+#include "window/windowed_program.h"
 
 #include <QApplication>
 #include <QDir>
@@ -77,9 +77,8 @@ private:
 } // namespace
 
 int main(int argc, char** argv) {
-    QApplication::setStyle(QStringLiteral("Fusion"));
     const QApplication application(argc, argv);
-    QApplication::setPalette(ProgramPalette());
+    WindowedProgram::DressApplication();
     const QString folder = QCoreApplication::arguments().value(1, QStringLiteral("."));
     QDir().mkpath(folder);
     for (const std::uint8_t language : {std::uint8_t{1}, std::uint8_t{2}}) {

@@ -89,7 +89,7 @@ private:
         else if (const auto* button = dynamic_cast<const Button*>(&control))
             Expect(TextOf<QPushButton>(widget) == button->Caption(), control, "caption");
         else if (const auto* frame = dynamic_cast<const Frame*>(&control))
-            Expect(dynamic_cast<QGroupBox&>(widget).title() == frame->Caption(), control, "caption");
+            Expect(widget.accessibleName() == frame->Caption().trimmed(), control, "caption");
         else if (const auto* list = dynamic_cast<const ComboBox*>(&control))
             CompareList(*list, dynamic_cast<QComboBox&>(widget));
         else if (const auto* box = dynamic_cast<const CheckBox*>(&control))

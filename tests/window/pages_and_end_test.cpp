@@ -85,7 +85,8 @@ TEST(Drop, OpensOneFileInAnUnlockedWindow) {
 
 TEST(Start, OpensTheFileThatItIsGiven) {
     BoxAnswers answers;
-    WindowedProgram program;
+    EarlyStart early;
+    WindowedProgram program(early);
     ASSERT_TRUE(program.Start(Sample));
     EXPECT_TRUE(QTest::qWaitFor([&] { return program.Window().windowTitle().contains("Frost_witch"); }));
 }
@@ -163,7 +164,8 @@ TEST(CommandLine, AnswersWithoutADisplay) {
 TEST(SecondInstance, IsRefusedInTheLanguageOfTheUserWhileTheFirstRuns) {
     QProcess first;
     StartProgram(first, {}, "offscreen");
-    const QString lock = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) + "/talmir.lock";
+    const QString lock =
+        QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/talmir/talmir.lock";
     ASSERT_TRUE(QTest::qWaitFor([&] { return QFileInfo(lock).size() > 0; }, 20000));
 
     const QTemporaryDir folder;
