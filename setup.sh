@@ -40,7 +40,7 @@ need() {
 need_build_tools() {
     need c++ g++ cmake cmake ninja ninja-build \
         '/usr/lib/*/cmake/Qt6Widgets/Qt6WidgetsConfig.cmake' qt6-base-dev \
-        '/usr/include/GL/gl.h' libgl-dev
+        '/usr/include/GL/gl.h' libgl-dev '/usr/include/minizip/unzip.h' libminizip-dev '/usr/include/zlib.h' zlib1g-dev
 }
 
 # build PRESET OPTIONS TARGET ...: configures where that hasn't been done with these OPTIONS (one word,

@@ -155,13 +155,9 @@ BENCHMARK(BuildAndSave)->UseRealTime();
 /// Paths of the 348 texts of one language.
 QStringList TextPaths(const QString& folder) {
     QStringList paths;
-    SharedState state;
-    for (int i = 1; i <= Ability::Count; ++i) {
-        AbilityTextFiles(state, i);
-        const QString stem = folder + u'/' + AbilityTextFolder(QStringLiteral("EN"), i) + u'/';
-        paths += {stem + state.AbilityNameFile + QLatin1String(".txt"),
-                  stem + state.AbilityDescFile + QLatin1String(".txt")};
-    }
+    for (const AbilityText& text : AbilityTexts())
+        paths.append(folder + QLatin1String("/EN/") + AbilityTextLevels().join(u'/') + u'/' +
+                     text.folder + u'/' + text.file);
     return paths;
 }
 

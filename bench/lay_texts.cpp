@@ -8,18 +8,15 @@
 namespace Hesperin {
 
 void LayTexts(const QString& programFolder) {
-    SharedState state;
-    for (const char* language : {"EN", "RU"})
-        for (int i = 1; i <= Ability::Count; ++i) {
-            AbilityTextFiles(state, i);
-            const QString folder =
-                programFolder + u'/' + AbilityTextFolder(QLatin1String(language), i);
+    for (const char* language : {"/EN/", "/RU/"})
+        for (const AbilityText& text : AbilityTexts()) {
+            const QString folder = programFolder + QLatin1String(language) +
+                                   AbilityTextLevels().join(u'/') + u'/' + text.folder;
             QDir().mkpath(folder);
-            for (const QString& name : {state.AbilityNameFile, state.AbilityDescFile}) {
-                QFile file(folder + u'/' + name + QLatin1String(".txt"));
-                if (file.open(QIODevice::WriteOnly))
-                    file.write((QStringLiteral("Text of an ability ") + name).repeated(4).toUtf8());
-            }
+            QFile file(folder + u'/' + text.file);
+            if (file.open(QIODevice::WriteOnly))
+                file.write(
+                    QStringLiteral("Text of an ability %1").arg(text.file).repeated(4).toUtf8());
         }
 }
 

@@ -29,7 +29,7 @@ public:
     bool StartProgram(const QString&) override { return false; }
     QStringList CalculatorNames() const override { return {}; }
     QString ProgramFolder() const override;
-    QString SettingsFolder() const override { return {}; }
+    QString SettingsFolder() const override { return SettingsFolderOfUser(); }
     void EndProcess() override {}
 
     /// What the next file dialog gives; none: it is cancelled.

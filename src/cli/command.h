@@ -21,5 +21,6 @@ struct Command {
 
 extern const Command CalcCommand;
 extern const Command RunCommand;
+extern const Command TextsCommand;
 
 } // namespace Hesperin

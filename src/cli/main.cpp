@@ -11,7 +11,7 @@ using namespace Hesperin;
 
 namespace {
 
-const Command* const Commands[] = {&CalcCommand, &RunCommand};
+const Command* const Commands[] = {&CalcCommand, &RunCommand, &TextsCommand};
 
 QString Overview() {
     QString text = QStringLiteral("Usage: talmir-cli COMMAND [ARGUMENTS]\n"

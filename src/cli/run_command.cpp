@@ -1,8 +1,8 @@
 #include "cli/command.h"
 
+#include "cli/language_option.h"
 #include "cli/output.h"
 #include "cli/script_actions.h"
-#include "engine/languages.h"
 #include "ui/form_load.h"
 
 #include <QFile>
@@ -16,8 +16,6 @@ namespace {
 /// Of a script, in bytes: a file that is no script must not fill the memory.
 constexpr qint64 LongestLine = 1 << 20;
 
-const QString LanguageOption = QStringLiteral("lang");
-
 void DescribeRun(QCommandLineParser& parser) {
     parser.setApplicationDescription(parser.applicationDescription() +
                                      QStringLiteral(" Message boxes are answered with OK; 'state' "
@@ -28,18 +26,7 @@ void DescribeRun(QCommandLineParser& parser) {
     parser.addPositionalArgument(
         QStringLiteral("SCRIPT"),
         QStringLiteral("File of user actions, one a line; - reads standard input."));
-    parser.addOption({LanguageOption, QStringLiteral("Language at the start: EN (default) or RU."),
-                      QStringLiteral("EN|RU")});
-}
-
-std::optional<std::uint8_t> LanguageOf(const QCommandLineParser& parser) {
-    const QString code =
-        parser.isSet(LanguageOption) ? parser.value(LanguageOption) : QStringLiteral("EN");
-    if (code == QLatin1String("EN"))
-        return English;
-    if (code == QLatin1String("RU"))
-        return Russian;
-    return std::nullopt;
+    AddLanguageOption(parser, QStringLiteral("Language at the start"));
 }
 
 QString WithoutLineEnd(QByteArray line) {

@@ -29,34 +29,41 @@ constexpr OddNames OddTextFiles[] = {
     {145, u"Shield_other_name", u"Shield_other_desc"},
 };
 
-/// In bytes. No text of the game comes near it, and 348 of them fit into memory.
-constexpr qint64 LargestText = 1 << 16;
-
-constexpr const char* TextTree = "Text/Game/Creatures/Creature_abilities";
 const QString Extension = QStringLiteral(".txt");
 
 QString Stem(int index) {
     return QString::fromUtf16(AbilityCatalogue[static_cast<std::size_t>(index)].stem);
 }
 
+/// The text trees of one language that are there, the one that wins first.
+std::vector<PathLookup> TreesOf(const QString& languageCode, const ProgramPlaces& places) {
+    std::vector<PathLookup> trees;
+    for (const QString& folder : {places.settingsFolder, places.programFolder})
+        if (const QString root =
+                PathLookup(folder).Find(QStringList(languageCode) + AbilityTextLevels());
+            !root.isEmpty())
+            trees.emplace_back(root);
+    return trees;
+}
+
 QString LoadText(PathLookup& tree, const QStringList& levels, CodePage fallback) {
-    auto content = ReadFile(tree.Spelled(levels), LargestText);
+    auto content = ReadFile(tree.Spelled(levels), LargestAbilityText);
     if (std::holds_alternative<FileObstacle>(content)) {
         const QString otherCase = tree.Find(levels);
         if (otherCase.isEmpty())
             return {};
-        content = ReadFile(otherCase, LargestText);
+        content = ReadFile(otherCase, LargestAbilityText);
     }
     const auto* bytes = std::get_if<QByteArray>(&content);
     return bytes == nullptr ? QString() : DecodeText(*bytes, fallback);
 }
 
-/// The texts of every ability when the language has no tree.
-void ClearAbilityTexts(MainForm& form) {
-    for (StoredText& name : form.utbN)
-        name.SetText({});
-    for (StoredText& desc : form.utbD)
-        desc.SetText({});
+QString LoadText(std::vector<PathLookup>& trees, const QStringList& levels, CodePage fallback) {
+    QString text;
+    for (PathLookup& tree : trees)
+        if (text = LoadText(tree, levels, fallback); !text.isEmpty())
+            break;
+    return text;
 }
 
 QString WithoutLineEnd(const QString& text) {
@@ -92,24 +99,33 @@ void AbilityTextFiles(SharedState& state, int index) {
     }
 }
 
-QString AbilityTextFolder(const QString& languageCode, int index) {
-    return languageCode + u'/' + QLatin1String(TextTree) + u'/' + Stem(index);
+std::vector<AbilityText> AbilityTexts() {
+    std::vector<AbilityText> texts;
+    SharedState names;
+    for (int i = 1; i <= Ability::Count; ++i) {
+        AbilityTextFiles(names, i);
+        for (const QString& file : {names.AbilityNameFile, names.AbilityDescFile})
+            texts.push_back({Stem(i), file + Extension});
+    }
+    return texts;
+}
+
+QStringList AbilityTextLevels() {
+    return {QStringLiteral("Text"), QStringLiteral("Game"), QStringLiteral("Creatures"),
+            QStringLiteral("Creature_abilities")};
 }
 
 void LoadAbilityTexts(Program& program) {
     SharedState& state = program.state;
     const CodePage fallback =
         state.LanguageCode == QLatin1String("RU") ? CodePage::Windows1251 : CodePage::Windows1252;
-    const QStringList levels =
-        QStringList(state.LanguageCode) + QString(QLatin1String(TextTree)).split(u'/');
-    const QString root = PathLookup(program.platform.ProgramFolder()).Find(levels);
-    if (root.isEmpty())
-        return ClearAbilityTexts(program.form);
-    PathLookup tree(root);
+    std::vector<PathLookup> trees = TreesOf(state.LanguageCode, program.platform.Places());
     for (int i = 1; i <= Ability::Count; ++i) {
         AbilityTextFiles(state, i);
-        const QString name = LoadText(tree, {Stem(i), state.AbilityNameFile + Extension}, fallback);
-        const QString desc = LoadText(tree, {Stem(i), state.AbilityDescFile + Extension}, fallback);
+        const QString name =
+            LoadText(trees, {Stem(i), state.AbilityNameFile + Extension}, fallback);
+        const QString desc =
+            LoadText(trees, {Stem(i), state.AbilityDescFile + Extension}, fallback);
         program.form.utbN(i).SetText(WithoutLineEnd(name));
         program.form.utbD(i).SetText(desc);
     }

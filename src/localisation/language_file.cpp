@@ -33,7 +33,7 @@ QByteArray FirstLine(const QString& path) {
 
 } // namespace
 
-std::uint8_t ReadLanguageFile(const LanguageFilePlaces& places) {
+std::uint8_t ReadLanguageFile(const ProgramPlaces& places) {
     const QString users = FileIn(places.settingsFolder);
     const QString path = QFileInfo(users).isFile() ? users : FileIn(places.programFolder);
     if (!QFileInfo::exists(path)) {
@@ -43,10 +43,10 @@ std::uint8_t ReadLanguageFile(const LanguageFilePlaces& places) {
     return FirstLine(path) == Codes[Russian] ? Russian : English;
 }
 
-bool WriteLanguageFile(const LanguageFilePlaces& places, std::uint8_t languageId) {
+bool WriteLanguageFile(const ProgramPlaces& places, std::uint8_t languageId) {
     const QByteArray code = Codes.at(languageId);
     const QString users = FileIn(places.settingsFolder);
-    if (!SaveFile(FileIn(places.programFolder), code)) {
+    if (!places.installedForAll && !SaveFile(FileIn(places.programFolder), code)) {
         QFile::remove(users); // or it would win at the next start
         return true;
     }

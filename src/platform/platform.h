@@ -3,6 +3,7 @@
 #pragma once
 
 #include "form/file_dialog.h"
+#include "platform/program_places.h"
 
 #include <QStringList>
 
@@ -51,6 +52,8 @@ public:
 
     /// Folder for this program's settings of the user, which need not exist yet.
     virtual QString SettingsFolder() const = 0;
+
+    ProgramPlaces Places() const { return {ProgramFolder(), SettingsFolder()}; }
 
     virtual void EndProcess() = 0;
 };

@@ -73,9 +73,8 @@ bool Form_Load(Program& program, const StartOptions& options) {
         form.Tablus.Tab(page).Switch(page != 2 && page != 4);
     NameLanguages(form);
     form.mnuSave.SetEnabled(false);
-    state.LanguageId = options.languageId ? *options.languageId
-                                          : ReadLanguageFile({program.platform.ProgramFolder(),
-                                                              program.platform.SettingsFolder()});
+    state.LanguageId =
+        options.languageId ? *options.languageId : ReadLanguageFile(program.platform.Places());
     ApplyLanguage(program, state.LanguageId);
     if (program.platform.OtherInstanceRuns()) {
         program.Warn(BoxIcon::Critical, state.MsgSecondInstance);

@@ -9,8 +9,7 @@ bool ConfirmQuit(Program& program) {
     const SharedState& state = program.state;
     if (!program.platform.AskYesNo(state.MsgQuitTitle, state.MsgQuitQuestion))
         return false;
-    WriteLanguageFile({program.platform.ProgramFolder(), program.platform.SettingsFolder()},
-                      state.LanguageId);
+    WriteLanguageFile(program.platform.Places(), state.LanguageId);
     program.platform.EndProcess();
     return true;
 }

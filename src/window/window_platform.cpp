@@ -19,11 +19,6 @@ namespace Hesperin {
 
 namespace {
 
-QString SettingsFolderOfUser() {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           QLatin1String("/talmir");
-}
-
 QMessageBox::Icon IconOf(BoxIcon icon) {
     switch (icon) {
     case BoxIcon::Critical:
@@ -142,10 +137,6 @@ QStringList WindowPlatform::CalculatorNames() const {
 
 QString WindowPlatform::ProgramFolder() const {
     return QCoreApplication::applicationDirPath();
-}
-
-QString WindowPlatform::SettingsFolder() const {
-    return SettingsFolderOfUser();
 }
 
 void WindowPlatform::EndProcess() {

@@ -29,7 +29,7 @@ public:
     bool StartProgram(const QString& name) override;
     QStringList CalculatorNames() const override;
     QString ProgramFolder() const override;
-    QString SettingsFolder() const override;
+    QString SettingsFolder() const override { return SettingsFolderOfUser(); }
     void EndProcess() override;
 
 private:

@@ -115,6 +115,18 @@ TEST(AbilityTexts, AreFoundInOtherLetterCase) {
     EXPECT_EQ(test.form.utbN(16).Text(), "exact");
 }
 
+TEST(AbilityTexts, InTheUsersFolderWin) {
+    TestProgram test;
+    WriteText(test, "EN", "Bash/Bash_name", "beside the program");
+    WriteText(test, "EN", "Bash/Bash_desc", "beside the program");
+    QTemporaryDir settings;
+    test.platform.settingsFolder = settings.path();
+    WriteFile(settings.filePath("EN/Text/Game/Creatures/Creature_abilities/Bash/Bash_name.txt"), "of the user");
+    LoadAbilityTexts(test.program);
+    EXPECT_EQ(test.form.utbN(16).Text(), "of the user");
+    EXPECT_EQ(test.form.utbD(16).Text(), "beside the program"); // a part is better than none
+}
+
 TEST(AbilityTexts, FollowTheLanguageAndAreEmptyWhereTheTreeIsNot) {
     TestProgram test;
     WriteText(test, "EN", "Bash/Bash_name", "Bash");

@@ -27,8 +27,8 @@ struct LanguageFileTest : testing::Test {
     QByteArray Content(const QString& name) const { return ReadAll(folder.filePath(name)); }
 
     QTemporaryDir folder;
-    LanguageFilePlaces writable{folder.filePath("program"), folder.filePath("settings/talmir")};
-    LanguageFilePlaces readOnly{folder.filePath("file/program"), folder.filePath("settings/talmir")};
+    ProgramPlaces writable{folder.filePath("program"), folder.filePath("settings/talmir")};
+    ProgramPlaces readOnly{folder.filePath("file/program"), folder.filePath("settings/talmir")};
 };
 
 TEST_F(LanguageFileTest, OnlyAFirstLineOfExactlyRuIsRussian) {
@@ -86,7 +86,12 @@ TEST_F(LanguageFileTest, GoesToTheSettingsFolderWhereTheProgramsCannotBeWritten)
     EXPECT_EQ(ReadLanguageFile(writable), 1); // and not for longer than it is needed
     EXPECT_FALSE(QFileInfo::exists(folder.filePath("settings/talmir/lang.ini")));
 
-    const LanguageFilePlaces nowhere{folder.filePath("file/a"), folder.filePath("file/b")};
+    const ProgramPlaces forAll{folder.filePath("program"), folder.filePath("settings/talmir"), true};
+    EXPECT_TRUE(WriteLanguageFile(forAll, 2)); // as root, who could write there
+    EXPECT_EQ(Content("program/lang.ini"), "EN");
+    EXPECT_EQ(ReadLanguageFile(forAll), 2);
+
+    const ProgramPlaces nowhere{folder.filePath("file/a"), folder.filePath("file/b")};
     EXPECT_EQ(ReadLanguageFile(nowhere), 1);
     EXPECT_FALSE(WriteLanguageFile(nowhere, 2));
 }
@@ -99,6 +104,21 @@ TEST_F(LanguageFileTest, AFolderInItsPlaceGivesEnglishAndSendsTheFileElsewhere) 
     EXPECT_EQ(ReadLanguageFile(writable), 2);
     EXPECT_TRUE(QFileInfo(folder.filePath("program/lang.ini/inner")).isDir());
 }
+
+#ifdef Q_OS_UNIX
+TEST(SystemFolder, IsWhereAllUsersFindTheirPrograms) {
+    const std::pair<const char*, bool> cases[] = {{"/usr/bin", true},
+                                                  {"/usr/local/bin", true},
+                                                  {"/bin", true},
+                                                  {"/home/a/usr/bin", false},
+                                                  {"/opt/talmir", false},
+                                                  {"/usr2/bin", false},
+                                                  {"/home/a/../../usr/bin", true},
+                                                  {"", false}};
+    for (const auto& [folder, shared] : cases)
+        EXPECT_EQ(IsSystemFolder(folder), shared) << folder;
+}
+#endif
 
 } // namespace
 

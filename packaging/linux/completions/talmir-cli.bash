@@ -4,12 +4,15 @@ _talmir_cli() {
     local cur prev words cword
     _init_completion || return
     case $cword,${words[1]},$prev,$cur in
-        1,*) mapfile -t COMPREPLY < <(compgen -W 'calc run --help --version' -- "$cur") ;;
+        1,*) mapfile -t COMPREPLY < <(compgen -W 'calc run texts --help --version' -- "$cur") ;;
         *,calc,*,-*) mapfile -t COMPREPLY < <(compgen -W '--json --help --version' -- "$cur") ;;
         *,calc,*) _filedir xdb ;;
         *,run,--lang,*) mapfile -t COMPREPLY < <(compgen -W 'EN RU' -- "$cur") ;;
         *,run,*,-*) mapfile -t COMPREPLY < <(compgen -W '--lang --help --version' -- "$cur") ;;
         *,run,*) _filedir ;;
+        *,texts,--lang,*) mapfile -t COMPREPLY < <(compgen -W 'EN RU' -- "$cur") ;;
+        *,texts,*,-*) mapfile -t COMPREPLY < <(compgen -W '--lang --help --version' -- "$cur") ;;
+        *,texts,*) _filedir pak ;;
     esac
 }
 

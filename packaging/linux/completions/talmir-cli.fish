@@ -10,3 +10,7 @@ complete -c talmir-cli -n '__fish_seen_subcommand_from calc' -k -a '(__fish_comp
 complete -c talmir-cli -n __fish_use_subcommand -a run -d 'Play a script of user actions'
 complete -c talmir-cli -n '__fish_seen_subcommand_from run' -l lang -x -a 'EN RU' -d 'Language at the start'
 complete -c talmir-cli -n '__fish_seen_subcommand_from run' -F
+
+complete -c talmir-cli -n __fish_use_subcommand -a texts -d 'Copy the ability texts out of the game'
+complete -c talmir-cli -n '__fish_seen_subcommand_from texts' -l lang -x -a 'EN RU' -d 'Language of these texts'
+complete -c talmir-cli -n '__fish_seen_subcommand_from texts' -k -a '(__fish_complete_suffix .pak)'

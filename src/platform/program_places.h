@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+namespace Hesperin {
+
+/// Whether all users share this folder of programs, so that none may keep a file there, not even
+/// one who could.
+bool IsSystemFolder(const QString& folder);
+
+/// Folder for this program's settings of the user, which need not exist yet.
+QString SettingsFolderOfUser();
+
+/// Where the program keeps the language and the ability texts: in its own folder, or where that
+/// can't be written, in the user's. What lies in the user's wins.
+struct ProgramPlaces {
+    QString programFolder;
+    QString settingsFolder;
+    bool installedForAll = IsSystemFolder(programFolder);
+};
+
+} // namespace Hesperin

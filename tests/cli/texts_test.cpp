@@ -1,0 +1,158 @@
+#include "cli/run_cli.h"
+
+#include "localisation/ability_texts.h"
+
+#include <gtest/gtest.h>
+#include <minizip/zip.h>
+
+#include <QDir>
+#include <QTemporaryDir>
+
+namespace Hesperin {
+
+namespace {
+
+const QString Tree = "Text/Game/Creatures/Creature_abilities/";
+constexpr int Encrypted = 1;
+
+/// A copy of the program in a folder of its own, where it keeps its texts, and places to take them from.
+struct TextsTest : testing::Test {
+    TextsTest() {
+        QDir(folder.path()).mkpath("program");
+        EXPECT_TRUE(QFile::copy(TestedProgram("talmir-cli"), Path("program/talmir-cli")));
+    }
+
+    QString Path(const QString& name) const { return folder.filePath(name); }
+
+    void Write(const QString& name, const QByteArray& bytes) const { WriteFile(Path(name), bytes); }
+
+    using Entries = std::vector<std::pair<QString, QByteArray>>;
+
+    void WriteArchive(const QString& name, const Entries& entries, unsigned long flags = 0) const {
+        const zipFile zip = zipOpen64(Path(name).toLocal8Bit().constData(), APPEND_STATUS_CREATE);
+        for (const auto& [entry, bytes] : entries) {
+            zip_fileinfo info{};
+            zipOpenNewFileInZip4(zip, entry.toUtf8().constData(), &info, nullptr, 0, nullptr, 0, nullptr, Z_DEFLATED,
+                                 Z_BEST_SPEED, 0, -MAX_WBITS, DEF_MEM_LEVEL, Z_DEFAULT_STRATEGY, nullptr, 0, 0, flags);
+            zipWriteInFileInZip(zip, bytes.constData(), static_cast<unsigned>(bytes.size()));
+            zipCloseFileInZip(zip);
+        }
+        EXPECT_EQ(zipClose(zip, nullptr), ZIP_OK);
+    }
+
+    /// Takes the texts out of these places.
+    CliOutcome Take(const QStringList& places, const QStringList& options = {}) const {
+        QProcess process;
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("XDG_CONFIG_HOME", Path("settings"));
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(folder.path());
+        process.start(Path("program/talmir-cli"), QStringList{"texts"} + places + options);
+        return FinishCli(process);
+    }
+
+    QByteArray Text(const QString& name) const { return ReadAll(Path("program/EN/" + Tree + name)); }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(TextsTest, ComeOutOfTreesAndArchivesInAnySpelling) {
+    const QString name = Tree + "Bash/Bash_name.txt";
+    Write("tree/" + name, "1");
+    Write("data/DATA/" + name.toUpper(), "2");
+    Write("language/EN/" + name, "3");
+    Write("language/" + name, "not this one");
+    WriteArchive("plain.pak", {{name, "4"}, {"MapObjects/Bash_name.txt", "not this one"}});
+    WriteArchive("windows.pak", {{QString(name).replace('/', '\\').toUpper(), "5"}});
+    WriteArchive("rooted.pak", {{"./data/EN/" + name.toLower(), "6"}});
+    WriteArchive("twice.pak", {{name, "not this one"}, {name, "7"}});
+    QDir(folder.path()).mkpath("game/data");
+    WriteArchive("game/data/a.pak", {{name, "not this one"}});
+    WriteArchive("game/data/b.pak", {{name, "8"}});
+    WriteArchive("game/data/c.pak", {{"MapObjects/x.xdb", "not this one"}});
+    WriteArchive("Архив.pak", {{name, ""}});
+    const std::pair<const char*, const char*> cases[] = {{"tree", "1"},      {"data", "2"},        {"language", "3"},
+                                                         {"plain.pak", "4"}, {"windows.pak", "5"}, {"rooted.pak", "6"},
+                                                         {"twice.pak", "7"}, {"Архив.pak", ""},    {"game", "8"}};
+    for (const auto& [place, text] : cases) {
+        SCOPED_TRACE(place);
+        const CliOutcome outcome = Take({place});
+        EXPECT_EQ(outcome.code, 1); // the others are missing
+        EXPECT_EQ(Text("Bash/Bash_name.txt"), text);
+        EXPECT_EQ(outcome.Lines().filter("Bash/Bash_name.txt: " + QString(place)).size(), 1);
+        EXPECT_TRUE(outcome.Lines().contains("Bash/Bash_desc.txt: missing"));
+        EXPECT_TRUE(outcome.Lines().last().startsWith("1 of 348 texts copied to "));
+    }
+}
+
+TEST_F(TextsTest, AreAllCopiedByteByByteTheLaterLaidOverTheEarlier) {
+    Entries all;
+    for (const AbilityText& text : AbilityTexts())
+        all.emplace_back(Tree + text.folder + '/' + text.file, ("\xFF\xFE" + text.file.toUtf8() + "\r\n").repeated(20));
+    WriteArchive("all.pak", all);
+    WriteArchive("patch.pak", {{all[7].first, "new"}});
+    Write("tree/" + all[9].first, "newest");
+    const CliOutcome outcome = Take({"all.pak", "patch.pak", "tree"});
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_EQ(outcome.Lines().size(), 349);
+    EXPECT_EQ(outcome.Lines().filter(": all.pak").size(), 346);
+    all[7].second = "new";
+    all[9].second = "newest";
+    for (const auto& [name, bytes] : all)
+        EXPECT_EQ(ReadAll(Path("program/EN/" + name)), bytes) << name.toStdString();
+    EXPECT_EQ(Take({"patch.pak"}).code, 1);
+    EXPECT_EQ(ReadAll(Path("program/EN/" + all[8].first)), all[8].second); // what isn't found is left
+}
+
+TEST_F(TextsTest, SayWhatCantBeRead) {
+    const QString name = Tree + "Bash/Bash_name.txt";
+    Write("no.pak", "PK no archive");
+    WriteArchive("large.pak", {{name, QByteArray((1 << 16) + 1, 'x')}});
+    WriteArchive("secret.pak", {{name, "x"}}, Encrypted);
+    WriteArchive("good.pak", {{name, "good text"}});
+    QByteArray damaged = ReadAll(Path("good.pak"));
+    damaged[30 + static_cast<int>(name.size()) + 3] ^= 1; // in the packed text
+    Write("damaged.pak", damaged);
+    const struct {
+        const char* place;
+        const char* complaint;
+    } cases[] = {
+        {"nothing", "nothing: There is no such file."},
+        {"/dev/null", "/dev/null: It is a device or a pipe; a file was expected."},
+        {"no.pak", "no.pak: it is no zip archive, or an empty one"},
+        {"large.pak", "large.pak: Bash/Bash_name.txt: it has more than 65536 bytes"},
+        {"secret.pak", "secret.pak: Bash/Bash_name.txt: it is encrypted"},
+        {"damaged.pak", "damaged.pak: Bash/Bash_name.txt: it is damaged in the archive"},
+        {"program", "talmir-cli texts: there are no ability texts in these places"},
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.place);
+        QDir(Path("program/EN")).removeRecursively();
+        const CliOutcome alone = Take({row.place});
+        EXPECT_EQ(alone.code, 1);
+        EXPECT_EQ(alone.Complaints().value(0), row.complaint);
+        EXPECT_FALSE(QFileInfo::exists(Path("program/EN")));
+        const CliOutcome laidOver = Take({"good.pak", row.place}); // the rest is done
+        EXPECT_EQ(laidOver.code, 1);
+        EXPECT_EQ(Text("Bash/Bash_name.txt"), "good text");
+    }
+    EXPECT_EQ(Take({}).code, 2);
+    EXPECT_EQ(Take({"good.pak"}, {"--lang", "FR"}).code, 2);
+}
+
+TEST_F(TextsTest, GoIntoTheUsersFolderWhereTheProgramsCantBeWritten) {
+    const QString name = Tree + "Bash/Bash_name.txt";
+    WriteArchive("good.pak", {{name, "Оглушение"}});
+    Write("program/RU", "in the way");
+    const QString users = "settings/talmir/RU/" + name;
+    EXPECT_TRUE(Take({"good.pak"}, {"--lang", "RU"}).Lines().contains("Bash/Bash_name.txt: good.pak"));
+    EXPECT_EQ(ReadAll(Path(users)), "Оглушение");
+    QFile::remove(Path("program/RU"));
+    WriteArchive("good.pak", {{name, "Удар"}});
+    Take({"good.pak"}, {"--lang", "RU"}); // there they win, so there they stay
+    EXPECT_EQ(ReadAll(Path(users)), "Удар");
+}
+
+} // namespace
+
+} // namespace Hesperin
