@@ -55,11 +55,9 @@ int Error(voidpf, voidpf file) {
 
 /// The toolkit opens the file: a name with any letters, on any system.
 struct ZipArchive::Reader {
-    explicit Reader(const QString& path) : file(path) {
-        zlib_filefunc64_def calls{OpenFile, ReadBytes, WriteBytes, Tell,
-                                  Seek,     CloseFile, Error,      &file};
-        zip = unzOpen2_64(nullptr, &calls);
-    }
+    explicit Reader(const QString& path)
+        : file(path), calls{OpenFile, ReadBytes, WriteBytes, Tell, Seek, CloseFile, Error, &file},
+          zip(unzOpen2_64(nullptr, &calls)) {}
     ~Reader() {
         if (zip != nullptr)
             unzClose(zip);
@@ -68,7 +66,8 @@ struct ZipArchive::Reader {
     Reader& operator=(const Reader&) = delete;
 
     QFile file;
-    unzFile zip = nullptr;
+    zlib_filefunc64_def calls;
+    unzFile zip;
 };
 
 ZipArchive::ZipArchive(const QString& path, const QString& part)

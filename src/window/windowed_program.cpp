@@ -10,6 +10,7 @@ namespace Hesperin {
 
 void WindowedProgram::DressApplication() {
     QApplication::setStyle(new ProgramStyle);
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns the style
     QApplication::setPalette(ProgramPalette());
 }
 
