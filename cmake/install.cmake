@@ -1,11 +1,21 @@
 # What is installed where, below any prefix.
 include(GNUInstallDirs)
 include(cmake/version.cmake)
-install(TARGETS talmir talmir-cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 
-if(NOT UNIX)
+# To read; laid out as in the sources, so that links between the texts lead there.
+function(talmir_install_documents folder)
+    install(FILES docs/guide.md docs/guide.ru.md DESTINATION ${folder}/docs)
+    install(DIRECTORY docs/pictures DESTINATION ${folder}/docs)
+    install(DIRECTORY samples DESTINATION ${folder})
+endfunction()
+
+if(NOT UNIX) # a folder to be unpacked and used where it lies
+    install(TARGETS talmir talmir-cli RUNTIME DESTINATION .)
+    install(FILES LICENSE RENAME LICENSE.txt DESTINATION .)
+    talmir_install_documents(.)
     return()
 endif()
+install(TARGETS talmir talmir-cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 
 set(linux ${PROJECT_SOURCE_DIR}/packaging/linux)
 set(made ${PROJECT_BINARY_DIR}/packaging)
@@ -39,11 +49,8 @@ foreach(command talmir talmir-cli)
 endforeach()
 install(FILES ${linux}/completions/_talmir DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions)
 
-# To read; laid out as in the sources, so that links between the texts lead there.
 install(FILES README.md LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
-install(FILES docs/guide.md docs/guide.ru.md DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs)
-install(DIRECTORY docs/pictures DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs)
-install(DIRECTORY samples DESTINATION ${CMAKE_INSTALL_DOCDIR})
+talmir_install_documents(${CMAKE_INSTALL_DOCDIR})
 
 if(TALMIR_TESTS)
     add_test(NAME packaged_words COMMAND ${linux}/check_words $<TARGET_FILE:talmir> $<TARGET_FILE:talmir-cli>)

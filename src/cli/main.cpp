@@ -2,6 +2,7 @@
 #include "cli/command.h"
 #include "cli/output.h"
 #include "form/version_record.h"
+#include "platform/console.h"
 
 #include <QCoreApplication>
 
@@ -82,6 +83,7 @@ int Run(QStringList arguments) {
 } // namespace
 
 int main(int argc, char** argv) {
+    PrepareConsole();
     const QCoreApplication application(argc, argv);
     const int code = Run(QCoreApplication::arguments());
     if (FlushOutput())

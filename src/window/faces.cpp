@@ -37,9 +37,11 @@ QFont Chancery(int pixelSize, QFont::Weight weight) {
     face.setPixelSize(pixelSize);
     face.setWeight(weight);
     face.setItalic(true);
+#ifdef Q_OS_LINUX
     // One picture of each letter, not one for each quarter of a pixel: 6 % of all instructions of
-    // the start.
+    // the start. Windows would draw ragged letters.
     face.setHintingPreference(QFont::PreferFullHinting);
+#endif
     return face;
 }
 

@@ -1,0 +1,87 @@
+# The Windows package tried under Wine. Sourced by ./test.
+
+need_wine() {
+    need wine wine /usr/lib/wine/wine64 wine64 Xvfb xvfb xauth xauth import imagemagick xdotool xdotool unzip unzip \
+        '/usr/share/wine/fonts/*' fonts-wine '/usr/share/fonts/truetype/liberation*' fonts-liberation
+    export WINEPREFIX="$top/build/wine" WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES='mscoree=;mshtml='
+    [ -f "$WINEPREFIX/complete" ] && return
+    rm -rf "$WINEPREFIX"
+    mkdir -p "$top/build"
+    {
+        xvfb-run -a wineboot -i
+        xvfb-run -a wine regedit /S "$top/packaging/windows/wine.reg"
+        wineserver -w
+    } >"$top/build/wine.log" 2>&1 || die "Wine could not be set up; the whole story is in build/wine.log"
+    touch "$WINEPREFIX/complete"
+}
+
+# Each test program of the core; no window, and none that needs what only Linux has.
+run_core_under_wine() {
+    local tests
+    cd "$top/build/windows/bin"
+    for tests in test_*.exe; do
+        echo "$tests"
+        wine "$tests" --gtest_brief=1 || die "$tests is red under Wine"
+    done
+}
+
+# same_bytes FILE FILE WHAT
+same_bytes() { cmp -s "$1" "$2" || die "$3 differs from Linux: $1"; }
+
+# The command line gives the same bytes as on Linux, in a folder with a Cyrillic name.
+try_command_line() {
+    local linux="$top/build/release/bin/talmir-cli" file
+    cp samples/frost_witch.xdb "Снежная ведьма.xdb"
+    printf 'menu mnuOpen Снежная ведьма.xdb\nset txtHealth 77\npress cmdCalc\nmenu mnuSave Новая.xdb\nstate\n' >play.txt
+    "$linux" calc "Снежная ведьма.xdb" нет.xdb >linux.out 2>&1 || true
+    wine talmir-cli.exe calc "Снежная ведьма.xdb" нет.xdb >wine.out 2>&1 || true
+    same_bytes wine.out linux.out "what calc prints"
+    "$linux" run play.txt --lang RU >linux.out && mv Новая.xdb linux.xdb
+    wine talmir-cli.exe run play.txt --lang RU >wine.out
+    same_bytes wine.out linux.out "what run prints"
+    same_bytes Новая.xdb linux.xdb "a saved creature"
+}
+
+# The window opens a creature, saves it under another name, as a user does, and is pictured.
+try_window() {
+    local window
+    wineserver -k || true
+    wine explorer /desktop=talmir,1280x1024 talmir.exe "Снежная ведьма.xdb" &
+    window=$(timeout 60 xdotool search --sync --onlyvisible --name 'TALMIR.*Frost_witch') ||
+        die "the window did not come up with the creature"
+    sleep 1
+    import -window root "$top/build/windows/window.png"
+    xdotool windowfocus "$window" key ctrl+s
+    sleep 3
+    xdotool type --delay 30 'saved.xdb'
+    xdotool key Return
+    timeout 30 bash -c 'until [ -s saved.xdb ]; do sleep 0.2; done' || die "the window saved nothing"
+    wineserver -k
+    "$top/build/release/bin/talmir-cli" run - <<<'menu mnuOpen Снежная ведьма.xdb
+menu mnuSave linux.xdb'
+    same_bytes saved.xdb linux.xdb "a creature saved from the window"
+    [ "$(cat lang.ini)" = EN ] || die "lang.ini does not lie beside the program"
+    echo "A picture of the window: build/windows/window.png"
+}
+
+run_under_wine() {
+    local place="$top/build/windows/Мои игры"
+    need_windows_tools
+    need_windows_gtest
+    build release -DTALMIR_TESTS=ON talmir-cli
+    "$top/package" windows
+    need_wine
+    rm -rf "$place"
+    mkdir -p "$place"
+    (cd "$place" && unzip -q "$top"/dist/talmir-*-windows-x64.zip)
+    (
+        cd "$place"/talmir-*
+        try_command_line
+        export -f try_window same_bytes die
+        export top
+        xvfb-run -a -s '-screen 0 1280x1024x24' bash -euo pipefail -c try_window
+    )
+    build_for_windows -DTALMIR_TESTS=ON
+    (run_core_under_wine)
+    echo "Under Wine: all green."
+}
