@@ -25,13 +25,15 @@ debian_source() {
         rm -rf "$package" && dpkg-source --extract "$package"_*.dsc "$package")
 }
 
-# made_once NAME VERSION MAKE: sets made to the folder of the built library; MAKE WORK builds it in the folder
-# WORK and puts it into the folder $made.
+# made_once NAME VERSION MAKE [REMARK]: sets made to the folder of the library, built by this toolchain; MAKE WORK
+# builds it in the folder WORK and puts it into the folder $made.
 made_once() {
     local name=$1 version=$2 make=$3
-    local work="$windows_cache/$name-work" log="$windows_cache/$name.log"
-    made="$windows_cache/$name-$version-windows"
+    local work="$windows_cache/$name-work" log="$windows_cache/$name.log" toolchain
+    read -r toolchain _ < <(cksum "$top/packaging/windows/toolchain.cmake")
+    made="$windows_cache/$name-$version-$toolchain"
     [ -f "$made/complete" ] && return
+    echo "Building $name for Windows, once${4:+; $4} ..."
     mkdir -p "$work" "$made"
     "$make" "$work" >"$log" 2>&1 || {
         tail -20 "$log" >&2
@@ -45,9 +47,7 @@ made_once() {
 need_windows_qt() {
     local version
     version=$(dpkg-query -W -f '${Version}' qt6-base-dev)
-    windows_qt="$windows_cache/qt-${version%%+*}-windows"
-    [ -f "$windows_qt/complete" ] || echo "Building Qt for Windows, once; that takes more than half an hour ..."
-    made_once qt "${version%%+*}" build_qt
+    made_once qt "${version%%+*}" build_qt "that takes more than half an hour"
     windows_qt=$made
 }
 
@@ -80,7 +80,7 @@ build_minizip() {
     debian_source minizip "$(dpkg-query -W -f '${source:Version}' libminizip-dev)" "$work" || return
     mkdir -p "$made/include/minizip" "$made/lib"
     for file in ioapi unzip zip; do
-        x86_64-w64-mingw32-gcc-posix -O2 -c "$work/minizip/$file.c" -o "$work/$file.o" &&
+        x86_64-w64-mingw32-gcc-posix -O2 -fno-ipa-ra -c "$work/minizip/$file.c" -o "$work/$file.o" &&
             cp "$work/minizip/$file.h" "$made/include/minizip/" || return
     done
     cp "$work/minizip/debian/copyright" "$made/copyright" &&

@@ -57,13 +57,12 @@ TEST_F(ReadFileTest, TellsWhyAFileCannotBeRead) {
         Kind kind;
     } cases[] = {
         {Path("nowhere"), Kind::Missing},
-        {Path("no/where"), Kind::Missing},
+        {Path("no/where"), OnLinux ? Kind::Missing : Kind::FolderMissing},
         {Write("six", "sixsix") + "/where", Kind::FolderMissing},
-        {Path(QString(300, 'x')), Kind::NameTooLong},
         {folder.path(), Kind::IsFolder},
         {Write("six", "sixsix"), Kind::TooLarge},
-        {QFile::exists("/dev/zero") ? "/dev/zero" : folder.path() + "/.", //
-         QFile::exists("/dev/zero") ? Kind::NotAFile : Kind::IsFolder},
+        {OnLinux ? Path(QString(300, 'x')) : folder.path() + "/.", OnLinux ? Kind::NameTooLong : Kind::IsFolder},
+        {OnLinux ? "/dev/zero" : folder.path() + "/.", OnLinux ? Kind::NotAFile : Kind::IsFolder},
     };
     for (const auto& test : cases) {
         SCOPED_TRACE(test.path.toStdString());
@@ -166,8 +165,8 @@ TEST_F(PathLookupTest, PrefersTheExactSpellingAndElseDisregardsLetterCase) {
         const char* content; // null: there is no such file
     } cases[] = {
         {{"EN", "Text", "Bash", "name.txt"}, "1"},      {{"en", "tEXT", "BASH", "Name.Txt"}, "1"},
-        {{"RU", "Text", "Bash", "name.txt"}, "2"},      {{"ru", "TEXT", "bash", "other.txt"}, "3"},
-        {{"RU", "Text", "Bash", "other.txt"}, "3"},     {{"RU", "Text", "Bash", "Other.txt"}, "4"},
+        {{"RU", "Text", "Bash", "name.txt"}, "2"},      {{"ru", "TEXT", "bash", "other.txt"}, OnLinux ? "3" : "4"},
+        {{"RU", "Text", "Bash", "Other.txt"}, "4"},     {{"RU", "Text", "Bash", "other.txt"}, OnLinux ? "3" : "4"},
         {{"EN", "Text", "Bash", "names.txt"}, nullptr}, {{"FR", "Text", "Bash", "name.txt"}, nullptr},
         {{"EN", "Texts", "Bash", "name.txt"}, nullptr},
     };

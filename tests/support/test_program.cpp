@@ -56,7 +56,7 @@ void WriteFile(const QString& path, const QByteArray& bytes) {
 }
 
 QString TestedProgram(const char* name) {
-    return qEnvironmentVariable("TALMIR_PROGRAMS", TALMIR_PROGRAMS) + '/' + name;
+    return qEnvironmentVariable("TALMIR_PROGRAMS", TALMIR_PROGRAMS) + '/' + name + (OnLinux ? "" : ".exe");
 }
 
 QByteArray ReadAll(const QString& path) {

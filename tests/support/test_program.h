@@ -47,6 +47,13 @@ struct TestProgram {
     }
 };
 
+/// Names of files differ by letter case, folders may take the names of devices, and so on.
+#ifdef Q_OS_WIN
+constexpr bool OnLinux = false;
+#else
+constexpr bool OnLinux = true;
+#endif
+
 /// Writes a file, in folders made for it.
 void WriteFile(const QString& path, const QByteArray& bytes);
 
