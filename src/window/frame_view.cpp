@@ -1,6 +1,7 @@
 #include "window/frame_view.h"
 
 #include "window/faces.h"
+#include "window/outline.h"
 #include "window/palette.h"
 
 #include <QFontMetrics>
@@ -45,10 +46,8 @@ void FrameView::NameFields() {
 void FrameView::paintEvent(QPaintEvent*) {
     const int lineTop = captionPlace.height() / 2;
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
+    DrawOutline(painter, rect().adjusted(0, lineTop, 0, 0));
     painter.setFont(fitting);
-    painter.setPen(QColor(Colours::Line));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, lineTop + 0.5, -0.5, -0.5), 4, 4);
     painter.fillRect(captionPlace.adjusted(-CaptionGap, 0, CaptionGap, 0), palette().window());
     painter.setPen(palette().color(QPalette::Active, QPalette::WindowText));
     painter.drawText(captionPlace, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip,
