@@ -52,6 +52,8 @@ int main(int argc, char** argv) {
             qgetenv("DISPLAY").isEmpty() ? "offscreen" : qgetenv("QT_QPA_PLATFORM"));
     PrintPair("Process start to first complete picture", {here + "/start/window_start", {}},
               {here + "/start/empty_start", {}});
+    PrintPair("  of it, an empty window that writes the same texts",
+              {here + "/start/text_start", {}}, {here + "/start/empty_start", {}});
     PrintMemoryPair("Memory of the idle window", {here + "/start/window_start", {"idle"}},
                     {here + "/start/empty_start", {"idle"}});
     PrintPair("Process start to result, one file",

@@ -11,7 +11,6 @@ ListView::ListView(ComboBox& list, QWidget* parent, const QRect& place, const QF
     : View(list, parent), face(listFace) {
     setGeometry(place);
     setFont(face);
-    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMaxVisibleItems(20);
     connect(this, &QComboBox::activated, this, [this](int index) {
         control.Select(static_cast<std::int16_t>(index));
@@ -49,6 +48,14 @@ void ListView::paintEvent(QPaintEvent*) {
             .width();
     painter.setFont(FittingFace(face, option.currentText, room - 4));
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+void ListView::changeEvent(QEvent* event) {
+    // The list that drops down inherits its face; the toolkit would build it now, only to tell it.
+    if (event->type() == QEvent::FontChange)
+        QWidget::changeEvent(event);
+    else
+        QComboBox::changeEvent(event);
 }
 
 void ListView::wheelEvent(QWheelEvent* event) {

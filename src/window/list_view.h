@@ -15,6 +15,7 @@ public:
 protected:
     void Sync() override;
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:

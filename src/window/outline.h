@@ -4,7 +4,7 @@
 
 namespace Hesperin {
 
-/// Draws a line of one pixel with round corners along the inside of `place`.
-void DrawOutline(QPainter& painter, const QRect& place);
+/// Draws a line of one pixel, with round corners, along the inside of `place`.
+void DrawOutline(QPainter& painter, const QRect& place, const QColor& colour, int radius);
 
 } // namespace Hesperin

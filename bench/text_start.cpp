@@ -1,0 +1,66 @@
+// An otherwise empty window that writes the first picture's texts in their faces, with no control
+// at all: what any window that shows these texts pays. Run by the start benchmark.
+#include "ui/form_load.h"
+#include "window/early_start.h"
+#include "window/faces.h"
+
+#include "end_after_first_picture.h"
+
+#include <QApplication>
+#include <QMainWindow>
+#include <QPainter>
+
+using namespace Hesperin;
+
+namespace {
+
+class Texts : public QMainWindow {
+public:
+    explicit Texts(const MainForm& shown) : form(shown) {}
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        for (int page = 0; page < TabControl::PageCount; ++page)
+            Write(painter, QApplication::font(), form.Tablus.Tab(page).Caption());
+        for (const Control* control : form.Controls())
+            if (!control->Visible())
+                continue;
+            else if (const auto* frame = dynamic_cast<const Frame*>(control))
+                Write(painter, CaptionFace(), frame->Caption());
+            else if (const auto* list = dynamic_cast<const ComboBox*>(control))
+                Write(painter, HeadingFace(), list->Text());
+            else if (const auto* field = dynamic_cast<const TextField*>(control))
+                Write(painter, FigureFace(), field->Text());
+            else if (const auto* button = dynamic_cast<const Button*>(control))
+                Write(painter, FigureFace(), button->Caption());
+    }
+
+private:
+    void Write(QPainter& painter, const QFont& face, const QString& text) {
+        constexpr int step = 12;
+        y = (y + step) % height();
+        painter.setFont(face);
+        painter.drawText(0, y, text);
+    }
+
+    const MainForm& form;
+    int y = 0;
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    EarlyStart early;
+    const QApplication application(argc, argv);
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    early.Await();
+    Program program(early.platform);
+    if (!Form_Load(program, {std::nullopt, false}))
+        return 1;
+    Texts window(program.form);
+    window.setFixedSize(1030, 704);
+    window.show();
+    const EndAfterFirstPicture end(window);
+    return QApplication::exec();
+}
