@@ -109,5 +109,6 @@ build_for_windows() {
     export TALMIR_WINDOWS_QT=$windows_qt TALMIR_WINDOWS_MINIZIP=$windows_minizip TALMIR_WINDOWS_GTEST=${windows_gtest:-}
     TALMIR_HOST_QT=$(host_qt)
     export TALMIR_HOST_QT
+    grep -qs "$windows_qt" "$top/build/windows/CMakeCache.txt" || rm -rf "$top/build/windows" # made with other libraries
     build windows "$1"
 }
