@@ -42,23 +42,34 @@ try_command_line() {
     same_bytes Новая.xdb linux.xdb "a saved creature"
 }
 
-# The window opens a creature, saves it under another name, as a user does, and is pictured.
+# wait_for SECONDS WHAT CONDITION: until the command CONDITION succeeds.
+wait_for() {
+    local tries=$((5 * $1))
+    until eval "$3"; do
+        [ $((tries--)) -gt 0 ] || die "$2"
+        sleep 0.2
+    done
+}
+
+# The window opens a creature, calculates, saves it under another name, as a user does, and is pictured.
 try_window() {
     local window
     wineserver -k || true
     wine explorer /desktop=talmir,1280x1024 talmir.exe "Снежная ведьма.xdb" &
-    window=$(timeout 60 xdotool search --sync --onlyvisible --name 'TALMIR.*Frost_witch') ||
-        die "the window did not come up with the creature"
-    sleep 1
+    wait_for 60 "the window did not come up with the creature" \
+        'window=$(xdotool search --onlyvisible --name "TALMIR.*Frost_witch" 2>/dev/null) && [ -n "$window" ]'
+    sleep 2
     import -window root "$top/build/windows/window.png"
+    xdotool mousemove 60 679 click 1 # Calculate
     xdotool windowfocus "$window" key ctrl+s
     sleep 3
-    xdotool type --delay 30 'saved.xdb'
+    xdotool key ctrl+a type --delay 30 'saved.xdb'
     xdotool key Return
-    timeout 30 bash -c 'until [ -s saved.xdb ]; do sleep 0.2; done' || die "the window saved nothing"
+    wait_for 30 "the window saved nothing" '[ -s saved.xdb ]'
     wineserver -k
     "$top/build/release/bin/talmir-cli" run - <<<'menu mnuOpen Снежная ведьма.xdb
-menu mnuSave linux.xdb'
+press cmdCalc
+menu mnuSave linux.xdb' >/dev/null
     same_bytes saved.xdb linux.xdb "a creature saved from the window"
     [ "$(cat lang.ini)" = EN ] || die "lang.ini does not lie beside the program"
     echo "A picture of the window: build/windows/window.png"
@@ -77,9 +88,9 @@ run_under_wine() {
     (
         cd "$place"/talmir-*
         try_command_line
-        export -f try_window same_bytes die
-        export top
-        xvfb-run -a -s '-screen 0 1280x1024x24' bash -euo pipefail -c try_window
+        export top # xvfb-run hands on no functions
+        xvfb-run -a -s '-screen 0 1280x1024x24' bash -euo pipefail -c \
+            'source "$top/setup.sh"; source "$top/packaging/windows/under_wine.sh"; try_window'
     )
     build_for_windows -DTALMIR_TESTS=ON
     (run_core_under_wine)
