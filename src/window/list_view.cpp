@@ -53,7 +53,7 @@ void ListView::paintEvent(QPaintEvent*) {
 void ListView::changeEvent(QEvent* event) {
     // The list that drops down inherits its face; the toolkit would build it now, only to tell it.
     if (event->type() == QEvent::FontChange)
-        QWidget::changeEvent(event);
+        update();
     else
         QComboBox::changeEvent(event);
 }
