@@ -37,7 +37,13 @@ std::optional<FileObstacle> SaveFile(const QString& path, const QByteArray& byte
     // old file by half of the new one.
     if (file.write(bytes) == bytes.size() && file.flush() && file.commit())
         return std::nullopt;
-    return ObstacleOf(file.errorString());
+    const FileObstacle obstacle = ObstacleOf(file.errorString());
+    // Windows denies to move over a file that is held, and tells the reason only at its opening.
+    QFile old(path);
+    if (obstacle.kind == FileObstacle::Kind::NotAllowed && old.exists() &&
+        !old.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
+        return ObstacleOf(old.errorString());
+    return obstacle;
 }
 
 std::optional<FileObstacle> SaveObstacle(const QString& path) {

@@ -13,6 +13,10 @@
 #include <QFile>
 #include <QProcess>
 
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
+
 namespace Hesperin {
 
 namespace {
@@ -101,6 +105,23 @@ TEST_F(SaveFileTest, WritesThroughASymbolicLink) {
     EXPECT_TRUE(QFileInfo(Path("link")).isSymLink());
     EXPECT_EQ(ReadAll(target), "new");
 }
+
+#ifdef Q_OS_WIN
+TEST_F(SaveFileTest, TellsThatAnotherProgramHoldsTheFile) {
+    const QString path = Write("held", "old");
+    const HANDLE holder = CreateFileW(QDir::toNativeSeparators(path).toStdWString().c_str(), GENERIC_READ, 0, nullptr,
+                                      OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(holder, INVALID_HANDLE_VALUE);
+    const auto save = SaveFile(path, "new");
+    const auto read = ReadFile(path, 100);
+    CloseHandle(holder);
+    ASSERT_TRUE(save && std::holds_alternative<FileObstacle>(read));
+    EXPECT_EQ(static_cast<int>(save->kind), static_cast<int>(FileObstacle::Kind::InUse));
+    EXPECT_EQ(static_cast<int>(std::get<FileObstacle>(read).kind), static_cast<int>(FileObstacle::Kind::InUse));
+    EXPECT_EQ(ReadAll(path), "old");
+    EXPECT_EQ(Names(), QStringList{"held"});
+}
+#endif
 
 TEST(DecodeText, RecognisesTheEncoding) {
     const QString dragon = QString::fromUtf8("Дракон");
