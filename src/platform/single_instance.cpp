@@ -1,11 +1,16 @@
 #include "platform/single_instance.h"
 
+#include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSysInfo>
 #include <QThread>
 
 namespace Hesperin {
+
+static const qint64 ProcessBegan = QDateTime::currentMSecsSinceEpoch();
 
 SingleInstance::SingleInstance(const QString& folder)
     : path(folder + QLatin1String("/talmir.lock")), lock(path) {
@@ -13,11 +18,17 @@ SingleInstance::SingleInstance(const QString& folder)
     lock.setStaleLockTime(0); // a lock never goes stale by age alone
 }
 
-bool SingleInstance::TellsItsHolder() const {
+bool SingleInstance::IsHeld() const {
     qint64 process = 0;
     QString host;
     QString program;
-    return lock.getLockInfo(&process, &host, &program);
+    if (!lock.getLockInfo(&process, &host, &program))
+        return false;
+    const bool namesThisProcess =
+        process == QCoreApplication::applicationPid() &&
+        host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0;
+    return !namesThisProcess || // else this one got the number of one that was killed
+           QFileInfo(path).lastModified().toMSecsSinceEpoch() >= ProcessBegan;
 }
 
 bool SingleInstance::OtherRuns() {
@@ -26,10 +37,10 @@ bool SingleInstance::OtherRuns() {
         return false;
     if (lock.isLocked() || lock.tryLock(0) || lock.error() != QLockFile::LockFailedError)
         return false;
-    if (TellsItsHolder())
+    if (IsHeld())
         return true;
     QThread::msleep(aStartIsWriting);
-    if (TellsItsHolder())
+    if (IsHeld())
         return true;
     return QFile::remove(path) && !lock.tryLock(0) && lock.error() == QLockFile::LockFailedError;
 }

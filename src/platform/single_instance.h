@@ -16,8 +16,9 @@ public:
     bool OtherRuns();
 
 private:
-    /// Whether the lock file tells who holds it.
-    bool TellsItsHolder() const;
+    /// Whether the lock file tells who holds it, and it isn't older than this process under the
+    /// number of this process.
+    bool IsHeld() const;
 
     QString path;
     QLockFile lock;

@@ -9,10 +9,6 @@ class ProgramStyle : public QProxyStyle {
 public:
     ProgramStyle();
 
-    /// A field without the focus looks as it does without this class, drawn in a cheaper way.
-    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
-                       const QWidget* widget) const override;
-
     /// The menu bar asks for the arrow of what doesn't fit, which this window never shows; making
     /// it would load the readers of all picture formats that the system has.
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,

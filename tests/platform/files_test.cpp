@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -236,6 +237,19 @@ TEST_F(SingleInstanceTest, TakesOverTheLockOfAProcessThatNoLongerRuns) {
     lock.first() = QByteArray::number(endedId);
     Write("c/talmir.lock", lock.join('\n'));
     EXPECT_FALSE(SingleInstance(Path("c")).OtherRuns());
+}
+
+TEST_F(SingleInstanceTest, TakesOverTheLockOfAProcessThatHadItsNumber) {
+    {
+        SingleInstance first(Path("a"));
+        ASSERT_FALSE(first.OtherRuns());
+        Write("b/talmir.lock", ReadAll(Path("a/talmir.lock")));
+    }
+    QFile left(Path("b/talmir.lock"));
+    ASSERT_TRUE(left.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(left.setFileTime(QDateTime::currentDateTime().addDays(-1), QFileDevice::FileModificationTime));
+    left.close();
+    EXPECT_FALSE(SingleInstance(Path("b")).OtherRuns());
 }
 
 TEST_F(SingleInstanceTest, TakesOverALockThatCannotBeRead) {
