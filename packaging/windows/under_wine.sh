@@ -30,7 +30,7 @@ same_bytes() { cmp -s "$1" "$2" || die "$3 differs from Linux: $1"; }
 
 # The command line gives the same bytes as on Linux, in a folder with a Cyrillic name.
 try_command_line() {
-    local linux="$top/build/release/bin/talmir-cli" file
+    local linux="$top/build/release/bin/talmir-cli"
     cp samples/frost_witch.xdb "Снежная ведьма.xdb"
     printf 'menu mnuOpen Снежная ведьма.xdb\nset txtHealth 77\npress cmdCalc\nmenu mnuSave Новая.xdb\nstate\n' >play.txt
     "$linux" calc "Снежная ведьма.xdb" нет.xdb >linux.out 2>&1 || true
@@ -51,42 +51,50 @@ wait_for() {
     done
 }
 
-# The window opens a creature, calculates, saves it under another name, as a user does, and is pictured.
+# The window opens a creature, calculates another health, and saves under another name, as a user does. It is pictured,
+# and its title and file must be those that the command line gives on Linux.
 try_window() {
-    local window
-    wineserver -k || true
+    local window title
+    title=$("$top/build/release/bin/talmir-cli" run - <<<'menu mnuOpen Снежная ведьма.xdb
+set txtHealth 77
+press cmdCalc
+menu mnuSave linux.xdb
+state' | sed -n 's/.*"title":"\([^"]*\)".*/\1/p')
+    wineserver -k || true # it has no display
+    wineserver -w
     wine explorer /desktop=talmir,1280x1024 talmir.exe "Снежная ведьма.xdb" &
     wait_for 60 "the window did not come up with the creature" \
         'window=$(xdotool search --onlyvisible --name "TALMIR.*Frost_witch" 2>/dev/null) && [ -n "$window" ]'
     sleep 2
     import -window root "$top/build/windows/window.png"
-    xdotool mousemove 60 679 click 1 # Calculate
+    xdotool mousemove 63 227 click 1 key ctrl+a type 77 # Health
+    xdotool mousemove 60 679 click 1                   # Calculate
+    wait_for 10 "the window calculated something else than: $title" \
+        '[ "$(xdotool getwindowname "$window")" = "$title" ]'
     xdotool windowfocus "$window" key ctrl+s
     sleep 3
     xdotool key ctrl+a type --delay 30 'saved.xdb'
     xdotool key Return
     wait_for 30 "the window saved nothing" '[ -s saved.xdb ]'
     wineserver -k
-    "$top/build/release/bin/talmir-cli" run - <<<'menu mnuOpen Снежная ведьма.xdb
-press cmdCalc
-menu mnuSave linux.xdb' >/dev/null
     same_bytes saved.xdb linux.xdb "a creature saved from the window"
     [ "$(cat lang.ini)" = EN ] || die "lang.ini does not lie beside the program"
     echo "A picture of the window: build/windows/window.png"
 }
 
 run_under_wine() {
-    local place="$top/build/windows/Мои игры"
+    local place="$top/build/windows/Мои игры" folder
     need_windows_tools
     need_windows_gtest
     build release -DTALMIR_TESTS=ON talmir-cli
     "$top/package" windows
     need_wine
+    folder="talmir-$(cat "$top/build/windows/version.txt")-windows-x64"
     rm -rf "$place"
     mkdir -p "$place"
-    (cd "$place" && unzip -q "$top"/dist/talmir-*-windows-x64.zip)
+    (cd "$place" && unzip -q "$top/dist/$folder.zip")
     (
-        cd "$place"/talmir-*
+        cd "$place/$folder"
         try_command_line
         export top # xvfb-run hands on no functions
         xvfb-run -a -s '-screen 0 1280x1024x24' bash -euo pipefail -c \
