@@ -46,7 +46,7 @@ void FrameView::NameFields() {
 void FrameView::paintEvent(QPaintEvent*) {
     const int lineTop = captionPlace.height() / 2;
     QPainter painter(this);
-    DrawOutline(painter, rect().adjusted(0, lineTop, 0, 0), QColor(Colours::Line), 4);
+    DrawOutline(painter, rect().adjusted(0, lineTop, 0, 0));
     painter.setFont(fitting);
     painter.fillRect(captionPlace.adjusted(-CaptionGap, 0, CaptionGap, 0), palette().window());
     painter.setPen(palette().color(QPalette::Active, QPalette::WindowText));

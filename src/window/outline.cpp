@@ -1,6 +1,7 @@
 #include "window/outline.h"
 
-#include <QHash>
+#include "window/palette.h"
+
 #include <QImage>
 #include <QPaintDevice>
 
@@ -8,50 +9,47 @@ namespace Hesperin {
 
 namespace {
 
-void DrawRounded(QPainter& painter, const QRect& place, const QColor& colour, int radius) {
+constexpr int Radius = 4;
+constexpr int Corner = Radius + 1; // side of the square that shows all of one
+
+void DrawRounded(QPainter& painter, const QRect& place) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(colour);
-    painter.drawRoundedRect(QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    painter.setPen(QColor(Colours::Line));
+    painter.drawRoundedRect(QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5), Radius, Radius);
     painter.restore();
 }
 
-/// An outline as small as can be: its corners are squares of radius + 1.
-const QImage& SmallOutline(const QColor& colour, int radius) {
-    static QHash<std::pair<QRgb, int>, QImage> drawn;
-    QImage& picture = drawn[{colour.rgba(), radius}];
-    if (picture.isNull()) {
-        const int side = 2 * (radius + 1);
-        picture = QImage(side, side, QImage::Format_ARGB32_Premultiplied);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        DrawRounded(painter, picture.rect(), colour, radius);
-    }
+/// An outline as small as can be.
+QImage SmallOutline() {
+    QImage picture(2 * Corner, 2 * Corner, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    DrawRounded(painter, picture.rect());
     return picture;
 }
 
 } // namespace
 
-void DrawOutline(QPainter& painter, const QRect& place, const QColor& colour, int radius) {
+void DrawOutline(QPainter& painter, const QRect& place) {
     if (painter.device()->devicePixelRatioF() != 1) {
-        DrawRounded(painter, place, colour, radius);
+        DrawRounded(painter, place);
         return;
     }
-    // Corners out of one picture and plain lines between them: smoothing the outlines of the first
-    // page along their whole length took 6 % of all instructions of the start.
-    const QImage& outline = SmallOutline(colour, radius);
-    const int corner = radius + 1;
-    const int right = place.right() - radius;
-    const int bottom = place.bottom() - radius;
+    // Corners out of one picture and plain lines between them: smoothing a page's outlines along
+    // their whole length took 3 % of all instructions of the start.
+    static const QImage outline = SmallOutline();
+    const int right = place.right() - Radius;
+    const int bottom = place.bottom() - Radius;
     for (const int x : {place.left(), right})
         for (const int y : {place.top(), bottom})
-            painter.drawImage(x, y, outline, x == right ? corner : 0, y == bottom ? corner : 0,
-                              corner, corner);
-    const QRect across(place.left() + corner, place.top(), place.width() - 2 * corner, 1);
-    const QRect down(place.left(), place.top() + corner, 1, place.height() - 2 * corner);
+            painter.drawImage(x, y, outline, x == right ? Corner : 0, y == bottom ? Corner : 0,
+                              Corner, Corner);
+    const QRect across(place.left() + Corner, place.top(), place.width() - 2 * Corner, 1);
+    const QRect down(place.left(), place.top() + Corner, 1, place.height() - 2 * Corner);
     for (const QRect& line : {across, across.translated(0, place.height() - 1), down,
                               down.translated(place.width() - 1, 0)})
-        painter.fillRect(line, colour);
+        painter.fillRect(line, QColor(Colours::Line));
 }
 
 } // namespace Hesperin

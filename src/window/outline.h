@@ -5,6 +5,6 @@
 namespace Hesperin {
 
 /// Draws a line of one pixel, with round corners, along the inside of `place`.
-void DrawOutline(QPainter& painter, const QRect& place, const QColor& colour, int radius);
+void DrawOutline(QPainter& painter, const QRect& place);
 
 } // namespace Hesperin
