@@ -1,6 +1,5 @@
 # What is installed where, below any prefix.
 include(GNUInstallDirs)
-include(cmake/version.cmake)
 
 # To read; laid out as in the sources, so that links between the texts lead there.
 function(talmir_install_documents folder)

@@ -80,7 +80,7 @@ build_minizip() {
     debian_source minizip "$(dpkg-query -W -f '${source:Version}' libminizip-dev)" "$work" || return
     mkdir -p "$made/include/minizip" "$made/lib"
     for file in ioapi unzip zip; do
-        x86_64-w64-mingw32-gcc-posix -O2 -fno-ipa-ra -c "$work/minizip/$file.c" -o "$work/$file.o" &&
+        x86_64-w64-mingw32-gcc-posix -O2 -c "$work/minizip/$file.c" -o "$work/$file.o" &&
             cp "$work/minizip/$file.h" "$made/include/minizip/" || return
     done
     cp "$work/minizip/debian/copyright" "$made/copyright" &&

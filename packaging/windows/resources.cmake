@@ -1,5 +1,4 @@
 # Icon, version record and manifest of a Windows program.
-include(${PROJECT_SOURCE_DIR}/cmake/version.cmake)
 string(REPLACE . , TALMIR_VERSION_NUMBERS ${TALMIR_VERSION})
 
 function(talmir_windows_resources program)
