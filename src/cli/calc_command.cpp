@@ -2,9 +2,12 @@
 
 #include "cli/calc_report.h"
 #include "cli/output.h"
+#include "creature_files/creature_folder.h"
 #include "creature_files/file_commands.h"
 #include "engine/languages.h"
 #include "ui/form_load.h"
+
+#include <QFileInfo>
 
 namespace Hesperin {
 
@@ -13,16 +16,26 @@ namespace {
 const QString JsonOption = QStringLiteral("json");
 
 void DescribeCalc(QCommandLineParser& parser) {
-    parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Creature files (.xdb)."),
-                                 QStringLiteral("FILE..."));
+    parser.addPositionalArgument(
+        QStringLiteral("FILE"),
+        QStringLiteral("Creature files (.xdb); a folder stands for all below it."),
+        QStringLiteral("FILE..."));
     parser.addOption(
         {JsonOption, QStringLiteral("One JSON object a line and file instead of a table.")});
 }
 
+/// Folders replaced by the creature files below them.
+QStringList FilesOf(const QStringList& paths) {
+    QStringList files;
+    for (const QString& path : paths)
+        files += QFileInfo(path).isDir() ? CreatureFilesBelow(path) : QStringList(path);
+    return files;
+}
+
 int Calc(const QCommandLineParser& parser) {
-    const QStringList files = parser.positionalArguments();
+    const QStringList paths = parser.positionalArguments();
     const bool json = parser.isSet(JsonOption);
-    if (files.isEmpty()) {
+    if (paths.isEmpty()) {
         Complain(QStringLiteral("talmir-cli calc: at least one FILE is expected"));
         return WrongUsage;
     }
@@ -30,7 +43,7 @@ int Calc(const QCommandLineParser& parser) {
     Program program(platform);
     Form_Load(program, {English, false});
     bool allOpened = true;
-    for (const QString& file : files) {
+    for (const QString& file : FilesOf(paths)) {
         platform.messages.clear();
         const bool opened = OpenCreatureFile(program, file);
         allOpened = allOpened && opened;

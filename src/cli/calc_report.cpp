@@ -77,6 +77,25 @@ QJsonObject InFileJson(const SharedState& state, bool opened) {
     return inFile;
 }
 
+/// The parameters as Calculate has corrected them; null while there are none.
+QJsonObject ParametersJson(const Program& program, bool opened) {
+    const SharedState& state = program.state;
+    const auto number = [opened](std::int16_t value) { return Unless(!opened, value); };
+    const auto flag = [opened](bool value) { return opened ? QJsonValue(value) : QJsonValue(); };
+    return {
+        {"Attack", number(state.Attack)},
+        {"Defence", number(state.Defence)},
+        {"MinDam", number(state.MinDam)},
+        {"MaxDam", number(state.MaxDam)},
+        {"Health", number(state.Health)},
+        {"Speed", number(state.Speed)},
+        {"Initiative", number(state.Initiative)},
+        {"Tier", number(state.Tier)},
+        {"Upgrade", flag(state.UpgradeFactor != 1.0F)},
+        {"Shooter", flag(program.form.Abilities(Ability::Shooter).Ticked())},
+    };
+}
+
 QStringList TickedCaptions(const MainForm& form) {
     QStringList captions;
     for (const CheckBox& box : form.Abilities)
@@ -126,6 +145,7 @@ QJsonObject CalcJson(const QString& file, bool opened, const Program& program,
         {"advised_tier", Unless(stopped, state.AdvisedTier)},
         {"figures", FiguresJson(state, opened)},
         {"in_file", InFileJson(state, opened)},
+        {"parameters", ParametersJson(program, opened)},
         {"ability_product",
          opened ? QJsonValue(FloatText(state.AbilityProduct).toDouble()) : QJsonValue()},
         {"abilities", opened ? QJsonArray::fromStringList(TickedCaptions(form)) : QJsonArray()},

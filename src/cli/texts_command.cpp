@@ -1,5 +1,6 @@
 #include "cli/command.h"
 
+#include "cli/cli_platform.h"
 #include "cli/language_option.h"
 #include "cli/output.h"
 #include "cli/text_source.h"

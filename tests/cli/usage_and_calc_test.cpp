@@ -90,9 +90,9 @@ TEST(Calc, GivesOneJsonObjectALine) {
     ASSERT_EQ(outcome.Lines().size(), 3);
     EXPECT_EQ(outcome.Lines()[0], outcome.Lines()[2]) << "nothing stays from the files before";
 
-    const QStringList keys{
-        "abilities", "ability_product", "advised_tier", "figures", "file", "in_file", "messages", "name",
-        "ok",        "specabilities",   "spells",       "tier",    "title"};
+    const QStringList keys{"abilities",     "ability_product", "advised_tier", "figures", "file",
+                           "in_file",       "messages",        "name",         "ok",      "parameters",
+                           "specabilities", "spells",          "tier",         "title"};
     const QJsonObject object = outcome.Json();
     EXPECT_EQ(object.keys(), keys);
     EXPECT_EQ(object["file"].toString(), good);
@@ -105,6 +105,16 @@ TEST(Calc, GivesOneJsonObjectALine) {
     EXPECT_EQ(object["figures"].toObject().keys(), (QStringList{"cost", "experience", "growth", "power"}));
     EXPECT_EQ(object["in_file"].toObject(),
               (QJsonObject{{"power", 905}, {"experience", 61}, {"growth", 7}, {"gold", 0}}));
+    EXPECT_EQ(object["parameters"].toObject(), (QJsonObject{{"Attack", 4},
+                                                            {"Defence", 3},
+                                                            {"MinDam", 2},
+                                                            {"MaxDam", 3},
+                                                            {"Health", 10},
+                                                            {"Speed", 5},
+                                                            {"Initiative", 10},
+                                                            {"Tier", 2},
+                                                            {"Upgrade", false},
+                                                            {"Shooter", false}}));
     EXPECT_EQ(object["ability_product"].toDouble(), 1.11);
     EXPECT_EQ(object["abilities"].toArray(), (QJsonArray{"CASTER", "DASH", "FLESH_AND_BLOOD"}));
     EXPECT_EQ(object["spells"].toArray(), (QJsonArray{QJsonObject{{"token", "SLOW"}, {"mastery", 3}}}));
@@ -127,6 +137,23 @@ TEST(Calc, GivesOneJsonObjectALine) {
                   (QJsonObject{{"rolvane", QJsonValue()}, {"hesperin", QJsonValue()}, {"average", QJsonValue()}}));
     for (const char* key : {"power", "experience", "growth", "gold"})
         EXPECT_TRUE(refused["in_file"].toObject().contains(key) && refused["in_file"][key].isNull()) << key;
+}
+
+TEST(Calc, AFolderStandsForTheCreatureFilesBelowIt) {
+    const TestProgram files;
+    const QByteArray creature = SmallCreature().Bytes();
+    for (const auto& [name, bytes] : {std::pair<const char*, QByteArray>{"mod/b/2.xdb", creature},
+                                      {"mod/a/3.XDB", creature},
+                                      {"mod/1.xdb", "<Creature>"},
+                                      {"mod/a/other.xdb", "<!-- no creature --><AttackPattern/>"},
+                                      {"mod/a/readme.txt", creature}})
+        files.Write(name, bytes);
+    const CliOutcome outcome = RunCli({"calc", "--json", files.Path("mod")});
+    EXPECT_EQ(outcome.code, 1) << "one can't be read";
+    QStringList found;
+    for (qsizetype line = 0; line < outcome.Lines().size(); ++line)
+        found.append(outcome.Json(line)["file"].toString().mid(files.folder.path().size() + 1));
+    EXPECT_EQ(found, (QStringList{"mod/1.xdb", "mod/a/3.XDB", "mod/b/2.xdb"}));
 }
 
 } // namespace
