@@ -1,6 +1,6 @@
 #include "creature_files/file_tokens.h"
 
-#include "catalogues/ability_catalogue.h"
+#include "catalogue/ability_catalogue.h"
 
 namespace Hesperin {
 

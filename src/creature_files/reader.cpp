@@ -1,268 +1,273 @@
 #include "creature_files/reader.h"
 
+#include "catalogue/links.h"
+#include "creature_files/elements.h"
 #include "creature_files/file_tokens.h"
-#include "creature_files/scanning.h"
-#include "localisation/string_tables.h"
-#include "platform/shortened.h"
+#include "text/escape.h"
+#include "text/shortened.h"
+
+#include <algorithm>
 
 namespace Hesperin {
 
 namespace {
 
-struct NumberElement {
-    QStringView openingTag;
-    QStringView closingTag;
-    TextField MainForm::*field;
-    std::int16_t SharedState::*fileValue = nullptr; ///< where the file's figure is kept as well
+/// An element's tags as the normalised text has them.
+struct Tags {
+    QString opening;
+    QString closing;
 };
 
-constexpr NumberElement FightingNumbers[] = {
-    {u"<AttackSkill>", u"</AttackSkill>", &MainForm::txtAttack},
-    {u"<DefenceSkill>", u"</DefenceSkill>", &MainForm::txtDefence},
-    {u"<MinDamage>", u"</MinDamage>", &MainForm::txtMinDam},
-    {u"<MaxDamage>", u"</MaxDamage>", &MainForm::txtMaxDam},
-};
-
-constexpr NumberElement WorthNumbers[] = {
-    {u"<Exp>", u"</Exp>", &MainForm::txtExp, &SharedState::FileExperience},
-    {u"<Power>", u"</Power>", &MainForm::txtPower, &SharedState::FilePower},
-};
-
-constexpr NumberElement GrowthAndCostNumbers[] = {
-    {u"<WeeklyGrowth>", u"</WeeklyGrowth>", &MainForm::txtGrowthf, &SharedState::FileGrowth},
-    {u"<Wood>", u"</Wood>", &MainForm::txtWoodf},
-    {u"<Ore>", u"</Ore>", &MainForm::txtOref},
-    {u"<Mercury>", u"</Mercury>", &MainForm::txtMercuryf},
-    {u"<Crystal>", u"</Crystal>", &MainForm::txtCrystalf},
-    {u"<Sulfur>", u"</Sulfur>", &MainForm::txtSulfurf},
-    {u"<Gem>", u"</Gem>", &MainForm::txtGemf},
-    {u"<Gold>", u"</Gold>", &MainForm::txtGoldf, &SharedState::FileGold},
-};
+const std::vector<Tags>& TagsToRead() {
+    static const std::vector<Tags> all = [] {
+        std::vector<Tags> tags;
+        for (const Element* element : ElementsToRead()) {
+            const QString name = element->name.toString();
+            tags.push_back({u'<' + name + u'>', QLatin1String("</") + name + u'>'});
+        }
+        return tags;
+    }();
+    return all;
+}
 
 class Scan {
 public:
-    explicit Scan(Program& owner)
-        : program(owner), state(owner.state), form(owner.form), text(owner.form.RTBData) {}
+    Scan(const QString& content, const Creature& cleared) : text(content) {
+        result.creature = cleared;
+    }
 
-    void Run() {
-        ReadFields(FightingNumbers);
-        ReadSpeedInitiativeFlyingHealth();
-        ReadSpells();
-        ReadSpecabilities();
-        ReadFields(WorthNumbers);
-        ReadTierUpgradeTownSizeRangeTime();
-        ReadManaAndShots();
-        MatchList(u"<First>", u"<First>ELEMENT_", form.ComboFME);
-        MatchList(u"<Second>", u"<Second>ELEMENT_", form.ComboSME);
-        ReadFields(GrowthAndCostNumbers);
-        ReadAbilities();
-        OpenOrCloseSpells();
-        InferFleshAndBlood();
-        ReadName();
-        TellWhatWasOdd();
+    ReadCreature Run() {
+        const auto elements = ElementsToRead();
+        for (std::size_t i = 0; i < elements.size(); ++i)
+            Read(*elements[i], TagsToRead()[i]);
+        TickPartners();
+        KeepOneNature();
+        CountCharges();
+        if (!creature.Has(Ability::Caster))
+            creature.Numbers[NumberField::Mana].clear();
+        return std::move(result);
     }
 
 private:
-    static QString ElementName(QStringView openingTag) {
-        return openingTag.sliced(1, openingTag.size() - 2).toString();
+    void Read(const Element& element, const Tags& tags) {
+        switch (element.says) {
+        case Says::Number:
+        case Says::Growth:
+            ReadField(element, tags);
+            break;
+        case Says::Supply:
+            ReadSupply(element, tags);
+            break;
+        case Says::ListNumber:
+            if (const auto number = Number(element, tags))
+                creature.Choices[element.list].text = QString::number(*number);
+            break;
+        case Says::ListEntry:
+            ReadEntry(element, tags);
+            break;
+        case Says::ListFlag:
+            NoteIfMissing(element, tags);
+            creature.Choose(element.list, TagIsTrue(text, element.name));
+            break;
+        case Says::Flyer:
+            NoteIfMissing(element, tags);
+            creature.Set(Ability::Flyer, TagIsTrue(text, element.name) == 1);
+            break;
+        case Says::Size:
+            ReadSize(element, tags);
+            break;
+        case Says::KnownSpells:
+            ReadSpells();
+            ReadSpecabilities();
+            break;
+        case Says::Abilities:
+            ReadAbilities();
+            break;
+        case Says::Shared:
+            ReadName(element);
+            break;
+        default: // is never read
+            break;
+        }
     }
 
     /// The number in an element; none, and noted as missing, when the file lacks the element.
-    std::optional<std::int16_t> Number(QStringView openingTag, QStringView closingTag) {
-        const TagNumberResult number = TagNumber(text, openingTag, closingTag);
+    std::optional<std::int16_t> Number(const Element& element, const Tags& tags) {
+        const TagNumberResult number = TagNumber(text, tags.opening, tags.closing);
         if (!number.found) {
-            missing.append(ElementName(openingTag));
+            result.missing.append(element.name.toString());
             return std::nullopt;
         }
         if (number.limited)
-            limited.append(QStringLiteral("%1 %2 (%3)")
-                               .arg(ElementName(openingTag), Shortened(number.text),
-                                    QString::number(number.value)));
+            result.limited.push_back(
+                {element.name.toString(), Shortened(number.text), number.value});
         return number.value;
     }
 
     /// Notes the element as missing if it occurs nowhere, in any letter case.
-    void NoteIfMissing(QStringView openingTag) {
-        if (text.LooseSearch(openingTag) < 0)
-            missing.append(ElementName(openingTag));
+    void NoteIfMissing(const Element& element, const Tags& tags) {
+        if (text.LooseSearch(tags.opening) < 0)
+            result.missing.append(element.name.toString());
     }
 
-    template <std::size_t Count>
-    void ReadFields(const NumberElement (&elements)[Count]) {
-        for (const NumberElement& element : elements) {
-            const auto number = Number(element.openingTag, element.closingTag);
-            if (element.fileValue != nullptr)
-                state.*element.fileValue = number.value_or(0);
-            if (number)
-                (form.*element.field).SetText(QString::number(*number));
-        }
-    }
-
-    void ReadSpeedInitiativeFlyingHealth() {
-        if (const auto speed = Number(u"<Speed>", u"</Speed>")) {
-            state.Speed = *speed;
-            form.ComboSpeed.SetText(QString::number(state.Speed));
-        }
-        if (const auto initiative = Number(u"<Initiative>", u"</Initiative>")) {
-            state.Initiative = *initiative;
-            form.ComboInitiative.SetText(QString::number(state.Initiative));
-        }
-        NoteIfMissing(u"<Flying>");
-        form.Abilities(Ability::Flyer).SetTicked(TagIsTrue(text, u"Flying") == 1);
-        if (const auto health = Number(u"<Health>", u"</Health>")) {
-            state.Health = *health;
-            form.txtHealth.SetText(QString::number(state.Health));
+    /// Where a figure of the file is kept beside its field.
+    std::int16_t* FigureOf(NumberField field) {
+        switch (field) {
+        case NumberField::Power:
+            return &result.figures.FilePower;
+        case NumberField::Exp:
+            return &result.figures.FileExperience;
+        case NumberField::Growth:
+            return &result.figures.FileGrowth;
+        case NumberField::Gold:
+            return &result.figures.FileGold;
+        default:
+            return nullptr;
         }
     }
 
-    /// The highest mastery word that the window holds, 0 when it holds none that can be read.
-    static std::int16_t Mastery(const TextBuffer& window,
+    void ReadField(const Element& element, const Tags& tags) {
+        const auto number = Number(element, tags);
+        if (std::int16_t* figure = FigureOf(element.field))
+            *figure = number.value_or(0);
+        if (number)
+            creature.Numbers[element.field] = QString::number(*number);
+    }
+
+    /// Mana makes a caster, shots make a shooter.
+    void ReadSupply(const Element& element, const Tags& tags) {
+        const auto number = Number(element, tags);
+        if (number.value_or(0) <= 0)
+            return;
+        creature.Numbers[element.field] = QString::number(*number);
+        creature.Set(element.field == NumberField::Mana ? Ability::Caster : Ability::Shooter, true);
+    }
+
+    void ReadSize(const Element& element, const Tags& tags) {
+        constexpr std::int16_t sizeOfLargeCreatures = 2;
+        creature.Set(Ability::LargeCreature,
+                     Number(element, tags) == sizeOfLargeCreatures);
+    }
+
+    /// The list that shows, in the user's language, what `list` holds in the game's words.
+    static ListField TwinOf(ListField list) {
+        return list == ListField::Alias      ? ListField::Faction
+               : list == ListField::Diapazon ? ListField::Range
+                                             : ListField::Count;
+    }
+
+    /// Chooses the first entry that the text behind the opening tag begins with. An element of magic that
+    /// stands in both lists stays in the first.
+    void ReadEntry(const Element& element, const Tags& tags) {
+        NoteIfMissing(element, tags);
+        const auto entries = ListCatalogue[element.list].entries;
+        const QString beginning = tags.opening + element.text.toString();
+        for (std::size_t index = 0; index < entries.size(); ++index) {
+            if (FindToken(positions, text, beginning + entries[index].toString()) == 0)
+                continue;
+            const bool twice = element.list == ListField::SecondElement && index > 0 &&
+                               creature.Choices[ListField::FirstElement].text == entries[index];
+            creature.Choose(element.list, twice ? std::int16_t{0} : static_cast<std::int16_t>(index));
+            if (const ListField twin = TwinOf(element.list); twin != ListField::Count)
+                creature.Choose(twin, static_cast<std::int16_t>(index));
+            return;
+        }
+    }
+
+    /// The highest mastery word that the excerpt holds, 0 when it holds none that can be read.
+    static std::int16_t Mastery(const QString& excerpt,
                                 std::int16_t (*masteryIn)(const TextBuffer&, QStringView)) {
+        const TextBuffer window(excerpt);
         for (auto token = MasteryTokens().rbegin(); token != MasteryTokens().rend(); ++token)
             if (const std::int16_t level = masteryIn(window, *token); level != -1)
                 return level;
         return 0;
     }
 
-    static void SetMastery(MultiOption& selector, std::int16_t level) {
-        selector.SetOptionsEnabled(true);
-        selector.SetValue(level);
-        selector.Redraw();
-    }
-
     void ReadSpells() {
-        constexpr qsizetype windowLength = 64;
-        for (int i = 1; i <= SpellCount; ++i) {
-            if (FindToken(state, text, SpellTokens()[static_cast<std::size_t>(i)]) == 0)
+        constexpr qsizetype excerptLength = 64;
+        for (std::size_t i = 1; i <= SpellCount; ++i) {
+            if (FindToken(positions, text, SpellTokens()[i]) == 0)
                 continue;
-            form.Spells(i).SetTicked(true);
-            form.RTBTEMP.SetText(text.Text().mid(state.TokenPosition, windowLength));
-            SetMastery(form.soq(i), Mastery(form.RTBTEMP, MasteryInSpellWindow));
+            result.spellExcerpt = text.Text().mid(positions.TokenPosition, excerptLength);
+            creature.Spells[i] = {true, Mastery(result.spellExcerpt, MasteryInSpellWindow)};
         }
     }
 
     void ReadSpecabilities() {
-        constexpr qsizetype windowLength = 128;
-        for (int j = 1; j <= SpecabilityCount; ++j) {
-            if (FindSpecabilityToken(state, text,
-                                     SpecabilityTokens()[static_cast<std::size_t>(j)]) == 0)
+        constexpr qsizetype excerptLength = 128;
+        for (std::size_t j = 1; j <= SpecabilityCount; ++j) {
+            if (FindSpecabilityToken(positions, text, SpecabilityTokens()[j]) == 0)
                 continue;
-            form.Specabilities(j).SetTicked(true);
-            form.RTBSPEC.SetText(text.Text().mid(state.SpecabilityTokenPosition, windowLength));
-            SetMastery(form.saz(j), Mastery(form.RTBSPEC, MasteryInSpecabilityWindow));
+            result.specabilityExcerpt =
+                text.Text().mid(positions.SpecabilityTokenPosition, excerptLength);
+            creature.Specabilities[j] = {
+                true, Mastery(result.specabilityExcerpt, MasteryInSpecabilityWindow)};
         }
     }
 
-    /// Index of the first entry of `list` that follows the prefix in the text; selects it, and the
-    /// same entry of `twin` if there is one.
-    void MatchList(QStringView openingTag, QStringView prefix, ComboBox& list,
-                   ComboBox* twin = nullptr) {
-        NoteIfMissing(openingTag);
-        for (qsizetype index = 0; index < list.Items().size(); ++index) {
-            if (FindToken(state, text, prefix.toString() + list.Items()[index]) == 0)
-                continue;
-            list.Select(static_cast<std::int16_t>(index));
-            if (twin != nullptr)
-                twin->Select(static_cast<std::int16_t>(index));
-            return;
-        }
-    }
-
-    void ReadTierUpgradeTownSizeRangeTime() {
-        constexpr std::int16_t sizeOfLargeCreatures = 2;
-        if (const auto tier = Number(u"<CreatureTier>", u"</CreatureTier>"))
-            form.ComboTier.SetText(QString::number(*tier));
-        NoteIfMissing(u"<Upgrade>");
-        form.ComboUpgrade.Select(TagIsTrue(text, u"Upgrade"));
-        MatchList(u"<CreatureTown>", u"<CreatureTown>TOWN_", form.ComboAlias, &form.ComboFaction);
-        if (const auto size = Number(u"<CombatSize>", u"</CombatSize>"))
-            form.Abilities(Ability::LargeCreature).SetTicked(*size == sizeOfLargeCreatures);
-        MatchList(u"<Range>", u"<Range>", form.ComboDiapazon, &form.ComboRange);
-        MatchList(u"<TimeToCommand>", u"<TimeToCommand>", form.ComboTTC);
-    }
-
-    /// Mana makes a caster, shots make a shooter.
-    void SwitchSupply(std::optional<std::int16_t> number, Frame& frame, TextField& field,
-                      int ability) {
-        if (!number)
-            return;
-        const bool supplied = *number > 0;
-        if (supplied)
-            field.SetText(QString::number(*number));
-        field.SetEnabled(supplied);
-        frame.SetEnabled(supplied);
-        form.Abilities(ability).SetTicked(supplied);
-    }
-
-    void ReadManaAndShots() {
-        SwitchSupply(Number(u"<SpellPoints>", u"</SpellPoints>"), form.FrameMana, form.txtMana,
-                     Ability::Caster);
-        SwitchSupply(Number(u"<Shots>", u"</Shots>"), form.FrameShots, form.txtShots,
-                     Ability::Shooter);
-    }
-
-    /// Nothing is unticked here: what an earlier element or a link ticked stays.
+    /// Nothing is unticked here: what an earlier element ticked stays.
     void ReadAbilities() {
         for (int i = 1; i <= Ability::Count; ++i)
-            if (FindToken(state, text, AbilityTokens()[static_cast<std::size_t>(i)]) == 1)
-                form.Abilities(i).SetTicked(true);
+            if (FindToken(positions, text, AbilityTokens()[static_cast<std::size_t>(i)]) == 1)
+                creature.Set(i, true);
     }
 
-    void OpenOrCloseSpells() {
-        const bool caster = form.Abilities(Ability::Caster).Ticked();
-        form.Tablus.Tab(2).Switch(caster);
-        form.FrameMana.SetEnabled(caster);
-        form.txtMana.SetEnabled(caster);
-        if (caster)
-            program.platform.SetFocus(form.txtMana);
-        else
-            form.txtMana.SetText({});
-    }
-
-    /// The nature rule takes the tick back while another nature stands.
-    void InferFleshAndBlood() {
-        const bool allOthers = form.Abilities(Ability::Elemental).Ticked() &&
-                               form.Abilities(Ability::Mechanical).Ticked() &&
-                               form.Abilities(Ability::Undead).Ticked();
-        form.Abilities(Ability::FleshAndBlood).SetTicked(!allOthers);
-    }
-
-    void ReadName() {
+    void ReadName(const Element& element) {
         const bool marked = SharedMarkText(text) != QLatin1String("0");
         const auto name =
             HrefLeaf(text, u"MonsterShared href=",
                      marked ? u".(AdvMapMonsterShared).xdb#xpointer(/AdvMapMonsterShared)"
                             : u".xdb#xpointer(/AdvMapMonsterShared)");
         if (!name) {
-            missing.append(QStringLiteral("MonsterShared"));
+            result.missing.append(element.name.toString());
             return;
         }
-        state.CreatureName = *name;
-        form.txtNC.SetText(*name);
+        result.name = Unescaped(*name);
+        creature.Name = *result.name;
     }
 
-    void TellWhatWasOdd() {
-        QStringList lines;
-        if (!missing.isEmpty())
-            lines.append(Fill(state.MsgElementsMissing, {missing.join(QLatin1String(", "))}));
-        if (!limited.isEmpty())
-            lines.append(Fill(state.MsgNumbersLimited, {limited.join(QLatin1String(", "))}));
-        if (!lines.isEmpty())
-            program.Warn(BoxIcon::Information, lines.join(u'\n'));
+    /// Either box of a linked pair brings the other.
+    void TickPartners() {
+        for (const Link& link : Links) {
+            Skill& partner = creature.Specabilities[static_cast<std::size_t>(link.specability)];
+            partner.known = partner.known || creature.Has(link.ability);
+            creature.Set(link.ability, partner.known);
+        }
     }
 
-    Program& program;
-    SharedState& state;
-    MainForm& form;
-    const TextBuffer& text;
-    QStringList missing;
-    QStringList limited;
+    /// The first nature in the order of the abilities; a creature without any is of flesh and blood.
+    void KeepOneNature() {
+        bool found = false;
+        for (const int nature : NatureGroup) {
+            creature.Set(nature, creature.Has(nature) && !found);
+            found = found || creature.Has(nature);
+        }
+        if (!found)
+            creature.Set(Ability::FleshAndBlood, true);
+    }
+
+    void CountCharges() {
+        const std::int16_t charges = ChargesOf(creature);
+        const bool anySpecability =
+            std::any_of(creature.Specabilities.begin(), creature.Specabilities.end(),
+                        [](const Skill& skill) { return skill.known; });
+        creature.SpellPoints1Count =
+            static_cast<std::int16_t>(creature.SpellPoints1Count + charges);
+        if (charges > 0 || anySpecability)
+            creature.SpecabilityFlag = FlagTrue;
+    }
+
+    const TextBuffer text;
+    ScanPositions positions;
+    ReadCreature result;
+    Creature& creature = result.creature;
 };
 
 } // namespace
 
-void ScanCreature(Program& program) {
-    Scan(program).Run();
+ReadCreature ReadCreatureText(const QString& text, const Creature& cleared) {
+    return Scan(text, cleared).Run();
 }
 
 } // namespace Hesperin

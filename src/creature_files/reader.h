@@ -1,13 +1,35 @@
 #pragma once
 
-#include "engine/program.h"
+#include "creature_files/scanning.h"
+#include "model/creature.h"
+
+#include <QStringList>
+
+#include <vector>
 
 namespace Hesperin {
 
-/// Fills the cleared window from the text of a creature file in RTBData: every value found goes
-/// into its field, selector or box as if the user had set it, so the click rules run. What the file
-/// lacks keeps the cleared state. Ends with the name of the creature and shows one information box
-/// (MsgElementsMissing, MsgNumbersLimited) if anything was missing or limited.
-void ScanCreature(Program& program);
+/// A number outside 16 bits, and the nearest end of the range that was taken for it.
+struct LimitedNumber {
+    QString element;
+    QString text;
+    std::int16_t value;
+};
+
+/// What a creature file says.
+struct ReadCreature {
+    Creature creature;
+    std::optional<QString> name; ///< none when the reference that bears it is missing
+    FileFigures figures;
+    QStringList missing; ///< names of elements, in the order of reading
+    std::vector<LimitedNumber> limited;
+    QString spellExcerpt;       ///< the part of the file that the last spell's mastery was looked for in
+    QString specabilityExcerpt; ///< the same for the last special ability
+};
+
+/// Reads the normalised text of a creature file over `cleared`, a creature without any tick: what the file
+/// lacks keeps its state. Ticks follow the same rules as a user's: linked boxes, one nature, and the
+/// charge counter counts on from that of `cleared`.
+ReadCreature ReadCreatureText(const QString& text, const Creature& cleared);
 
 } // namespace Hesperin

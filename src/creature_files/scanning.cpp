@@ -1,6 +1,6 @@
 #include "creature_files/scanning.h"
 
-#include "engine/numbers.h"
+#include "text/numbers.h"
 
 namespace Hesperin {
 
@@ -14,11 +14,11 @@ struct MasteryWord {
 constexpr MasteryWord MasteryWords[] = {
     {u"EXTRA", 4}, {u"EXPERT", 3}, {u"ADVANCED", 2}, {u"BASIC", 1}, {u"NONE", 0}};
 
-std::int16_t MasteryIn(const TextBuffer& window, QStringView token) {
+std::int16_t MasteryIn(const TextBuffer& excerpt, QStringView token) {
     constexpr qsizetype behindPrefix = 9; // "MASTERY_" is 8 long, and parts are counted from 1
-    const qsizetype position = window.LooseSearch(token);
+    const qsizetype position = excerpt.LooseSearch(token);
     for (const MasteryWord& mastery : MasteryWords)
-        if (window.Part(position + behindPrefix, mastery.word.size()) == mastery.word)
+        if (excerpt.Part(position + behindPrefix, mastery.word.size()) == mastery.word)
             return mastery.level;
     return -1;
 }
@@ -48,12 +48,12 @@ std::int16_t TagIsTrue(const TextBuffer& buffer, QStringView tagName) {
     return buffer.Part(position + tagName.size() + behindBracket, 4) == u"true" ? 1 : 0;
 }
 
-std::int16_t FindToken(SharedState& state, const TextBuffer& buffer, QStringView token) {
-    return Find(buffer, token, state.TokenPosition);
+std::int16_t FindToken(ScanPositions& positions, const TextBuffer& buffer, QStringView token) {
+    return Find(buffer, token, positions.TokenPosition);
 }
 
-std::int16_t FindSpecabilityToken(SharedState& state, const TextBuffer& buffer, QStringView token) {
-    return Find(buffer, token, state.SpecabilityTokenPosition);
+std::int16_t FindSpecabilityToken(ScanPositions& positions, const TextBuffer& buffer, QStringView token) {
+    return Find(buffer, token, positions.SpecabilityTokenPosition);
 }
 
 std::int16_t MasteryInSpellWindow(const TextBuffer& buffer, QStringView token) {

@@ -2,12 +2,18 @@
 // the first occurrence of literal pieces, and none has a notion of word ends.
 #pragma once
 
-#include "engine/shared_state.h"
-#include "form/text_buffer.h"
+#include "text/text_buffer.h"
 
+#include <cstdint>
 #include <optional>
 
 namespace Hesperin {
+
+/// Positions that the scanning operations leave behind: 0-based, -1 for what wasn't found.
+struct ScanPositions {
+    std::int16_t TokenPosition = 0;
+    std::int16_t SpecabilityTokenPosition = 0;
+};
 
 /// The number between two tags.
 struct TagNumberResult {
@@ -29,16 +35,18 @@ std::int16_t TagIsTrue(const TextBuffer& buffer, QStringView tagName);
 
 /// 1 if the token occurs, letter case not counting, else 0; a token at the very start of the text
 /// counts as not found. Leaves its 0-based position, or -1, in TokenPosition.
-std::int16_t FindToken(SharedState& state, const TextBuffer& buffer, QStringView token);
+std::int16_t FindToken(ScanPositions& positions, const TextBuffer& buffer, QStringView token);
 
 /// The same with SpecabilityTokenPosition.
-std::int16_t FindSpecabilityToken(SharedState& state, const TextBuffer& buffer, QStringView token);
+std::int16_t FindSpecabilityToken(ScanPositions& positions, const TextBuffer& buffer,
+                                  QStringView token);
 
 /// The mastery level, 0 to 4, by the word behind "MASTERY_" at the first occurrence of `token`,
-/// which begins with it; -1 when the token or its word isn't there.
+/// which begins with it; -1 when the token or its word isn't there. The buffer holds an excerpt of the
+/// file, the window that begins at a spell's token.
 std::int16_t MasteryInSpellWindow(const TextBuffer& buffer, QStringView token);
 
-/// The same for the window of a special ability.
+/// The same for the excerpt that begins at a special ability.
 std::int16_t MasteryInSpecabilityWindow(const TextBuffer& buffer, QStringView token);
 
 /// Decimal text of the 1-based position of ".(AdvMapMonsterShared)"; "0" when it isn't there.

@@ -1,22 +1,15 @@
 #include "creature_files/writer.h"
 
-#include "catalogues/ability_catalogue.h"
-#include "catalogues/spell_catalogue.h"
-#include "engine/formulas.h"
-#include "engine/numbers.h"
+#include "creature_files/elements.h"
+#include "creature_files/file_tokens.h"
+#include "text/escape.h"
+#include "text/numbers.h"
 
 #include <algorithm>
-#include <array>
 
 namespace Hesperin {
 
 namespace {
-
-/// These travel by other elements: CASTER by SpellPoints, FLYER by Flying, LARGE_CREATURE by
-/// CombatSize, SHOOTER by Shots; FLESH_AND_BLOOD is inferred on reading.
-constexpr std::array<int, 5> UnwrittenAbilities{Ability::Caster, Ability::FleshAndBlood,
-                                                Ability::Flyer, Ability::LargeCreature,
-                                                Ability::Shooter};
 
 /// A creature with every box ticked comes near it.
 constexpr qsizetype LongestCreature = 24000;
@@ -34,11 +27,9 @@ public:
         (text.append(pieces), ...);
     }
 
-    /// <name>value</name>
-    void Element(int tabs, const char* name, QStringView value, const char* prefix = "") {
-        Add(tabs, QLatin1String("<"), QLatin1String(name), QLatin1String(">"),
-            QLatin1String(prefix), value, QLatin1String("</"), QLatin1String(name),
-            QLatin1String(">"));
+    /// <name>content</name>
+    void AddElement(int tabs, QStringView name, QStringView content, QStringView prefix = {}) {
+        Add(tabs, u"<", name, u">", prefix, content, u"</", name, u">");
     }
 
     QString Take() { return std::move(text); }
@@ -47,121 +38,141 @@ private:
     QString text;
 };
 
-QString ZeroIfEmpty(const QString& text) {
-    return text.isEmpty() ? QStringLiteral("0") : text;
+QString FlagText(bool value) {
+    return QString::fromUtf16(value ? TokenTrue : TokenFalse);
 }
 
-void AddKnownSpell(Lines& lines, const char* prefix, const CheckBox& box,
-                   const MultiOption& selector) {
-    lines.Add(2, QLatin1String("<Item>"));
-    lines.Element(3, "Spell", box.Caption(), prefix);
-    lines.Element(3, "Mastery", MasteryToken.at(static_cast<std::size_t>(selector.Value())),
-                  "MASTERY_");
-    lines.Add(2, QLatin1String("</Item>"));
-}
+class Composition {
+public:
+    Composition(const Creature& source, const QString& fileName, double growth)
+        : creature(source), name(Escaped(fileName, Escape::Attribute)), weeklyGrowth(growth) {}
 
-void AddKnownSpells(Lines& lines, const Program& program) {
-    const MainForm& form = program.form;
-    if (program.state.SpecabilityFlag == FlagFalse && !form.Abilities(Ability::Caster).Ticked()) {
-        lines.Add(1, QLatin1String("<KnownSpells/>"));
-        return;
+    QString Compose() {
+        lines.Add(0, u"<?xml version=\"1.0\" encoding=\"UTF-8\"?>");
+        lines.Add(0, u"<Creature>");
+        for (const Element& element : Elements) {
+            MoveInto(element.parent);
+            Add(element);
+        }
+        lines.Add(0, u"</Creature>");
+        return lines.Take();
     }
-    lines.Add(1, QLatin1String("<KnownSpells>"));
-    for (int j = 1; j <= SpecabilityCount; ++j)
-        if (form.Specabilities(j).Ticked())
-            AddKnownSpell(lines, "SPELL_ABILITY_", form.Specabilities(j), form.saz(j));
-    for (int i = 1; i <= SpellCount; ++i)
-        if (form.Spells(i).Ticked())
-            AddKnownSpell(lines, "SPELL_", form.Spells(i), form.soq(i));
-    lines.Add(1, QLatin1String("</KnownSpells>"));
-}
 
-void AddAbilities(Lines& lines, const MainForm& form) {
-    const bool any = std::any_of(form.Abilities.begin(), form.Abilities.end(),
-                                 [](const CheckBox& box) { return box.Ticked(); });
-    if (!any)
-        return;
-    lines.Add(1, QLatin1String("<Abilities>"));
-    for (int i = 1; i <= Ability::Count; ++i) {
-        const bool unwritten = std::find(UnwrittenAbilities.begin(), UnwrittenAbilities.end(), i) !=
-                               UnwrittenAbilities.end();
-        if (form.Abilities(i).Ticked() && !unwritten)
-            lines.Element(2, "Item", AbilityCatalogue[static_cast<std::size_t>(i)].token,
-                          "ABILITY_");
+private:
+    /// Closes the element around the lines so far and opens the one around those that follow.
+    void MoveInto(QStringView next) {
+        if (next == parent)
+            return;
+        if (!parent.isEmpty())
+            lines.Add(1, u"</", parent, u">");
+        if (!next.isEmpty())
+            lines.Add(1, u"<", next, u">");
+        parent = next;
     }
-    lines.Add(1, QLatin1String("</Abilities>"));
-}
 
-void AddCost(Lines& lines, const MainForm& form) {
-    lines.Add(1, QLatin1String("<Cost>"));
-    lines.Element(2, "Wood", form.txtWoodf.Text());
-    lines.Element(2, "Ore", form.txtOref.Text());
-    lines.Element(2, "Mercury", form.txtMercuryf.Text());
-    lines.Element(2, "Crystal", form.txtCrystalf.Text());
-    lines.Element(2, "Sulfur", form.txtSulfurf.Text());
-    lines.Element(2, "Gem", form.txtGemf.Text());
-    lines.Element(2, "Gold", form.txtGoldf.Text());
-    lines.Add(1, QLatin1String("</Cost>"));
-}
+    void Add(const Element& element) {
+        switch (element.says) {
+        case Says::KnownSpells:
+            return AddKnownSpells(element.name);
+        case Says::Abilities:
+            return AddAbilities(element.name);
+        case Says::FixedEmpty:
+            return lines.Add(1, u"<", element.name, u"/>");
+        case Says::Shared:
+            return lines.Add(1, u"<", element.name, u" href=\"/MapObjects/Neutral/", name,
+                             u".(AdvMapMonsterShared).xdb#xpointer(/AdvMapMonsterShared)\"/>");
+        case Says::Visual:
+            return lines.Add(1, u"<", element.name,
+                             u" href=\"/GameMechanics/CreatureVisual/Creatures/Neutrals/", name,
+                             u".xdb#xpointer(/CreatureVisual)\"/>");
+        default:
+            return lines.AddElement(parent.isEmpty() ? 1 : 2, element.name,
+                                    Escaped(Content(element), Escape::Content));
+        }
+    }
+
+    QString Content(const Element& element) const {
+        switch (element.says) {
+        case Says::Number:
+            return creature.Numbers[element.field];
+        case Says::Supply:
+            return TextOrDefault(creature.Numbers[element.field], QStringLiteral("0"));
+        case Says::ListNumber:
+            return creature.Choices[element.list].text;
+        case Says::ListEntry:
+            return element.text.toString() + creature.Choices[element.list].text.toUpper();
+        case Says::ListFlag:
+            return creature.Choices[element.list].text.toLower();
+        case Says::Flyer:
+            return FlagText(creature.Has(Ability::Flyer));
+        case Says::Size:
+            return QString::number(creature.Has(Ability::LargeCreature) ? 2 : 1);
+        case Says::Charges:
+            return QString::number(Charged() ? creature.SpellPoints1Count : 0);
+        case Says::Inferno:
+            return QString::number(creature.Choices[ListField::Alias].text == u"INFERNO" ? 1 : 0);
+        case Says::Growth:
+            return WholeText(weeklyGrowth);
+        default:
+            return element.text.toString();
+        }
+    }
+
+    bool Charged() const { return creature.SpecabilityFlag != FlagFalse; }
+
+    void AddKnownSpells(QStringView list) {
+        if (!Charged() && !creature.Has(Ability::Caster))
+            return lines.Add(1, u"<", list, u"/>");
+        lines.Add(1, u"<", list, u">");
+        for (std::size_t j = 1; j <= SpecabilityCount; ++j)
+            AddKnownSpell(SpecabilityTokens()[j], creature.Specabilities[j]);
+        for (std::size_t i = 1; i <= SpellCount; ++i)
+            AddKnownSpell(SpellTokens()[i], creature.Spells[i]);
+        lines.Add(1, u"</", list, u">");
+    }
+
+    void AddKnownSpell(const QString& token, const Skill& skill) {
+        if (!skill.known)
+            return;
+        lines.Add(2, u"<Item>");
+        lines.AddElement(3, u"Spell", token);
+        lines.AddElement(3, u"Mastery", MasteryTokens().at(static_cast<std::size_t>(skill.mastery)));
+        lines.Add(2, u"</Item>");
+    }
+
+    /// A creature without any ability has no list at all.
+    void AddAbilities(QStringView list) {
+        if (std::none_of(creature.Abilities.begin(), creature.Abilities.end(),
+                         [](bool ticked) { return ticked; }))
+            return;
+        lines.Add(1, u"<", list, u">");
+        for (int i = 1; i <= Ability::Count; ++i)
+            if (creature.Has(i) && IsWrittenAbility(i))
+                lines.AddElement(2, u"Item", AbilityTokens()[static_cast<std::size_t>(i)]);
+        lines.Add(1, u"</", list, u">");
+    }
+
+    const Creature& creature;
+    const QString name;
+    const double weeklyGrowth;
+    Lines lines;
+    QStringView parent;
+};
 
 } // namespace
 
-QString BuildCreatureText(const Program& program, const QString& creatureName) {
-    const MainForm& form = program.form;
-    const SharedState& state = program.state;
-    const auto ticked = [&form](int ability) { return form.Abilities(ability).Ticked(); };
-    const auto word = [](bool value) { return QString::fromUtf16(value ? TokenTrue : TokenFalse); };
-    const bool charged = state.SpecabilityFlag != FlagFalse;
-    const bool inferno = form.ComboAlias.Text() == QLatin1String("INFERNO");
-
-    Lines lines;
-    lines.Add(0, QLatin1String("<?xml version=\"1.0\" encoding=\"UTF-8\"?>"));
-    lines.Add(0, QLatin1String("<Creature>"));
-    lines.Element(1, "AttackSkill", form.txtAttack.Text());
-    lines.Element(1, "DefenceSkill", form.txtDefence.Text());
-    lines.Element(1, "Shots", ZeroIfEmpty(form.txtShots.Text()));
-    lines.Element(1, "MinDamage", form.txtMinDam.Text());
-    lines.Element(1, "MaxDamage", form.txtMaxDam.Text());
-    lines.Element(1, "Speed", form.ComboSpeed.Text());
-    lines.Element(1, "Initiative", form.ComboInitiative.Text());
-    lines.Element(1, "Flying", word(ticked(Ability::Flyer)));
-    lines.Element(1, "Health", form.txtHealth.Text());
-    AddKnownSpells(lines, program);
-    lines.Element(1, "SpellPoints", ZeroIfEmpty(form.txtMana.Text()));
-    lines.Element(1, "SpellPoints1", QString::number(charged ? state.SpellPoints1Count : 0));
-    lines.Element(1, "SpellPoints2", QString::number(inferno ? 1 : 0));
-    lines.Element(1, "Exp", form.txtExp.Text());
-    lines.Element(1, "Power", form.txtPower.Text());
-    lines.Element(1, "TimeToCommand", form.ComboTTC.Text());
-    lines.Element(1, "CreatureTier", form.ComboTier.Text());
-    lines.Element(1, "Upgrade", form.ComboUpgrade.Text().toLower());
-    lines.Element(1, "PairCreature", QStringLiteral("CREATURE_UNKNOWN"));
-    lines.Element(1, "CreatureTown", form.ComboAlias.Text(), "TOWN_");
-    lines.Add(1, QLatin1String("<MagicElement>"));
-    lines.Element(2, "First", form.ComboFME.Text().toUpper(), "ELEMENT_");
-    lines.Element(2, "Second", form.ComboSME.Text().toUpper(), "ELEMENT_");
-    lines.Add(1, QLatin1String("</MagicElement>"));
-    lines.Element(1, "WeeklyGrowth",
-                  WholeText(AverageOf(state.GrowthHesperin, state.GrowthRolvane)));
-    AddCost(lines, form);
-    lines.Element(1, "SubjectOfRandomGeneration", QStringLiteral("true"));
-    lines.Add(1, QLatin1String("<MonsterShared href=\"/MapObjects/Neutral/"), creatureName,
-              QLatin1String(".(AdvMapMonsterShared).xdb#xpointer(/AdvMapMonsterShared)\"/>"));
-    lines.Element(1, "CombatSize", QString::number(ticked(Ability::LargeCreature) ? 2 : 1));
-    lines.Add(1, QLatin1String("<PatternAttack/>"));
-    lines.Add(1, QLatin1String("<flybySequence/>"));
-    lines.Add(1, QLatin1String("<Visual href=\"/GameMechanics/CreatureVisual/Creatures/Neutrals/"),
-              creatureName, QLatin1String(".xdb#xpointer(/CreatureVisual)\"/>"));
-    lines.Element(1, "Range", form.ComboDiapazon.Text());
-    lines.Element(1, "BaseCreature", QStringLiteral("CREATURE_UNKNOWN"));
-    lines.Add(1, QLatin1String("<Upgrades/>"));
-    AddAbilities(lines, form);
-    lines.Add(0, QLatin1String("</Creature>"));
-    return lines.Take();
+QString BuildCreatureText(const Creature& creature, const QString& fileName, double weeklyGrowth) {
+    return Composition(creature, fileName, weeklyGrowth).Compose();
 }
 
 QByteArray CreatureFileBytes(const QString& text) {
     return text.toUtf8() + "\r\n";
+}
+
+bool IsWrittenAbility(int ability) {
+    constexpr std::array<int, 5> unwritten{Ability::Caster, Ability::FleshAndBlood, Ability::Flyer,
+                                           Ability::LargeCreature, Ability::Shooter};
+    return std::find(unwritten.begin(), unwritten.end(), ability) == unwritten.end();
 }
 
 } // namespace Hesperin

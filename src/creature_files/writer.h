@@ -1,16 +1,20 @@
 #pragma once
 
-#include "engine/program.h"
+#include "model/creature.h"
 
 namespace Hesperin {
 
-/// The text of the creature file for what the window shows, with a line feed between lines and none
-/// behind the last. `creatureName` names the shared map object and the visual that the file links
-/// to.
-QString BuildCreatureText(const Program& program, const QString& creatureName);
+/// The text of a new creature file, with a line feed between lines and none behind the last.
+/// `fileName` names the shared map object and the visual that the file links to; `weeklyGrowth` is the
+/// computed one.
+QString BuildCreatureText(const Creature& creature, const QString& fileName, double weeklyGrowth);
 
 /// The bytes of such a file on disk: the text as UTF-8 and one carriage return and line feed behind
 /// it.
 QByteArray CreatureFileBytes(const QString& text);
+
+/// Whether the ability stands in a file under its own name. CASTER goes by SpellPoints, FLYER by Flying,
+/// LARGE_CREATURE by CombatSize, SHOOTER by Shots; FLESH_AND_BLOOD is inferred on reading.
+bool IsWrittenAbility(int ability);
 
 } // namespace Hesperin

@@ -29,6 +29,23 @@ private:
 class Window : public Captioned {
 public:
     using Captioned::Captioned;
+
+    void SetDropHandler(std::function<void(const QString& file)> value) { drop = std::move(value); }
+
+    /// The user lets a file fall on the window.
+    void Drop(const QString& file) {
+        if (drop)
+            drop(file);
+    }
+
+    void SetCloseHandler(std::function<bool()> value) { close = std::move(value); }
+
+    /// The user closes the window. True: it may close.
+    bool Close() { return !close || close(); }
+
+private:
+    std::function<void(const QString& file)> drop;
+    std::function<bool()> close;
 };
 
 class Frame : public Captioned {
@@ -41,27 +58,30 @@ public:
     using Captioned::Captioned;
 };
 
-class Button : public Captioned {
+/// What the user clicks on to have something done.
+class Clickable : public Captioned {
 public:
     using Captioned::Captioned;
 
-    void SetClick(ClickOperation operation) { click = std::move(operation); }
+    void SetClickHandler(ClickHandler handler) { click = std::move(handler); }
 
-    /// Runs the click operation, as a press by the user does.
-    void Click() {
-        if (click)
-            click();
-    }
+    /// The user's click. Gives what the command could not do; the user has been told.
+    Failure Click() { return click ? click() : std::nullopt; }
 
 private:
-    ClickOperation click;
+    ClickHandler click;
 };
 
-/// An entry of the menu bar, or a menu that holds others (it has no operation then).
-class MenuEntry : public Captioned {
+class Button : public Clickable {
+public:
+    using Clickable::Clickable;
+};
+
+/// An entry of the menu bar, or a menu that holds others (it does nothing then).
+class MenuEntry : public Clickable {
 public:
     MenuEntry(ControlRegistry& registry, const char* name, const char* keys = "")
-        : Captioned(registry, name), shortcut(QLatin1String(keys)) {}
+        : Clickable(registry, name), shortcut(QLatin1String(keys)) {}
 
     /// In the form "Ctrl+N"; empty when the entry has none.
     const QString& Shortcut() const { return shortcut; }
@@ -69,18 +89,9 @@ public:
     bool Checked() const { return checked; }
     void SetChecked(bool value) { Store(checked, value, Property::State); }
 
-    void SetClick(ClickOperation operation) { click = std::move(operation); }
-
-    /// Runs the entry's operation, as a pick by the user does.
-    void Click() {
-        if (click)
-            click();
-    }
-
 private:
     QString shortcut;
     bool checked = false;
-    ClickOperation click;
 };
 
 } // namespace Hesperin

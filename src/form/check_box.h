@@ -12,20 +12,29 @@ public:
 
     bool Ticked() const { return ticked; }
 
-    /// A real change is stored, told to the view, and runs the click operation before this returns.
+    /// A real change is stored, told to the view, and runs the change rule before this returns.
     void SetTicked(bool value) {
-        if (Store(ticked, value, Property::State) && click)
-            click();
+        if (Store(ticked, value, Property::State) && change)
+            change();
     }
 
-    void SetClick(ClickOperation operation) { click = std::move(operation); }
+    /// The same without the rule. True: a real change.
+    bool Restore(bool value) { return Store(ticked, value, Property::State); }
+
+    void SetChangeRule(ChangeRule rule) { change = std::move(rule); }
+
+    void SetRightClickHandler(ClickHandler handler) { rightClick = std::move(handler); }
+
+    /// The user's click with the right button, which leaves the tick alone.
+    Failure RightClick() { return rightClick ? rightClick() : std::nullopt; }
 
 protected:
     QString Content() const override { return ticked ? QStringLiteral("1") : QStringLiteral("0"); }
 
 private:
     bool ticked = false;
-    ClickOperation click;
+    ChangeRule change;
+    ClickHandler rightClick;
 };
 
 } // namespace Hesperin

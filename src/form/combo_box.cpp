@@ -23,8 +23,18 @@ void ComboBox::Select(std::int16_t value) {
     index = value;
     text = items[value];
     Tell(Property::Text);
-    if (indexChanges && click)
-        click();
+    if (indexChanges && change)
+        change();
+}
+
+void ComboBox::Restore(std::int16_t newIndex, const QString& newText) {
+    const QString shown =
+        newText.isEmpty() && newIndex >= 0 && newIndex < items.size() ? items[newIndex] : newText;
+    if (index == newIndex && text == shown)
+        return;
+    index = newIndex;
+    text = shown;
+    Tell(Property::Text);
 }
 
 } // namespace Hesperin

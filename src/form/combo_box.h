@@ -16,14 +16,14 @@ public:
     void AddItem(const QString& item);
 
     /// Empties the list and fills it anew: nothing is selected and the text is empty afterwards.
-    /// The click operation doesn't run.
+    /// The change rule doesn't run.
     void SetItems(const QStringList& values);
 
     /// Index of the selected entry, -1 when there is none.
     std::int16_t Index() const { return index; }
 
     /// Selects entry `value`, 0 to the number of entries - 1; any other value does nothing. The
-    /// text becomes that entry in any case; the click operation runs when the index really changed.
+    /// text becomes that entry in any case; the change rule runs when the index really changed.
     void Select(std::int16_t value);
 
     const QString& Text() const { return text; }
@@ -31,7 +31,10 @@ public:
     /// Leaves the index alone and runs nothing.
     void SetText(const QString& value) { Store(text, value, Property::Text); }
 
-    void SetClick(ClickOperation operation) { click = std::move(operation); }
+    /// Sets both without the rule. An empty `newText` is that of the entry.
+    void Restore(std::int16_t newIndex, const QString& newText);
+
+    void SetChangeRule(ChangeRule rule) { change = std::move(rule); }
 
 protected:
     QString Content() const override { return text; }
@@ -40,7 +43,7 @@ private:
     QStringList items;
     QString text;
     std::int16_t index = -1;
-    ClickOperation click;
+    ChangeRule change;
 };
 
 } // namespace Hesperin

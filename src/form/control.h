@@ -2,6 +2,8 @@
 // the enabled and visible flags, the tool tip, and one view that is told of each real change.
 #pragma once
 
+#include "text/error.h"
+
 #include <QLatin1String>
 #include <QString>
 
@@ -24,8 +26,7 @@ enum class Property : std::uint8_t {
     ToolTip,
 };
 
-/// Shows one control. Told after the control has stored a change and before its click operation
-/// runs.
+/// Shows one control. Told after the control has stored a change and before its change rule runs.
 class ControlView {
 public:
     virtual ~ControlView() = default;
@@ -113,7 +114,11 @@ private:
     ControlView* view = nullptr;
 };
 
-/// What runs, nested inside the setter, when a control is clicked or its state really changes.
-using ClickOperation = std::function<void()>;
+/// What runs, nested inside the setter, when the state of a box or the choice in a list has really changed,
+/// whether the user or a program step changed it.
+using ChangeRule = std::function<void()>;
+
+/// What the user's click has done. Gives what could not be done; the user has been told.
+using ClickHandler = std::function<Failure()>;
 
 } // namespace Hesperin

@@ -3,7 +3,12 @@
 #include "form/captioned.h"
 #include "form/control_array.h"
 
+#include <QStringList>
+
 namespace Hesperin {
+
+/// The pages of the main window, by their place.
+enum class Page : std::uint8_t { Parameters, Abilities, Spells, Specabilities, File, Count };
 
 class TabPage : public Captioned {
 public:
@@ -21,7 +26,7 @@ public:
 /// The pages of the main window, numbered from 0 and named by their place: "Tablus.Tab(0)".
 class TabControl : public Control {
 public:
-    static constexpr int PageCount = 5;
+    static constexpr int PageCount = static_cast<int>(Page::Count);
 
     TabControl(ControlRegistry& registry, const char* name, const char* pageName)
         : Control(registry, name), Tab(registry, pageName) {
@@ -39,6 +44,9 @@ protected:
     }
 
 public:
+    TabPage& At(Page page) { return Tab(static_cast<int>(page)); }
+    const TabPage& At(Page page) const { return Tab(static_cast<int>(page)); }
+
     ControlArray<TabPage, 0, PageCount - 1> Tab;
 };
 

@@ -1,0 +1,27 @@
+// The 174 abilities: the game's token, the stem of the game's text files, the value by which the
+// ability multiplies Power.
+#pragma once
+
+#include "catalogue/ability_index.h"
+
+#include <array>
+
+namespace Hesperin {
+
+/// How the game names the two text files of an ability.
+enum class TextFileNames : unsigned char {
+    Stem,  ///< the stem followed by "_name" and "_desc"
+    Plain, ///< "name" and "description"
+    Odd,   ///< otherwise; the names stand beside the code that builds them
+};
+
+struct AbilityRow {
+    const char16_t* token; ///< as in creature files, without the prefix ABILITY_
+    const char16_t* stem;  ///< in the game's own spelling
+    float value;
+    TextFileNames files;
+};
+
+extern const std::array<AbilityRow, Ability::Count + 1> AbilityCatalogue; ///< from 1
+
+} // namespace Hesperin

@@ -1,0 +1,12 @@
+// The twelve results: four figures, by two methods and as their averages.
+#pragma once
+
+#include <cstdint>
+
+namespace Hesperin {
+
+enum class Method : std::uint8_t { Rolvane, Hesperin, Average, Count };
+
+enum class Figure : std::uint8_t { Power, Experience, Growth, Cost, Count };
+
+} // namespace Hesperin

@@ -1,0 +1,50 @@
+// The elements of a creature file, each with what it says of a creature: the one list of them. Its order is
+// that of the writer.
+#pragma once
+
+#include "catalogue/parameters.h"
+
+#include <QStringView>
+
+#include <span>
+
+namespace Hesperin {
+
+/// What an element says of a creature, and so how it is written and read.
+enum class Says : std::uint8_t {
+    Number,      ///< the text of the number field `field`
+    Supply,      ///< the same; above 0 it makes a caster or a shooter, and an empty field is 0
+    ListNumber,  ///< a number; the text of the list `list`
+    ListEntry,   ///< the entry of the list `list` in capital letters, behind `text`
+    ListFlag,    ///< true or false; the list Upgrade
+    Flyer,       ///< true or false; the ability FLYER
+    Size,        ///< 2 or 1; the ability LARGE_CREATURE
+    KnownSpells, ///< the special abilities and spells, each with its mastery
+    Charges,     ///< the charge counter; not read
+    Inferno,     ///< 1 for the town INFERNO, else 0; not read
+    Growth,      ///< weekly growth: written as computed, read into the field `field`
+    Shared,      ///< a reference to the shared object that bears the creature's name
+    Visual,      ///< a reference to the creature's looks; not read
+    Abilities,   ///< the abilities that no other element stands for
+    FixedNumber, ///< `text` in every file of ours; not read. The same for the three that follow
+    FixedFlag,
+    FixedWord,
+    FixedEmpty, ///< no content at all
+};
+
+struct Element {
+    QStringView name;
+    QStringView parent; ///< the element around it; empty for Creature itself
+    Says says;
+    int readAs = 0; ///< place in the order of reading, from 1; 0: not read
+    NumberField field = NumberField::Count;
+    ListField list = ListField::Count;
+    QStringView text{};
+};
+
+extern const std::span<const Element> Elements;
+
+/// Every element that is read, in the order of reading.
+std::span<const Element* const> ElementsToRead();
+
+} // namespace Hesperin

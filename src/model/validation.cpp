@@ -1,0 +1,143 @@
+#include "model/validation.h"
+
+#include "catalogue/ability_catalogue.h"
+#include "text/numbers.h"
+
+#include <optional>
+
+namespace Hesperin {
+
+namespace {
+
+using What = Correction::What;
+
+/// A number and the field that it comes from, in the order in which they are read.
+struct Row {
+    What what;
+    QStringView EnteredParameters::*entered;
+    Parameter parameter;
+};
+
+constexpr Row Fields[] = {
+    {What::Attack, &EnteredParameters::Attack, Parameter::Attack},
+    {What::Defence, &EnteredParameters::Defence, Parameter::Defence},
+    {What::Health, &EnteredParameters::Health, Parameter::Health},
+    {What::MinDam, &EnteredParameters::MinDam, Parameter::MinDam},
+    {What::MaxDam, &EnteredParameters::MaxDam, Parameter::MaxDam},
+};
+
+constexpr Row Lists[] = {
+    {What::Speed, &EnteredParameters::Speed, Parameter::Speed},
+    {What::Initiative, &EnteredParameters::Initiative, Parameter::Initiative},
+    {What::Tier, &EnteredParameters::Tier, Parameter::Tier},
+};
+
+/// The value that takes the place of `value`, if it needs one.
+std::optional<std::int16_t> Corrected(std::int16_t value, std::int16_t highest) {
+    if (value <= 0)
+        return std::int16_t{1};
+    if (value > highest)
+        return highest;
+    return std::nullopt;
+}
+
+class Validation {
+public:
+    explicit Validation(const EnteredParameters& source) : entered(source) {}
+
+    Validated Run() {
+        if (entered.Caster)
+            CheckSupply(What::Mana, entered.Mana);
+        if (entered.Shooter)
+            CheckSupply(What::Shots, entered.Shots);
+        for (const Row& row : Fields)
+            CheckNumber(row);
+        CheckDamageOrder();
+        for (const Row& row : Lists)
+            CheckNumber(row);
+        result.parameters.AbilityProduct = entered.AbilityProduct;
+        result.parameters.UpgradeFactor = entered.UpgradeFactor;
+        result.parameters.Shooter = entered.Shooter;
+        return std::move(result);
+    }
+
+private:
+    void CheckSupply(What what, QStringView text) {
+        if (TextToNumber(text) <= 0)
+            result.corrections.push_back({what, text.toString(), 1});
+    }
+
+    void CheckNumber(const Row& row) {
+        const QStringView text = entered.*row.entered;
+        std::int16_t& value = result.parameters[row.parameter];
+        value = RoundTo16Bits(TextToNumber(text));
+        if (const auto corrected = Corrected(value, ParameterRanges[row.parameter].highest)) {
+            value = *corrected;
+            result.corrections.push_back({row.what, text.toString(), value});
+        }
+    }
+
+    void CheckDamageOrder() {
+        Parameters& parameters = result.parameters;
+        if (parameters.MinDam <= parameters.MaxDam)
+            return;
+        result.corrections.push_back(
+            {What::DamageOrder, WholeText(parameters.MinDam), parameters.MaxDam});
+        parameters.MinDam = parameters.MaxDam;
+    }
+
+    const EnteredParameters& entered;
+    Validated result;
+};
+
+} // namespace
+
+std::int16_t Parameters::*Parameters::Member(Parameter which) {
+    static constexpr EnumArray<Parameter, std::int16_t Parameters::*> members{
+        {{&Parameters::Attack, &Parameters::Defence, &Parameters::MinDam, &Parameters::MaxDam,
+          &Parameters::Health, &Parameters::Speed, &Parameters::Initiative, &Parameters::Tier}}};
+    return members[which];
+}
+
+Validated Validate(const EnteredParameters& entered) {
+    return Validation(entered).Run();
+}
+
+EnteredParameters EnteredOf(const Creature& creature) {
+    const auto number = [&creature](NumberField field) {
+        return QStringView(creature.Numbers[field]);
+    };
+    const auto choice = [&creature](ListField list) {
+        return QStringView(creature.Choices[list].text);
+    };
+    std::array<float, Ability::Count + 1> values{};
+    for (std::size_t i = 1; i < values.size(); ++i)
+        values[i] = creature.Abilities[i] ? AbilityCatalogue[i].value : 1.0F;
+    return {number(NumberField::Attack),
+            number(NumberField::Defence),
+            number(NumberField::Health),
+            number(NumberField::MinDam),
+            number(NumberField::MaxDam),
+            choice(ListField::Speed),
+            choice(ListField::Initiative),
+            choice(ListField::Tier),
+            number(NumberField::Mana),
+            number(NumberField::Shots),
+            creature.Has(Ability::Caster),
+            creature.Has(Ability::Shooter),
+            ProductOf(values),
+            UpgradeFactorOf(choice(ListField::Upgrade))};
+}
+
+float UpgradeFactorOf(QStringView entry) {
+    return entry == u"False" ? PlainFactor : UpgradedFactor;
+}
+
+float ProductOf(const std::array<float, Ability::Count + 1>& values) {
+    float product = 1.0F;
+    for (std::size_t i = 1; i < values.size(); ++i)
+        product *= values[i];
+    return product;
+}
+
+} // namespace Hesperin

@@ -1,0 +1,72 @@
+// What went wrong, as a value. It travels up as it is, over one channel, and becomes words in the current
+// language where a person reads it.
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+#include <utility>
+#include <variant>
+
+namespace Hesperin {
+
+struct Error {
+    enum class What : std::uint8_t {
+        // A file can't be read or written.
+        FileMissing,
+        FolderMissing,
+        IsFolder,
+        NotAFile, ///< a device, a pipe, a socket
+        NotAllowed,
+        InUse, ///< another program holds it
+        DiskFull,
+        DiskReadOnly,
+        NameTooLong,
+        FileTooLarge, ///< `expected` is the limit in bytes
+        SystemSays,   ///< `value` is what the system says, in the system's language
+        // A document can't be used.
+        NotWellFormed, ///< `value` is the parser's word for it, in English
+        EndsEarly,     ///< it stops in the middle
+        WrongRoot,     ///< `value` is the root found
+        TextTooLong,   ///< `expected` is the longest text in UTF-16 units
+    };
+
+    What what;
+    QString value{};     ///< what stands there
+    QString expected{};  ///< what should
+    QString file{};      ///< empty: none, or known where the error is told
+    qint64 line = 0;     ///< from 1; 0 when no place can be named
+    qint64 column = 0;   ///< from 1
+    QString element{};   ///< the innermost one that is open there
+
+    bool operator==(const Error&) const = default;
+};
+
+/// What an operation without a result gives: nothing when it was done.
+using Failure = std::optional<Error>;
+
+/// A T, or why there is none.
+template <typename T>
+class Result {
+public:
+    Result(T value) : content(std::move(value)) {}
+    Result(Error error) : content(std::move(error)) {}
+
+    explicit operator bool() const { return std::holds_alternative<T>(content); }
+
+    // Only where there is one.
+    T& operator*() { return *std::get_if<T>(&content); }
+    const T& operator*() const { return *std::get_if<T>(&content); }
+    T* operator->() { return std::get_if<T>(&content); }
+    const T* operator->() const { return std::get_if<T>(&content); }
+
+    // Only where there is none.
+    Error& Why() { return *std::get_if<Error>(&content); }
+    const Error& Why() const { return *std::get_if<Error>(&content); }
+
+private:
+    std::variant<T, Error> content;
+};
+
+} // namespace Hesperin
