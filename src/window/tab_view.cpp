@@ -80,7 +80,7 @@ void TabView::BuildPage(int page) {
     switch (page) {
     case 0:
         BuildParametersPage(program.form, widget, BarHeight);
-        BuildResultPanels(program.form, widget, BarHeight);
+        BuildResultPanels(program, widget, BarHeight);
         break;
     case 1:
         BuildAbilitiesPage(program, widget, BarHeight);

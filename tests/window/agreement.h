@@ -112,7 +112,8 @@ private:
         for (int index = 0; index < shown.count(); ++index)
             items.append(shown.itemText(index));
         Expect(items == list.Items(), list, "entries");
-        Expect(shown.currentIndex() == list.Index(), list, "entry");
+        Expect(shown.currentIndex() == list.Items().indexOf(list.Text()), list, "entry");
+        Expect(shown.accessibleName().endsWith(list.Text()), list, "name");
         Expect(!shown.isEditable(), list, "is editable");
     }
 
