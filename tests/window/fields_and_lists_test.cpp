@@ -60,21 +60,17 @@ TEST(Fields, HaveTheirContentSelectedWhenTheyGetTheFocus) {
     expectTyped("txtMana", "2", "12"); // goes on
     WindowInUse::Click(use.Find("txtMana"), {2, 14});
     expectTyped("txtMana", "3", "312");
-}
 
-TEST(Fields, SelectByDraggingAlsoWhenTheyHadNoFocus) {
-    const WindowInUse use;
     use.form.txtNC.SetText("Drakedrake");
     auto& field = use.Find<QLineEdit>("txtNC");
-    use.Find("txtHealth").setFocus();
     const auto drag = [&](auto act, int x) {
         act(use.window->windowHandle(), field.mapTo(use.window.get(), QPoint(x, 14)));
     };
     drag([](QWindow* window, QPoint place) { QTest::mousePress(window, Qt::LeftButton, {}, place); }, 2);
     drag([](QWindow* window, QPoint place) { QTest::mouseMove(window, place); }, 40);
     drag([](QWindow* window, QPoint place) { QTest::mouseRelease(window, Qt::LeftButton, {}, place); }, 40);
-    EXPECT_TRUE(field.hasSelectedText() && field.selectionStart() == 0);
-    EXPECT_LT(field.selectionEnd(), 10);
+    EXPECT_TRUE(QString("Drakedrak").startsWith(field.selectedText())) << "dragged over, not all";
+    EXPECT_NE(field.selectedText(), "");
 }
 
 TEST(Fields, HaveNoWayRoundTheirFilter) {
