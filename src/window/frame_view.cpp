@@ -35,11 +35,13 @@ void FrameView::Sync() {
 
 void FrameView::NameFields() {
     const QString caption = control.Caption().trimmed();
-    for (QWidget* child : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+    for (QWidget* child : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        const bool takesFocus = child->focusPolicy() != Qt::NoFocus;
         if (const auto* named = dynamic_cast<NamedInFrame*>(child))
             child->setAccessibleName(named->NameIn(caption));
-        else if (child->focusPolicy() != Qt::NoFocus)
+        else if (takesFocus)
             child->setAccessibleName(caption);
+    }
     for (const QLabel* label : findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly))
         if (label->buddy() != nullptr)
             label->buddy()->setAccessibleName(caption + u' ' + label->text());
