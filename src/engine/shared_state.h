@@ -136,6 +136,13 @@ struct SharedState {
     QString MsgNoCalculator;
     QString MsgYes;
     QString MsgNo;
+
+    // How a result is named for those who cannot see where it stands: what it is (%1), the figure.
+    QString FigureByRolvane;
+    QString FigureByHesperin;
+    QString FigureOnAverage;
+    QString FigureByQuintarell;
+    QString FigureByBravik;
 };
 
 } // namespace Hesperin

@@ -70,6 +70,11 @@ constexpr MessageRow Messages[] = {
     {&SharedState::MsgNoCalculator,     {u"No calculator could be started; looked for: %1.",               u"Не удалось запустить калькулятор; испробованы: %1.",       nullptr, nullptr}},
     {&SharedState::MsgYes,              {u"Yes",                                                           u"Да",                                                       nullptr, nullptr}},
     {&SharedState::MsgNo,               {u"No",                                                            u"Нет",                                                      nullptr, nullptr}},
+    {&SharedState::FigureByRolvane,     {u"%1 by Rolvane %2",                                              u"%1 по Rolvane'у %2",                                       nullptr, nullptr}},
+    {&SharedState::FigureByHesperin,    {u"%1 by Hesperin %2",                                             u"%1 по Hesperin'ю %2",                                      nullptr, nullptr}},
+    {&SharedState::FigureOnAverage,     {u"Average %1 %2",                                                 u"%1 в среднем %2",                                          nullptr, nullptr}},
+    {&SharedState::FigureByQuintarell,  {u"%1 by Quintarell %2",                                           u"%1 по Quintarell'у %2",                                    nullptr, nullptr}},
+    {&SharedState::FigureByBravik,      {u"%1 by Bravik %2",                                               u"%1 по Bravik'у %2",                                        nullptr, nullptr}},
 };
 
 // clang-format on

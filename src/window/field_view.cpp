@@ -9,8 +9,19 @@
 #include <QMimeData>
 
 #include <algorithm>
+#include <utility>
 
 namespace Hesperin {
+
+namespace {
+
+/// Whether the focus only goes to a window, menu or list in front and comes back from there.
+bool IsForAWhile(Qt::FocusReason reason) {
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
+           reason == Qt::MenuBarFocusReason;
+}
+
+} // namespace
 
 FieldView::FieldView(TextField& field, QWidget* parent, const QRect& place, const QFont& fieldFace,
                      QRgb ink)
@@ -28,6 +39,9 @@ void FieldView::Sync() {
         const int cursor = cursorPosition();
         setText(control.Text());
         setCursorPosition(cursor);
+        isLeftForAWhile = false;
+        if (hasFocus())
+            selectAll();
     }
     FitFace();
 }
@@ -38,6 +52,29 @@ bool FieldView::Admits(const QString& typed) const {
     const qsizetype length = text().size() - selectedText().size() + typed.size();
     return allAccepted &&
            (control.MaxLength() == TextField::NoLimit || length <= control.MaxLength());
+}
+
+void FieldView::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    if (!std::exchange(isLeftForAWhile, false) || !IsForAWhile(event->reason()))
+        selectAll();
+    hasFocusByPress = event->reason() == Qt::MouseFocusReason;
+}
+
+void FieldView::focusOutEvent(QFocusEvent* event) {
+    QLineEdit::focusOutEvent(event);
+    isLeftForAWhile = IsForAWhile(event->reason());
+}
+
+void FieldView::mousePressEvent(QMouseEvent* event) {
+    selectsOnRelease = std::exchange(hasFocusByPress, false) && event->button() == Qt::LeftButton;
+    QLineEdit::mousePressEvent(event); // places the cursor, where a drag begins
+}
+
+void FieldView::mouseReleaseEvent(QMouseEvent* event) {
+    QLineEdit::mouseReleaseEvent(event);
+    if (std::exchange(selectsOnRelease, false) && !hasSelectedText())
+        selectAll();
 }
 
 void FieldView::keyPressEvent(QKeyEvent* event) {

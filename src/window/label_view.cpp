@@ -24,9 +24,8 @@ void LabelView::Sync() {
     setAccessibleName(control.Caption());
     if (!control.Caption().isEmpty())
         setFont(FittingFace(face, control.Caption(), width()));
-    if (auto* frame = dynamic_cast<FrameView*>(parentWidget());
-        frame != nullptr && buddy() != nullptr)
-        frame->NameFields();
+    if (buddy() != nullptr)
+        FrameView::NameFieldsAround(*this);
 }
 
 } // namespace Hesperin

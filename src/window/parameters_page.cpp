@@ -93,7 +93,7 @@ void BuildParametersPage(MainForm& form, QWidget& page, int top) {
         auto* frame = new FrameView(form.*row.frame, &page, CaptionFace(), place);
         const QRect inside(Margin, FieldTop, place.width() - 2 * Margin, FieldHeight);
         if (row.field != nullptr) {
-            const QFont face = row.ink == Colours::Name ? NameFace() : FigureFace();
+            const QFont face = row.field == &MainForm::txtNC ? NameFace() : FigureFace();
             new FieldView(form.*row.field, frame, inside, face, row.ink);
         } else if (row.list != nullptr) {
             new ListView(form.*row.list, frame, inside, HeadingFace());

@@ -31,7 +31,8 @@ public:
 private:
     void Sync() {
         const QFontMetrics metrics(bar.font());
-        bar.setTabText(index, metrics.elidedText(page.Caption(), Qt::ElideMiddle, LongestCaption));
+        QString text = metrics.elidedText(page.Caption(), Qt::ElideMiddle, LongestCaption);
+        bar.setTabText(index, text.replace(u'&', QLatin1String("&&"))); // no mnemonic
         bar.setTabToolTip(index, page.Caption());
         if (bar.currentIndex() == index && !page.On())
             bar.setCurrentIndex(0); // before the bar looks for a neighbour
@@ -79,7 +80,7 @@ void TabView::BuildPage(int page) {
     switch (page) {
     case 0:
         BuildParametersPage(program.form, widget, BarHeight);
-        BuildResultPanels(program.form, widget, BarHeight);
+        BuildResultPanels(program, widget, BarHeight);
         break;
     case 1:
         BuildAbilitiesPage(program, widget, BarHeight);

@@ -96,6 +96,9 @@ TEST_P(Texts, InDropDownsAreWhole) {
 TEST(Fields, ShrinkTheirTextUntilItFits) {
     const FullWindow use(English);
     const auto& nameField = use.Find<QLineEdit>("txtNC");
+    use.ForEach<QLineEdit>([&](const QLineEdit& field) {
+        EXPECT_EQ(field.font() == nameField.font(), &field == &nameField) << "the name has a font of its own";
+    });
     QString name; // somewhat too wide, whatever the font
     while (QFontMetrics(nameField.font()).horizontalAdvance(name) < nameField.width() * 5 / 4)
         name += u'm';

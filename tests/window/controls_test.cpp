@@ -38,11 +38,22 @@ TEST(Controls, HaveANameForThoseWhoCannotSee) {
         const char* name;
         const char* texts[3]; // none, English, Russian
     } cases[] = {
-        {"txtAttack", {"", "Attack", "Нападение"}},      {"txtMinDam", {"", "Damage min", "Урон мин."}},
-        {"txtMaxDam", {"", "Damage max", "Урон макс."}}, {"ComboTier", {"", "Tier", "Уровень"}},
-        {"cmdCalc", {"", "Calculate", "Рассчёт"}},       {"Spells(46)", {"", "MAGIC_ARROW", "MAGIC_ARROW"}},
+        {"txtAttack", {"", "Attack", "Нападение"}},
+        {"txtMinDam", {"", "Damage min", "Урон мин."}},
+        {"txtMaxDam", {"", "Damage max", "Урон макс."}},
+        {"ComboTier", {"", "Tier 40", "Уровень 40"}},
+        {"cmdCalc", {"", "Calculate", "Рассчёт"}},
+        {"Spells(46)", {"", "MAGIC_ARROW", "MAGIC_ARROW"}},
+        {"lblPowerRolvane", {"", "Power by Rolvane 1615", "Сила по Rolvane'у 1615"}},
+        {"lblExpAverage", {"", "Average Experience 70", "Опыт в среднем 70"}},
+        {"lblGrowthHesperin", {"", "Growth by Hesperin", "Прирост по Hesperin'ю"}},
+        {"lblCostS", {"", "Gold by Quintarell", "Золото по Quintarell'у"}},
+        {"lblCostD", {"", "Gold by Bravik", "Золото по Bravik'у"}},
     };
     WindowInUse use;
+    use.form.ComboTier.SetText("40"); // none of its entries
+    use.form.lblPowerRolvane.SetCaption(QString("1615"));
+    use.form.lblExpAverage.SetCaption(QString("70"));
     for (const Language language : {English, Russian}) {
         use.PickLanguage(language == English ? "mnuEnglish" : "mnuRussian");
         for (const auto& test : cases)

@@ -30,9 +30,11 @@ TEST(Pages, AHiddenPageGivesWayToTheFirst) {
     EXPECT_EQ(Disagreements(use), "");
 }
 
-TEST(Pages, ALongCaptionIsShortenedToItsEnd) {
+TEST(Pages, ALongCaptionIsShortenedToItsEndAndAShortOneWhole) {
     const WindowInUse use;
     const auto& bar = use.Find<QTabBar>("Tablus.Bar");
+    use.form.Tablus.Tab(4).SetCaption("out&dir/&");
+    EXPECT_EQ(Disagreements(use), "");
     use.form.Tablus.Tab(4).SetCaption("/home/" + QString("long").repeated(100) + "/drake.xdb");
     EXPECT_LE(bar.tabRect(4).width(), use.window->width() / 2);
     EXPECT_TRUE(bar.tabText(4).endsWith(".xdb"));
