@@ -68,6 +68,11 @@ constexpr MessageRow Messages[] = {
       nullptr,
       nullptr}},
     {&SharedState::MsgNoCalculator,     {u"No calculator could be started; looked for: %1.",               u"Не удалось запустить калькулятор; испробованы: %1.",       nullptr, nullptr}},
+    {&SharedState::MsgLockOfOtherHost,
+     {u"TALMIR runs on the computer \"%1\", or was cut off there. If it does not run there, delete the file \"%2\" and start again.",
+      u"TALMIR уже запущена на компьютере \"%1\" или была там прервана. Если она там не запущена, удалите файл \"%2\" и запустите её снова.",
+      nullptr,
+      nullptr}},
     {&SharedState::MsgYes,              {u"Yes",                                                           u"Да",                                                       nullptr, nullptr}},
     {&SharedState::MsgNo,               {u"No",                                                            u"Нет",                                                      nullptr, nullptr}},
 };
