@@ -14,11 +14,16 @@ constexpr qsizetype LongestMarkup = 1 << 15;
 /// Of all entities together, in characters.
 constexpr qsizetype LongestExpansion = 1 << 20;
 
+/// No path of the game comes near it, in characters.
+constexpr qsizetype LongestReference = 1 << 10;
+
 const QString IdPrefix = QStringLiteral("ABILITY_");
 
 /// The place that a reference in the table leads to: from the data's root, or from the table's
 /// folder; what stands behind # is a place in that file.
 QStringList LevelsOf(QString reference) {
+    if (reference.size() > LongestReference)
+        return {};
     reference = reference.section(u'#', 0, 0).trimmed().replace(u'\\', u'/');
     QStringList levels;
     if (!reference.startsWith(u'/'))
