@@ -1,17 +1,21 @@
 #include "cli/text_source.h"
 
+#include "cli/ability_table.h"
 #include "cli/zip_archive.h"
+#include "localisation/ability_texts.h"
 #include "localisation/obstacle_text.h"
 #include "platform/path_lookup.h"
 #include "platform/read_file.h"
 
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace Hesperin {
 
 namespace {
 
-/// Where the game's text tree may begin, the place that is preferred first.
+/// Where the game's data may begin, the place that is preferred first.
 std::vector<QStringList> Beginnings(const QString& languageCode) {
     const QString data = QStringLiteral("data");
     return {{languageCode}, {data, languageCode}, {}, {data}};
@@ -23,27 +27,35 @@ public:
         : TextSource(path), words(state) {
         PathLookup top(path);
         for (const QStringList& beginning : Beginnings(languageCode))
-            if (const QString tree = top.Find(beginning + AbilityTextLevels()); !tree.isEmpty())
-                trees.emplace_back(tree);
+            if (const QString root = beginning.isEmpty() ? path : top.Find(beginning);
+                !root.isEmpty())
+                roots.emplace_back(root);
     }
 
-    bool HasTexts() const override { return !trees.empty(); }
+    bool HasTexts() override {
+        return std::any_of(roots.begin(), roots.end(), [](PathLookup& root) {
+            return !root.Find(AbilityTextLevels()).isEmpty();
+        });
+    }
 
-    std::optional<std::variant<QByteArray, QString>> Read(const AbilityText& text) override {
-        for (PathLookup& tree : trees) {
-            const QString path = tree.Find({text.folder, text.file});
+    std::optional<std::variant<QByteArray, QString>> Read(const QStringList& levels,
+                                                          qint64 limit) override {
+        for (PathLookup& root : roots) {
+            const QString path = root.Find(levels);
             if (path.isEmpty())
                 continue;
-            auto content = ReadFile(path, LargestAbilityText);
-            if (const auto* bytes = std::get_if<QByteArray>(&content))
-                return *bytes;
-            return ObstacleText(words, std::get<FileObstacle>(content));
+            auto content = ReadFile(path, limit);
+            if (auto* bytes = std::get_if<QByteArray>(&content))
+                return std::move(*bytes);
+            const auto& obstacle = std::get<FileObstacle>(content);
+            return obstacle.kind == FileObstacle::Kind::TooLarge ? ZipArchive::TooLarge(limit)
+                                                                 : ObstacleText(words, obstacle);
         }
         return std::nullopt;
     }
 
 private:
-    std::vector<PathLookup> trees;
+    std::vector<PathLookup> roots;
     const SharedState& words;
 };
 
@@ -57,26 +69,26 @@ public:
             obstacle = ObstacleText(state, {kind, {}});
             return;
         }
-        archive.emplace(path, AbilityTextLevels().join(u'/').toCaseFolded() + u'/');
+        archive.emplace(path, QStringList{QStringLiteral(".txt"),
+                                          AbilityTableLevels().constLast().toCaseFolded()});
         for (const QStringList& beginning : Beginnings(languageCode))
-            trees.append((beginning + AbilityTextLevels()).join(u'/') + u'/');
+            roots.append((beginning + QStringList(QString())).join(u'/'));
     }
 
     QString Fault() const override { return archive ? archive->Fault() : obstacle; }
 
-    bool HasTexts() const override { return archive && !archive->IsEmpty(); }
-
-    std::optional<std::variant<QByteArray, QString>> Read(const AbilityText& text) override {
-        for (const QString& tree : trees)
-            if (const QString path = tree + text.folder + u'/' + text.file; archive->Has(path))
-                return archive->Read(path, LargestAbilityText);
+    std::optional<std::variant<QByteArray, QString>> Read(const QStringList& levels,
+                                                          qint64 limit) override {
+        for (const QString& root : roots)
+            if (const QString path = root + levels.join(u'/'); archive->Has(path))
+                return archive->Read(path, limit);
         return std::nullopt;
     }
 
 private:
     std::optional<ZipArchive> archive;
     QString obstacle;
-    QStringList trees;
+    QStringList roots;
 };
 
 } // namespace

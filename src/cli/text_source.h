@@ -1,6 +1,8 @@
 #pragma once
 
-#include "localisation/ability_texts.h"
+#include "engine/shared_state.h"
+
+#include <QStringList>
 
 #include <memory>
 #include <optional>
@@ -22,19 +24,23 @@ public:
     /// Why nothing can be had from it; empty when it can be read.
     virtual QString Fault() const { return {}; }
 
-    /// Whether there are texts in it at all.
-    virtual bool HasTexts() const = 0;
+    /// Whether the texts of abilities lie in it in their own places; an archive is taken to have
+    /// them.
+    virtual bool HasTexts() { return true; }
 
-    /// The bytes of a text, or why they can't be had; nothing when it isn't in here.
-    virtual std::optional<std::variant<QByteArray, QString>> Read(const AbilityText& text) = 0;
+    /// The bytes of the file at `levels` below the game's data, a text or the table of abilities,
+    /// or why they can't be had, as when there are more than `limit`; nothing when it isn't in
+    /// here.
+    virtual std::optional<std::variant<QByteArray, QString>> Read(const QStringList& levels,
+                                                                  qint64 limit) = 0;
 
 private:
     QString name;
 };
 
-/// An unpacked game tree when `path` is a folder, else a game archive. The texts lie in it in
-/// Text/Game/Creatures/Creature_abilities, below EN or RU as `languageCode` tells, below data, or
-/// both. Letter case plays no part. Obstacles are told in the words of `state`.
+/// An unpacked game tree when `path` is a folder, else a game archive. The game's data lie in it
+/// below EN or RU as `languageCode` tells, below data, or both, or at its top. Letter case plays no
+/// part. Obstacles are told in the words of `state`.
 std::unique_ptr<TextSource> OpenTextSource(const QString& path, const QString& languageCode,
                                            const SharedState& state);
 

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -70,10 +71,10 @@ struct ZipArchive::Reader {
     unzFile zip;
 };
 
-ZipArchive::ZipArchive(const QString& path, const QString& part)
+ZipArchive::ZipArchive(const QString& path, const QStringList& endings)
     : reader(std::make_unique<Reader>(path)) {
     if (reader->zip != nullptr)
-        ReadNames(part);
+        ReadNames(endings);
     else if (reader->file.error() != QFileDevice::NoError)
         fault = reader->file.errorString();
     else
@@ -92,7 +93,7 @@ QString ZipArchive::Folded(QString name) {
 }
 
 /// Of several entries of one name the last counts, as it was added last.
-void ZipArchive::ReadNames(const QString& part) {
+void ZipArchive::ReadNames(const QStringList& endings) {
     std::array<char, 1024> name{}; // a longer one is none of ours
     int step = unzGoToFirstFile(reader->zip);
     for (; step == UNZ_OK; step = unzGoToNextFile(reader->zip)) {
@@ -106,11 +107,17 @@ void ZipArchive::ReadNames(const QString& part) {
         const QString folded =
             Folded(QString::fromUtf8(name.data(), static_cast<qsizetype>(length)));
         unz64_file_pos place{};
-        if (folded.contains(part) && unzGetFilePos64(reader->zip, &place) == UNZ_OK)
+        const bool wanted = std::any_of(endings.begin(), endings.end(),
+                                        [&](const QString& end) { return folded.endsWith(end); });
+        if (wanted && unzGetFilePos64(reader->zip, &place) == UNZ_OK)
             places.insert(folded, {place.pos_in_zip_directory, place.num_of_file});
     }
     if (step != UNZ_END_OF_LIST_OF_FILE)
         fault = QStringLiteral("its list of files is damaged");
+}
+
+QString ZipArchive::TooLarge(qint64 limit) {
+    return QStringLiteral("it has more than %1 bytes").arg(limit);
 }
 
 std::variant<QByteArray, QString> ZipArchive::Read(const QString& name, qint64 limit) {
@@ -131,7 +138,7 @@ std::variant<QByteArray, QString> ZipArchive::Read(const QString& name, qint64 l
         unzReadCurrentFile(reader->zip, bytes.data(), static_cast<unsigned>(bytes.size()));
     const int closed = unzCloseCurrentFile(reader->zip); // compares the checksum
     if (count > limit)
-        return QStringLiteral("it has more than %1 bytes").arg(limit);
+        return TooLarge(limit);
     if (count < 0 || closed != UNZ_OK)
         return damaged;
     bytes.truncate(count);

@@ -2,19 +2,19 @@
 
 #include <QByteArray>
 #include <QHash>
-#include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <variant>
 
 namespace Hesperin {
 
-/// The files of one part of a zip archive, such as the game's .pak files are. Names are told apart
-/// without regard to letter case and to the separator between folders.
+/// The files of some kinds in a zip archive, such as the game's .pak files are. Names are told
+/// apart without regard to letter case and to the separator between folders.
 class ZipArchive {
 public:
-    /// Looks up the names that contain `part`, in small letters with slashes.
-    ZipArchive(const QString& path, const QString& part);
+    /// Looks up the names that end with one of `endings`, in small letters with slashes.
+    ZipArchive(const QString& path, const QStringList& endings);
     ~ZipArchive();
     ZipArchive(const ZipArchive&) = delete;
     ZipArchive& operator=(const ZipArchive&) = delete;
@@ -22,10 +22,10 @@ public:
     /// Why the archive can't be read; empty when it can.
     const QString& Fault() const { return fault; }
 
-    /// Whether there is no such part in it.
-    bool IsEmpty() const { return places.isEmpty(); }
-
     bool Has(const QString& name) const { return places.contains(Folded(name)); }
+
+    /// What is said of a file of more than `limit` bytes.
+    static QString TooLarge(qint64 limit);
 
     /// The bytes of the file `name`, which must be there, or why they can't be had: more than
     /// `limit`, encrypted, damaged.
@@ -40,7 +40,7 @@ private:
     };
 
     static QString Folded(QString name);
-    void ReadNames(const QString& part);
+    void ReadNames(const QStringList& endings);
 
     std::unique_ptr<Reader> reader;
     QHash<QString, Place> places;

@@ -112,8 +112,7 @@ void mnuSave_Click(Program& program) {
     const QString name = ProperCase(form.txtNC.Text());
     if (name.isEmpty()) {
         state.CreatureName = name;
-        program.failure = state.MsgEnterName;
-        program.Warn(BoxIcon::Critical, program.failure);
+        program.Warn(BoxIcon::Critical, state.MsgEnterName);
         return;
     }
     FileDialog& dialog = form.ComDialog;

@@ -134,6 +134,7 @@ struct SharedState {
     QString MsgNumbersLimited;
     QString MsgSaveFailed;
     QString MsgNoCalculator;
+    QString MsgLockOfOtherHost;
     QString MsgYes;
     QString MsgNo;
 

@@ -104,8 +104,8 @@ std::vector<AbilityText> AbilityTexts() {
     SharedState names;
     for (int i = 1; i <= Ability::Count; ++i) {
         AbilityTextFiles(names, i);
-        for (const QString& file : {names.AbilityNameFile, names.AbilityDescFile})
-            texts.push_back({Stem(i), file + Extension});
+        texts.push_back({Stem(i), names.AbilityNameFile + Extension, i, true});
+        texts.push_back({Stem(i), names.AbilityDescFile + Extension, i, false});
     }
     return texts;
 }

@@ -14,6 +14,8 @@ void AbilityTextFiles(SharedState& state, int index);
 struct AbilityText {
     QString folder; ///< "AcidBlood"
     QString file;   ///< "name.txt"
+    int ability;    ///< 1 to 174
+    bool isName;    ///< else the description
 };
 
 /// The text files of all abilities, in the order of the abilities, each with name before

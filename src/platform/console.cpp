@@ -9,6 +9,8 @@
 
 #include <cstdio>
 #include <cstdlib>
+#else
+#include <fcntl.h>
 #endif
 
 namespace Hesperin {
@@ -20,6 +22,12 @@ void PrepareConsole() {
     std::atexit([] { SetConsoleOutputCP(codePageOfConsole); });
     for (std::FILE* stream : {stdin, stdout, stderr})
         _setmode(_fileno(stream), _O_BINARY);
+#else
+    constexpr int input = 0;
+    constexpr int complaints = 2;
+    for (int number = input; number <= complaints; ++number)
+        if (fcntl(number, F_GETFD) < 0) // opening takes the lowest free number
+            open("/dev/null", number == input ? O_WRONLY : O_RDONLY);
 #endif
 }
 

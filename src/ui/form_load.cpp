@@ -9,7 +9,10 @@
 #include "localisation/ability_texts.h"
 #include "localisation/apply_language.h"
 #include "localisation/language_file.h"
+#include "localisation/string_tables.h"
 #include "ui/wire_handlers.h"
+
+#include <QDir>
 
 namespace Hesperin {
 
@@ -60,6 +63,13 @@ void ClearBoxes(Program& program) {
     }
 }
 
+QString OtherInstanceText(const SharedState& state, const RunningInstance& other) {
+    return other.otherHost.isEmpty()
+               ? state.MsgSecondInstance
+               : Fill(state.MsgLockOfOtherHost,
+                      {other.otherHost, QDir::toNativeSeparators(other.lockFile)});
+}
+
 } // namespace
 
 bool Form_Load(Program& program, const StartOptions& options) {
@@ -76,8 +86,8 @@ bool Form_Load(Program& program, const StartOptions& options) {
     state.LanguageId =
         options.languageId ? *options.languageId : ReadLanguageFile(program.platform.Places());
     ApplyLanguage(program, state.LanguageId);
-    if (program.platform.OtherInstanceRuns()) {
-        program.Warn(BoxIcon::Critical, state.MsgSecondInstance);
+    if (const auto other = program.platform.OtherInstance()) {
+        program.Warn(BoxIcon::Critical, OtherInstanceText(state, *other));
         return false;
     }
     form.frmMain.SetCaption(VersionRecord::TitleAndVersion());

@@ -14,8 +14,8 @@ struct StartOptions {
 
 /// The whole start-up of the program, before anything is shown: language, single-instance test,
 /// catalogues, ability texts, lists and initial values. False when another instance runs: the user
-/// has been told (MsgSecondInstance, critical), nothing further was set up, and the process is to
-/// end.
+/// has been told (critical: MsgSecondInstance, or MsgLockOfOtherHost where the lock may be one that
+/// another computer left), nothing further was set up, and the process is to end.
 bool Form_Load(Program& program, const StartOptions& options = {});
 
 } // namespace Hesperin

@@ -71,7 +71,7 @@ TEST(Save, WithoutANameNothingElseHappens) {
               QStringList{QString::fromUtf8("Пожалуйста, введите название существа в проекте TCX!")});
     EXPECT_EQ(static_cast<int>(test.platform.boxes[0].icon), static_cast<int>(BoxIcon::Critical));
     EXPECT_FALSE(QFile::exists(test.Path("out.xdb")));
-    EXPECT_FALSE(test.program.failure.isEmpty());
+    EXPECT_EQ(test.program.failure, "") << "a question is none";
 }
 
 TEST(Save, AFailureIsToldByTheStatusAndThePageIsShownAllTheSame) {
