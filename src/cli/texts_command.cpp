@@ -1,11 +1,8 @@
 #include "cli/command.h"
 
-<<<<<<< HEAD
-#include "cli/cli_platform.h"
-=======
 #include "catalogues/ability_catalogue.h"
 #include "cli/ability_table.h"
->>>>>>> w-scripts
+#include "cli/cli_platform.h"
 #include "cli/language_option.h"
 #include "cli/output.h"
 #include "cli/text_source.h"
