@@ -2,6 +2,7 @@
 
 #include "catalogues/ability_catalogue.h"
 #include "cli/ability_table.h"
+#include "cli/cli_platform.h"
 #include "cli/language_option.h"
 #include "cli/output.h"
 #include "cli/text_source.h"
