@@ -6,6 +6,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QRegularExpression>
 
 namespace Hesperin {
 
@@ -63,7 +64,8 @@ private:
         if (actions.size() != 1)
             return Expect(false, entry, "has not exactly one action");
         const QAction& action = *actions.first();
-        Expect(action.text() == entry.Caption(), entry, "caption");
+        static const QRegularExpression mnemonic("&(.)");
+        Expect(QString(action.text()).replace(mnemonic, "\\1") == entry.Caption(), entry, "caption");
         Expect(action.isEnabled() == entry.Enabled(), entry, "enabled");
         Expect(action.isVisible() == entry.Visible(), entry, "visible");
         Expect(action.isChecked() == entry.Checked(), entry, "check mark");

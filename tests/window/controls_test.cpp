@@ -3,7 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 
 namespace Hesperin {
 
@@ -30,7 +31,8 @@ TEST(Controls, FollowASwitchOfTheLanguage) {
         EXPECT_EQ(Disagreements(use), "") << entry;
     }
     EXPECT_TRUE(use.Find<QAction>("mnuRussian").isChecked());
-    EXPECT_EQ(use.Find<QAction>("mnuFile").text(), "Файл");
+    EXPECT_EQ(use.window->windowTitle(), "TALMIR v0.0.0.44");
+    EXPECT_EQ(use.Find<QAction>("mnuFile").text(), "&Файл");
 }
 
 TEST(Controls, HaveANameForThoseWhoCannotSee) {
@@ -69,13 +71,32 @@ TEST(Controls, HaveANameForThoseWhoCannotSee) {
     }
 }
 
-TEST(Controls, StandInAWindowNoLargerThanTheScreen) {
-    WindowInUse use;
-    const MainWindow fresh(use.program);
-    EXPECT_LE(fresh.width(), fresh.screen()->availableSize().width());
-    EXPECT_LE(fresh.height(), fresh.screen()->availableSize().height());
-    EXPECT_EQ(fresh.minimumSize(), fresh.maximumSize());
-    EXPECT_EQ(use.window->windowTitle(), "TALMIR v0.0.0.44");
+TEST(Controls, StandWhollyInAWindowThatFitsTheScreen) {
+    const struct {
+        QSize available, window;
+        bool scrollsDown, scrollsAside;
+    } cases[] = {
+        {{1920, 1080}, {1030, 704}, false, false}, {{1030, 741}, {1030, 704}, false, false},
+        {{1366, 720}, {1030, 683}, false, false},  {{1366, 696}, {1044, 659}, true, false},
+        {{1280, 648}, {1044, 611}, true, false},   {{1024, 768}, {1024, 704}, false, false},
+        {{1024, 696}, {1024, 659}, true, false},   {{800, 600}, {800, 563}, true, true},
+    };
+    for (const auto& [available, window, scrollsDown, scrollsAside] : cases) {
+        SCOPED_TRACE(available.width() * 10000 + available.height());
+        const WindowInUse use(
+            Russian, [](const QString&) {}, available);
+        EXPECT_EQ(use.window->size(), window);
+        EXPECT_EQ(use.window->minimumSize(), use.window->maximumSize());
+        const auto& scroll = use.Find<QScrollArea>("Tablus.Scroll");
+        EXPECT_EQ(scroll.verticalScrollBar()->isVisible(), scrollsDown);
+        EXPECT_EQ(scroll.horizontalScrollBar()->isVisible(), scrollsAside);
+        for (const Control* control : use.form.Controls()) {
+            const QWidget* widget = use.window->WidgetOf(*control);
+            if (widget == nullptr || widget->isWindow())
+                continue;
+            EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry())) << control->Name().toStdString();
+        }
+    }
 }
 
 } // namespace
