@@ -1,7 +1,6 @@
 #include "window/field_view.h"
 
 #include "window/faces.h"
-#include "window/palette.h"
 
 #include <QDragEnterEvent>
 #include <QInputMethodEvent>
@@ -13,10 +12,10 @@
 namespace Hesperin {
 
 FieldView::FieldView(TextField& field, QWidget* parent, const QRect& place, const QFont& fieldFace,
-                     QRgb ink)
-    : View(field, parent), face(fieldFace) {
+                     Colour textColour)
+    : View(field, parent), face(fieldFace), colour(textColour) {
     setGeometry(place);
-    setPalette(InkPalette(ink));
+    setPalette(TextPalette(OutlinedPalette(), colour));
     setFont(face);
     connect(this, &QLineEdit::textEdited, this,
             [this](const QString& text) { control.SetText(text); });
@@ -38,6 +37,12 @@ bool FieldView::Admits(const QString& typed) const {
     const qsizetype length = text().size() - selectedText().size() + typed.size();
     return allAccepted &&
            (control.MaxLength() == TextField::NoLimit || length <= control.MaxLength());
+}
+
+bool FieldView::event(QEvent* event) {
+    if (event->type() == QEvent::ApplicationPaletteChange)
+        setPalette(TextPalette(OutlinedPalette(), colour));
+    return QLineEdit::event(event);
 }
 
 void FieldView::keyPressEvent(QKeyEvent* event) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "form/text_field.h"
+#include "window/palette.h"
 #include "window/view.h"
 
 #include <QLineEdit>
@@ -10,10 +11,12 @@ namespace Hesperin {
 /// A field of text. Typed keys pass the field's key filter and its longest text; a paste passes.
 class FieldView : public View<QLineEdit, TextField> {
 public:
-    FieldView(TextField& field, QWidget* parent, const QRect& place, const QFont& face, QRgb ink);
+    FieldView(TextField& field, QWidget* parent, const QRect& place, const QFont& face,
+              Colour colour);
 
 protected:
     void Sync() override;
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -24,6 +27,7 @@ private:
     void FitFace();
 
     QFont face;
+    Colour colour;
 };
 
 } // namespace Hesperin

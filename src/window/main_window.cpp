@@ -5,7 +5,9 @@
 #include "ui/window_commands.h"
 #include "window/button_view.h"
 #include "window/faces.h"
+#include "window/palette.h"
 #include "window/tab_view.h"
+#include "window/toolkit_words.h"
 #include "window/units.h"
 
 #include <QApplication>
@@ -46,6 +48,10 @@ QString DraggedFile(const QMimeData& data) {
                                                                : QString();
 }
 
+void FollowContrast(bool high) {
+    UseColours(high ? HighContrastColours : GivenColours);
+}
+
 /// Lies there as plain pixels: any other format would load the readers of all that the system has.
 QIcon WindowIcon() {
     constexpr int side = 64;
@@ -62,6 +68,10 @@ MainWindow::MainWindow(Program& owner) : program(owner) {
     setObjectName(form.frmMain.Name());
     setAcceptDrops(true);
     menus = BuildMenus(form, *menuBar());
+    RestoreHighContrast(program);
+    FollowContrast(form.mnuHighContrast.Checked());
+    connect(findChild<QAction*>(form.mnuHighContrast.Name()), &QAction::toggled, this,
+            FollowContrast);
     opening.setSingleShot(true);
     pictured.setSingleShot(true);
     connect(&pictured, &QTimer::timeout, this, [this] { FinishStart(); });
@@ -113,6 +123,9 @@ bool MainWindow::event(QEvent* event) {
 
 void MainWindow::FinishStart() {
     QApplication::setWindowIcon(WindowIcon());
+    const auto* russian = findChild<QAction*>(program.form.mnuRussian.Name());
+    connect(russian, &QAction::toggled, this, HaveToolkitSpeakRussian);
+    HaveToolkitSpeakRussian(russian->isChecked());
     LoadAbilityTexts(program);
 }
 

@@ -17,7 +17,8 @@ const std::vector<MenuPlan>& Plan() {
         {&MainForm::mnuFile,
          {&MainForm::mnuNew, &MainForm::mnuOpen, &MainForm::mnuSave, nullptr, &MainForm::mnuQuit}},
         {&MainForm::mnuOptions,
-         {&MainForm::mnuLanguage, &MainForm::mnuAlternativeMethod, &MainForm::mnuCalculator}},
+         {&MainForm::mnuLanguage, &MainForm::mnuAlternativeMethod, &MainForm::mnuCalculator,
+          &MainForm::mnuHighContrast}},
         {&MainForm::mnuInfo, {&MainForm::mnuHelp, nullptr, &MainForm::mnuAbout}},
     };
     return plan;

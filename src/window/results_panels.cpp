@@ -17,7 +17,7 @@ struct Group {
     Label MainForm::*heading;
     Frame MainForm::*frames[4];
     Label MainForm::*figures[4];
-    QRgb ink;
+    Colour colour;
 };
 
 // clang-format off
@@ -25,26 +25,26 @@ constexpr Group MainMethod[] = {
     {&MainForm::lblValues,
      {&MainForm::FramePower,      &MainForm::FrameExperience,  &MainForm::FrameGrowth,       &MainForm::FrameCost},
      {&MainForm::lblPowerRolvane, &MainForm::lblExpRolvane,    &MainForm::lblGrowthRolvane,  &MainForm::lblCostRolvane},
-     Colours::Rolvane},
+     &ColourTable::Rolvane},
     {&MainForm::lblValuesX,
      {&MainForm::FramePowerX,      &MainForm::FrameExperienceX, &MainForm::FrameGrowthX,      &MainForm::FrameCostX},
      {&MainForm::lblPowerHesperin, &MainForm::lblExpHesperin,   &MainForm::lblGrowthHesperin, &MainForm::lblCostHesperin},
-     Colours::Hesperin},
+     &ColourTable::Hesperin},
     {&MainForm::lblValuesA,
      {&MainForm::FramePowerA,     &MainForm::FrameExperienceA, &MainForm::FrameGrowthA,      &MainForm::FrameCostA},
      {&MainForm::lblPowerAverage, &MainForm::lblExpAverage,    &MainForm::lblGrowthAverage,  &MainForm::lblCostAverage},
-     Colours::Average},
+     &ColourTable::Average},
 };
 
 constexpr Group AlternativeMethod[] = {
     {&MainForm::lblValuesS,
      {&MainForm::FramePowerS, &MainForm::FrameExperienceS, &MainForm::FrameGrowthS, &MainForm::FrameCostS},
      {&MainForm::lblPowerS,   &MainForm::lblExpS,          &MainForm::lblGrowthS,   &MainForm::lblCostS},
-     Colours::Alternative},
+     &ColourTable::Alternative},
     {&MainForm::lblValuesD,
      {&MainForm::FramePowerD, &MainForm::FrameExperienceD, &MainForm::FrameGrowthD, &MainForm::FrameCostD},
      {&MainForm::lblPowerD,   &MainForm::lblExpD,          &MainForm::lblGrowthD,   &MainForm::lblCostD},
-     Colours::Alternative},
+     &ColourTable::Alternative},
 };
 // clang-format on
 
@@ -59,7 +59,7 @@ constexpr int PanelMargin = 7;
 void BuildGroup(MainForm& form, FrameView& panel, const Group& group, int top) {
     new LabelView(form.*group.heading, &panel,
                   {PanelMargin, top, panel.width() - 2 * PanelMargin, HeadingHeight}, HeadingFace(),
-                  group.ink, Qt::AlignCenter);
+                  group.colour, Qt::AlignCenter);
     const int width = (panel.width() - 2 * PanelMargin - FrameGap) / 2;
     for (int place = 0; place < 4; ++place) {
         const QRect rect(PanelMargin + (place % 2) * (width + FrameGap),
@@ -67,7 +67,7 @@ void BuildGroup(MainForm& form, FrameView& panel, const Group& group, int top) {
                          FigureHeight);
         auto* frame = new FrameView(form.*group.frames[place], &panel, CaptionFace(), rect);
         new LabelView(form.*group.figures[place], frame, {4, 15, width - 8, FigureHeight - 17},
-                      FigureFace(), group.ink, Qt::AlignCenter);
+                      FigureFace(), group.colour, Qt::AlignCenter);
     }
 }
 
