@@ -115,9 +115,9 @@ TEST(FileCommands, SaveAsksBeforeItReplaces) {
         const char* question;
         QStringList buttons;
     } cases[] = {{English, nullptr, false, "already exists", {"&Yes", "&No"}},
-                 {English, "mnuRussian", true, "уже существует", {"&Да", "&Нет"}},
-                 {Russian, nullptr, false, "уже существует", {"&Да", "&Нет"}},
-                 {Russian, "mnuEnglish", true, "already exists", {"&Yes", "&No"}}};
+                 {Russian, nullptr, true, "уже существует", {"&Да", "&Нет"}},
+                 {Russian, "mnuEnglish", false, "already exists", {"&Yes", "&No"}},
+                 {English, "mnuRussian", true, "уже существует", {"&Да", "&Нет"}}};
     for (const auto& row : cases) {
         WindowInUse use(row.start);
         if (row.change != nullptr)
