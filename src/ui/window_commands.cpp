@@ -2,8 +2,16 @@
 
 #include "localisation/language_file.h"
 #include "localisation/string_tables.h"
+#include "platform/setting_file.h"
 
 namespace Hesperin {
+
+namespace {
+
+constexpr QLatin1String ContrastFile("contrast.ini");
+constexpr const char* HighContrast = "HIGH";
+
+} // namespace
 
 bool ConfirmQuit(Program& program) {
     const SharedState& state = program.state;
@@ -40,6 +48,17 @@ void mnuCalculator_Click(Program& program) {
         if (program.platform.StartProgram(name))
             return;
     program.ShowStatus(Fill(program.state.MsgNoCalculator, {names.join(QLatin1String(", "))}));
+}
+
+void mnuHighContrast_Click(Program& program) {
+    MenuEntry& entry = program.form.mnuHighContrast;
+    entry.SetChecked(!entry.Checked());
+    SaveSetting(program.platform.Places(), ContrastFile, entry.Checked() ? HighContrast : "GIVEN");
+}
+
+void RestoreHighContrast(Program& program) {
+    program.form.mnuHighContrast.SetChecked(ReadSetting(program.platform.Places(), ContrastFile) ==
+                                            QByteArray(HighContrast));
 }
 
 void Abilities_RightClick(Program& program, std::int16_t index) {

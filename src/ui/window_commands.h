@@ -24,6 +24,12 @@ void mnuAlternativeMethod_Click(Program& program);
 /// starts.
 void mnuCalculator_Click(Program& program);
 
+/// Has the window show all with high contrast, or as given, and remembers it.
+void mnuHighContrast_Click(Program& program);
+
+/// For the start of a window: sets the check mark of mnuHighContrast as it was left the last time.
+void RestoreHighContrast(Program& program);
+
 /// A right click on the ability box `index`, 1 to 174: locks the main window and opens the
 /// ability's information window. The tick stays as it is.
 void Abilities_RightClick(Program& program, std::int16_t index);

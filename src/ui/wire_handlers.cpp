@@ -31,6 +31,7 @@ constexpr Wire<MenuEntry> MenuWires[] = {
     {&MainForm::mnuGerman, mnuGerman_Click},
     {&MainForm::mnuAlternativeMethod, mnuAlternativeMethod_Click},
     {&MainForm::mnuCalculator, mnuCalculator_Click},
+    {&MainForm::mnuHighContrast, mnuHighContrast_Click},
     {&MainForm::mnuAbout, mnuAbout_Click},
 };
 

@@ -79,7 +79,7 @@ AbilityWindow::AbilityWindow(Program& owner, QWidget* mainWindow)
 
 void AbilityWindow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setPen(QColor(Colours::Line));
+    painter.setPen(QColor(Colours().Line));
     painter.drawLine(Pixels(120), Pixels(840), Pixels(10680), Pixels(840));
 }
 

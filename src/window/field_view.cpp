@@ -1,7 +1,6 @@
 #include "window/field_view.h"
 
 #include "window/faces.h"
-#include "window/palette.h"
 
 #include <QDragEnterEvent>
 #include <QInputMethodEvent>
@@ -24,10 +23,10 @@ bool IsForAWhile(Qt::FocusReason reason) {
 } // namespace
 
 FieldView::FieldView(TextField& field, QWidget* parent, const QRect& place, const QFont& fieldFace,
-                     QRgb ink)
-    : View(field, parent), face(fieldFace) {
+                     Colour textColour)
+    : View(field, parent), face(fieldFace), colour(textColour) {
     setGeometry(place);
-    setPalette(InkPalette(ink));
+    setPalette(TextPalette(OutlinedPalette(), colour));
     setFont(face);
     connect(this, &QLineEdit::textEdited, this,
             [this](const QString& text) { control.SetText(text); });
@@ -75,6 +74,12 @@ void FieldView::mouseReleaseEvent(QMouseEvent* event) {
     QLineEdit::mouseReleaseEvent(event);
     if (std::exchange(selectsOnRelease, false) && !hasSelectedText())
         selectAll();
+}
+
+bool FieldView::event(QEvent* event) {
+    if (event->type() == QEvent::ApplicationPaletteChange)
+        setPalette(TextPalette(OutlinedPalette(), colour));
+    return QLineEdit::event(event);
 }
 
 void FieldView::keyPressEvent(QKeyEvent* event) {

@@ -4,7 +4,9 @@
 #include "localisation/ability_texts.h"
 #include "ui/window_commands.h"
 #include "window/button_row.h"
+#include "window/palette.h"
 #include "window/tab_view.h"
+#include "window/toolkit_words.h"
 #include "window/window_fit.h"
 
 #include <QApplication>
@@ -30,6 +32,10 @@ QString DraggedFile(const QMimeData& data) {
                                                                : QString();
 }
 
+void FollowContrast(bool high) {
+    UseColours(high ? HighContrastColours : GivenColours);
+}
+
 /// Lies there as plain pixels: any other format would load the readers of all that the system has.
 QIcon WindowIcon() {
     constexpr int side = 64;
@@ -46,6 +52,10 @@ MainWindow::MainWindow(Program& owner, QSize available) : program(owner) {
     setObjectName(form.frmMain.Name());
     setAcceptDrops(true);
     menus = BuildMenus(form, *menuBar());
+    RestoreHighContrast(program);
+    FollowContrast(form.mnuHighContrast.Checked());
+    connect(findChild<QAction*>(form.mnuHighContrast.Name()), &QAction::toggled, this,
+            FollowContrast);
     opening.setSingleShot(true);
     pictured.setSingleShot(true);
     connect(&pictured, &QTimer::timeout, this, [this] { FinishStart(); });
@@ -90,6 +100,9 @@ bool MainWindow::event(QEvent* event) {
 
 void MainWindow::FinishStart() {
     QApplication::setWindowIcon(WindowIcon());
+    const auto* russian = findChild<QAction*>(program.form.mnuRussian.Name());
+    connect(russian, &QAction::toggled, this, HaveToolkitSpeakRussian);
+    HaveToolkitSpeakRussian(russian->isChecked());
     LoadAbilityTexts(program);
     BuildShortcuts();
 }

@@ -35,6 +35,7 @@ const std::vector<MenuPlan>& Plan() {
             {&MainForm::mnuLanguage,          u"LЯ"},
             {&MainForm::mnuAlternativeMethod, u"AА"},
             {&MainForm::mnuCalculator,        u"CК"},
+            {&MainForm::mnuHighContrast,      u"HВ"},
         }},
         {{&MainForm::mnuInfo, u"IС"}, {
             {&MainForm::mnuHelp,              u"HП"},

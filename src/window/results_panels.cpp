@@ -18,7 +18,7 @@ struct Group {
     Label MainForm::*heading;
     Frame MainForm::*frames[4];
     Label MainForm::*figures[4];
-    QRgb ink;
+    Colour colour;
     QString SharedState::*figureName;
 };
 
@@ -27,26 +27,26 @@ constexpr Group MainMethod[] = {
     {&MainForm::lblValues,
      {&MainForm::FramePower,      &MainForm::FrameExperience,  &MainForm::FrameGrowth,       &MainForm::FrameCost},
      {&MainForm::lblPowerRolvane, &MainForm::lblExpRolvane,    &MainForm::lblGrowthRolvane,  &MainForm::lblCostRolvane},
-     Colours::Rolvane, &SharedState::FigureByRolvane},
+     &ColourTable::Rolvane, &SharedState::FigureByRolvane},
     {&MainForm::lblValuesX,
      {&MainForm::FramePowerX,      &MainForm::FrameExperienceX, &MainForm::FrameGrowthX,      &MainForm::FrameCostX},
      {&MainForm::lblPowerHesperin, &MainForm::lblExpHesperin,   &MainForm::lblGrowthHesperin, &MainForm::lblCostHesperin},
-     Colours::Hesperin, &SharedState::FigureByHesperin},
+     &ColourTable::Hesperin, &SharedState::FigureByHesperin},
     {&MainForm::lblValuesA,
      {&MainForm::FramePowerA,     &MainForm::FrameExperienceA, &MainForm::FrameGrowthA,      &MainForm::FrameCostA},
      {&MainForm::lblPowerAverage, &MainForm::lblExpAverage,    &MainForm::lblGrowthAverage,  &MainForm::lblCostAverage},
-     Colours::Average, &SharedState::FigureOnAverage},
+     &ColourTable::Average, &SharedState::FigureOnAverage},
 };
 
 constexpr Group AlternativeMethod[] = {
     {&MainForm::lblValuesS,
      {&MainForm::FramePowerS, &MainForm::FrameExperienceS, &MainForm::FrameGrowthS, &MainForm::FrameCostS},
      {&MainForm::lblPowerS,   &MainForm::lblExpS,          &MainForm::lblGrowthS,   &MainForm::lblCostS},
-     Colours::Alternative, &SharedState::FigureByQuintarell},
+     &ColourTable::Alternative, &SharedState::FigureByQuintarell},
     {&MainForm::lblValuesD,
      {&MainForm::FramePowerD, &MainForm::FrameExperienceD, &MainForm::FrameGrowthD, &MainForm::FrameCostD},
      {&MainForm::lblPowerD,   &MainForm::lblExpD,          &MainForm::lblGrowthD,   &MainForm::lblCostD},
-     Colours::Alternative, &SharedState::FigureByBravik},
+     &ColourTable::Alternative, &SharedState::FigureByBravik},
 };
 // clang-format on
 
@@ -61,10 +61,10 @@ constexpr int PanelMargin = 7;
 /// A result; its accessible name tells what it is, by which method, and the figure.
 class FigureView : public LabelView, public NamedInFrame {
 public:
-    FigureView(Label& figure, FrameView& frame, const QSize& frameSize, QRgb ink,
+    FigureView(Label& figure, FrameView& frame, const QSize& frameSize, Colour colour,
                const QString& figureName)
         : LabelView(figure, &frame, {4, 15, frameSize.width() - 8, frameSize.height() - 17},
-                    FigureFace(), ink, Qt::AlignCenter),
+                    FigureFace(), colour, Qt::AlignCenter),
           nameText(figureName) {
         frame.NameFields();
     }
@@ -87,14 +87,14 @@ void BuildGroup(Program& program, FrameView& panel, const Group& group, int top)
     MainForm& form = program.form;
     new LabelView(form.*group.heading, &panel,
                   {PanelMargin, top, panel.width() - 2 * PanelMargin, HeadingHeight}, HeadingFace(),
-                  group.ink, Qt::AlignCenter);
+                  group.colour, Qt::AlignCenter);
     const int width = (panel.width() - 2 * PanelMargin - FrameGap) / 2;
     for (int place = 0; place < 4; ++place) {
         const QRect rect(PanelMargin + (place % 2) * (width + FrameGap),
                          top + HeadingHeight + (place / 2) * (FigureHeight + FrameGap), width,
                          FigureHeight);
         auto* frame = new FrameView(form.*group.frames[place], &panel, CaptionFace(), rect);
-        new FigureView(form.*group.figures[place], *frame, rect.size(), group.ink,
+        new FigureView(form.*group.figures[place], *frame, rect.size(), group.colour,
                        program.state.*group.figureName);
     }
 }

@@ -1,4 +1,5 @@
 #include "support/test_program.h"
+#include "ui/form_load.h"
 #include "ui/window_commands.h"
 
 #include <gtest/gtest.h>
@@ -103,6 +104,20 @@ TEST(Calculator, TriesTheNamesInOrderUntilOneStarts) {
         EXPECT_EQ(test.platform.status, row.status);
         EXPECT_EQ(test.form.frmMain.Enabled(), row.status.isEmpty());
         EXPECT_TRUE(test.platform.boxes.empty());
+    }
+}
+
+TEST(HighContrast, IsRememberedByTheWindowAlone) {
+    TestProgram test;
+    for (const bool on : {true, false}) {
+        test.form.mnuHighContrast.Click();
+        EXPECT_EQ(test.form.mnuHighContrast.Checked(), on);
+        EXPECT_EQ(ReadAll(test.Path("contrast.ini")), on ? "HIGH" : "GIVEN");
+        Program next(test.platform);
+        Form_Load(next, {English, false});
+        EXPECT_FALSE(next.form.mnuHighContrast.Checked());
+        RestoreHighContrast(next);
+        EXPECT_EQ(next.form.mnuHighContrast.Checked(), on);
     }
 }
 
