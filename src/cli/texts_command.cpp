@@ -100,7 +100,7 @@ std::optional<FileObstacle> Keep(const QString& folder, const QString& file,
     if (const auto* same = std::get_if<QByteArray>(&old); same != nullptr && *same == bytes)
         return std::nullopt;
     QDir().mkpath(folder);
-    return SaveFile(path, bytes);
+    return SaveFile(path, bytes).obstacle;
 }
 
 /// Tells of each text where it comes from; gives one for each.

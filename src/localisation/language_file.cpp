@@ -46,12 +46,12 @@ std::uint8_t ReadLanguageFile(const ProgramPlaces& places) {
 bool WriteLanguageFile(const ProgramPlaces& places, std::uint8_t languageId) {
     const QByteArray code = Codes.at(languageId);
     const QString users = FileIn(places.settingsFolder);
-    if (!places.installedForAll && !SaveFile(FileIn(places.programFolder), code)) {
+    if (!places.installedForAll && !SaveFile(FileIn(places.programFolder), code).obstacle) {
         QFile::remove(users); // or it would win at the next start
         return true;
     }
     QDir().mkpath(places.settingsFolder);
-    return !SaveFile(users, code);
+    return !SaveFile(users, code).obstacle;
 }
 
 } // namespace Hesperin

@@ -39,7 +39,8 @@ void mnuCalculator_Click(Program& program) {
     for (const QString& name : names)
         if (program.platform.StartProgram(name))
             return;
-    program.ShowStatus(Fill(program.state.MsgNoCalculator, {names.join(QLatin1String(", "))}));
+    program.Warn(BoxIcon::Critical,
+                 Fill(program.state.MsgNoCalculator, {names.join(QLatin1String(", "))}));
 }
 
 void Abilities_RightClick(Program& program, std::int16_t index) {
