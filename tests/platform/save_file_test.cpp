@@ -4,6 +4,8 @@
 #include "platform/read_file.h"
 #include "support/without_rights.h"
 
+#include <cerrno>
+
 #ifdef Q_OS_WIN
 #include <windows.h>
 #else
