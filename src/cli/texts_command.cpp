@@ -134,7 +134,7 @@ std::optional<FileObstacle> Keep(const QString& folder, const QString& file,
     if (const auto* same = std::get_if<QByteArray>(&old); same != nullptr && *same == bytes)
         return std::nullopt;
     QDir().mkpath(folder);
-    return SaveFile(path, bytes);
+    return SaveFile(path, bytes).obstacle;
 }
 
 /// The texts in their own places, and those that are missing there where the game's table says.

@@ -3,6 +3,7 @@
 #include "catalogues/resets.h"
 #include "creature_files/document.h"
 #include "creature_files/reader.h"
+#include "creature_files/scanning.h"
 #include "creature_files/writer.h"
 #include "engine/calculate.h"
 #include "engine/clear_creature.h"
@@ -11,6 +12,7 @@
 #include "localisation/obstacle_text.h"
 #include "localisation/string_tables.h"
 #include "platform/save_file.h"
+#include "platform/shortened.h"
 
 namespace Hesperin {
 
@@ -50,6 +52,35 @@ void TakeCreatureNumber(MainForm& form) {
         TrimBlanks(form.ComDialog.FileName).right(numberAndExtension).left(numberLength);
     if (TextToNumber(number) > lastOfTheGame)
         form.txtIDC.SetText(number);
+}
+
+/// Why the composed text must not replace a file: the reader refuses it, or finds another name in
+/// it. Empty: neither. Plain values can't be misread, and are most of all; reading them again would
+/// make a save half as long again.
+QString ReadBackFault(const SharedState& state, const CreatureText& composed) {
+    constexpr qsizetype emptyElements = 100; // what they may grow by
+    if (composed.plain && composed.text.size() < LongestCreatureText - emptyElements)
+        return {};
+    const auto document = NormaliseCreature(CreatureFileBytes(composed.text));
+    if (const auto* problem = std::get_if<OpenProblem>(&document))
+        return OpenProblemReason(state, *problem);
+    ControlRegistry registry;
+    TextBuffer buffer(registry, "composed");
+    buffer.SetText(std::get<QString>(document));
+    const QString name = CreatureNameIn(buffer).value_or(QString());
+    return name == state.CreatureName ? QString() : Fill(state.MsgNameChanges, {Shortened(name)});
+}
+
+/// Writes the composed text. Gives why it could not, or empty; `notes` is for a save that stands.
+QString WriteComposed(const SharedState& state, const CreatureText& composed, const QString& path,
+                      QString& notes) {
+    if (QString fault = ReadBackFault(state, composed); !fault.isEmpty())
+        return fault;
+    const SaveOutcome outcome = SaveFile(path, CreatureFileBytes(composed.text));
+    if (outcome.obstacle)
+        return ObstacleText(state, *outcome.obstacle);
+    notes = NotesText(state, outcome.notes);
+    return {};
 }
 
 } // namespace
@@ -125,13 +156,17 @@ void mnuSave_Click(Program& program) {
         return;
     }
     state.CreatureName = name;
-    form.RTBData.SetText(BuildCreatureText(program, name));
-    const auto obstacle = SaveFile(dialog.FileName, CreatureFileBytes(form.RTBData.Text()));
+    const CreatureText composed = BuildCreatureText(program, name);
+    form.RTBData.SetText(composed.text);
+    QString notes;
+    const QString fault = WriteComposed(state, composed, dialog.FileName, notes);
     ShowFilePage(form);
-    if (!obstacle)
-        return;
-    program.failure = Fill(state.MsgSaveFailed, {dialog.FileName, ObstacleText(state, *obstacle)});
-    program.ShowStatus(program.failure);
+    if (!fault.isEmpty()) {
+        program.failure = Fill(state.MsgSaveFailed, {dialog.FileName, fault});
+        program.Warn(BoxIcon::Critical, program.failure);
+    } else if (!notes.isEmpty()) {
+        program.Warn(BoxIcon::Information, Fill(state.MsgSavedBut, {dialog.FileName, notes}));
+    }
 }
 
 } // namespace Hesperin

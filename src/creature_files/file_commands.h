@@ -22,8 +22,10 @@ bool OpenCreatureFile(Program& program, const QString& path);
 void FillFromDocument(Program& program, const QString& document, const QString& path);
 
 /// Asks for a place and saves the creature there, the whole file or nothing; page 4 shows the text
-/// afterwards. Without a name: MsgEnterName (critical) and nothing else. A failure is told by
-/// ShowStatus (MsgSaveFailed). A cancelled dialog leaves the window as it was.
+/// afterwards. Without a name: MsgEnterName (critical) and nothing else. What could not be opened
+/// again, or not with this name, isn't written. A failure is told by a critical box
+/// (MsgSaveFailed), what the user should know of a save that stands by an information box
+/// (MsgSavedBut), both at the end of the command. A cancelled dialog leaves the window as it was.
 void mnuSave_Click(Program& program);
 
 } // namespace Hesperin

@@ -228,11 +228,7 @@ private:
     }
 
     void ReadName() {
-        const bool marked = SharedMarkText(text) != QLatin1String("0");
-        const auto name =
-            HrefLeaf(text, u"MonsterShared href=",
-                     marked ? u".(AdvMapMonsterShared).xdb#xpointer(/AdvMapMonsterShared)"
-                            : u".xdb#xpointer(/AdvMapMonsterShared)");
+        const auto name = CreatureNameIn(text);
         if (!name) {
             missing.append(QStringLiteral("MonsterShared"));
             return;

@@ -21,6 +21,20 @@ constexpr std::array<int, 5> UnwrittenAbilities{Ability::Caster, Ability::FleshA
 /// A creature with every box ticked comes near it.
 constexpr qsizetype LongestCreature = 24000;
 
+/// Whether XML has nothing to escape in the value and no mark of a reference can be in it.
+bool IsPlain(QStringView value) {
+    return std::all_of(value.begin(), value.end(), [](QChar character) {
+        return character.isLetterOrNumber() || character == u'_' || character == u'-' ||
+               character == u'.' || character == u' ';
+    });
+}
+
+/// A value as XML spells it between two tags.
+QString Escaped(QStringView value) {
+    QString text = value.toString();
+    return text.replace(u'&', QLatin1String("&amp;")).replace(u'<', QLatin1String("&lt;"));
+}
+
 /// Collects lines, each with its number of tabs.
 class Lines {
 public:
@@ -37,14 +51,30 @@ public:
     /// <name>value</name>
     void Element(int tabs, const char* name, QStringView value, const char* prefix = "") {
         Add(tabs, QLatin1String("<"), QLatin1String(name), QLatin1String(">"),
-            QLatin1String(prefix), value, QLatin1String("</"), QLatin1String(name),
-            QLatin1String(">"));
+            QLatin1String(prefix));
+        if (IsPlain(value)) {
+            text += value;
+        } else {
+            plain = false;
+            text += Escaped(value);
+        }
+        text.append(QLatin1String("</")).append(QLatin1String(name)).append(u'>');
     }
 
-    QString Take() { return std::move(text); }
+    /// <name href="…creature…"/>
+    void Reference(const char* name, const char* before, const QString& creature,
+                   const char* behind) {
+        plain = plain && IsPlain(creature);
+        Add(1, QLatin1String("<"), QLatin1String(name), QLatin1String(" href=\""),
+            QLatin1String(before), Escaped(creature).replace(u'"', QLatin1String("&quot;")),
+            QLatin1String(behind), QLatin1String("\"/>"));
+    }
+
+    CreatureText Take() { return {std::move(text), plain}; }
 
 private:
     QString text;
+    bool plain = true;
 };
 
 QString ZeroIfEmpty(const QString& text) {
@@ -106,7 +136,7 @@ void AddCost(Lines& lines, const MainForm& form) {
 
 } // namespace
 
-QString BuildCreatureText(const Program& program, const QString& creatureName) {
+CreatureText BuildCreatureText(const Program& program, const QString& creatureName) {
     const MainForm& form = program.form;
     const SharedState& state = program.state;
     const auto ticked = [&form](int ability) { return form.Abilities(ability).Ticked(); };
@@ -145,13 +175,13 @@ QString BuildCreatureText(const Program& program, const QString& creatureName) {
                   WholeText(AverageOf(state.GrowthHesperin, state.GrowthRolvane)));
     AddCost(lines, form);
     lines.Element(1, "SubjectOfRandomGeneration", QStringLiteral("true"));
-    lines.Add(1, QLatin1String("<MonsterShared href=\"/MapObjects/Neutral/"), creatureName,
-              QLatin1String(".(AdvMapMonsterShared).xdb#xpointer(/AdvMapMonsterShared)\"/>"));
+    lines.Reference("MonsterShared", "/MapObjects/Neutral/", creatureName,
+                    ".(AdvMapMonsterShared).xdb#xpointer(/AdvMapMonsterShared)");
     lines.Element(1, "CombatSize", QString::number(ticked(Ability::LargeCreature) ? 2 : 1));
     lines.Add(1, QLatin1String("<PatternAttack/>"));
     lines.Add(1, QLatin1String("<flybySequence/>"));
-    lines.Add(1, QLatin1String("<Visual href=\"/GameMechanics/CreatureVisual/Creatures/Neutrals/"),
-              creatureName, QLatin1String(".xdb#xpointer(/CreatureVisual)\"/>"));
+    lines.Reference("Visual", "/GameMechanics/CreatureVisual/Creatures/Neutrals/", creatureName,
+                    ".xdb#xpointer(/CreatureVisual)");
     lines.Element(1, "Range", form.ComboDiapazon.Text());
     lines.Element(1, "BaseCreature", QStringLiteral("CREATURE_UNKNOWN"));
     lines.Add(1, QLatin1String("<Upgrades/>"));

@@ -133,6 +133,11 @@ struct SharedState {
     QString MsgElementsMissing;
     QString MsgNumbersLimited;
     QString MsgSaveFailed;
+    QString MsgNameChanges;
+    QString MsgSavedBut;
+    QString MsgOtherNamesKeepOld;
+    QString MsgOwnerNotKept;
+    QString MsgMayNotLast;
     QString MsgNoCalculator;
     QString MsgLockOfOtherHost;
     QString MsgYes;

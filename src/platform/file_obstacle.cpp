@@ -28,15 +28,28 @@ constexpr SystemCode Codes[] = {
 };
 #else
 constexpr SystemCode Codes[] = {
-    {ENOENT, Kind::Missing},   {ENOTDIR, Kind::FolderMissing},
-    {EISDIR, Kind::IsFolder},  {EACCES, Kind::NotAllowed},
-    {EPERM, Kind::NotAllowed}, {EROFS, Kind::DiskReadOnly},
-    {ETXTBSY, Kind::InUse},    {EBUSY, Kind::InUse},
-    {ENOSPC, Kind::DiskFull},  {ENAMETOOLONG, Kind::NameTooLong},
+    {ENOENT, Kind::Missing},
+    {ENOTDIR, Kind::FolderMissing},
+    {EISDIR, Kind::IsFolder},
+    {EACCES, Kind::NotAllowed},
+    {EPERM, Kind::NotAllowed},
+    {EROFS, Kind::DiskReadOnly},
+    {ETXTBSY, Kind::InUse},
+    {EBUSY, Kind::InUse},
+    {ENOSPC, Kind::DiskFull},
+    {EDQUOT, Kind::DiskFull},
+    {ENAMETOOLONG, Kind::NameTooLong},
 };
 #endif
 
 } // namespace
+
+FileObstacle ObstacleOf(int systemCode) {
+    for (const SystemCode& row : Codes)
+        if (row.code == systemCode)
+            return {row.kind, {}};
+    return {Kind::Other, qt_error_string(systemCode)};
+}
 
 FileObstacle ObstacleOf(const QString& systemWords) {
     // The toolkit keeps the words of the error and not its number.

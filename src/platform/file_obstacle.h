@@ -23,7 +23,11 @@ struct FileObstacle {
     QString detail;
 };
 
-/// The obstacle behind a failed operation, from the words that the system gave for it.
+/// The obstacle behind the system's number of an error.
+FileObstacle ObstacleOf(int systemCode);
+
+/// The obstacle behind a failed operation of the toolkit, from the words that the system gave for
+/// it.
 FileObstacle ObstacleOf(const QString& systemWords);
 
 } // namespace Hesperin

@@ -1,56 +1,72 @@
 #include "platform/save_file.h"
 
-#include <QDir>
+#include "platform/replacement_file.h"
+
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace Hesperin {
 
 namespace {
 
-/// Opens `file` for writing beside its place. Gives the obstacle when that can't be done.
-std::optional<FileObstacle> Open(QSaveFile& file) {
-    const QFileInfo place(file.fileName());
-    if (place.exists()) {
-        if (place.isDir())
-            return FileObstacle{FileObstacle::Kind::IsFolder, {}};
-        if (!place.isFile()) // the finished file would be moved over a device
-            return FileObstacle{FileObstacle::Kind::NotAFile, {}};
-        if (!place.isWritable()) // and the new one over a file that its owner protects
-            return FileObstacle{FileObstacle::Kind::NotAllowed, {}};
-    }
-    if (file.open(QIODevice::WriteOnly))
+using Kind = FileObstacle::Kind;
+
+/// The place that symbolic links lead to, which need not exist yet.
+QString BehindLinks(const QString& path) {
+    constexpr int longestChain = 128;
+    QFileInfo place(path);
+    for (int links = 0; place.isSymLink() && links < longestChain; ++links)
+        place.setFile(place.symLinkTarget());
+    return place.filePath();
+}
+
+/// Makes the empty file beside `target`. Gives the obstacle when that can't be done.
+std::optional<FileObstacle> Create(ReplacementFile& file, const QString& target) {
+    const QFileInfo place(target);
+    if (place.isDir())
+        return FileObstacle{Kind::IsFolder, {}};
+    if (place.exists() && !place.isFile()) // the finished file would be moved over a device
+        return FileObstacle{Kind::NotAFile, {}};
+    if (place.fileName().isEmpty())
+        return FileObstacle{Kind::FolderMissing, {}};
+    if (const int error = file.Refusal(); error != 0)
+        return ObstacleOf(error);
+    const int error = file.Create();
+    if (error == 0)
         return std::nullopt;
-    FileObstacle obstacle = ObstacleOf(file.errorString());
-    if (obstacle.kind == FileObstacle::Kind::Missing) // a new file always is
-        obstacle.kind = FileObstacle::Kind::FolderMissing;
+    FileObstacle obstacle = ObstacleOf(error);
+    if (obstacle.kind == Kind::Missing) // a new file always is
+        obstacle.kind = Kind::FolderMissing;
     return obstacle;
 }
 
 } // namespace
 
-std::optional<FileObstacle> SaveFile(const QString& path, const QByteArray& bytes) {
-    QSaveFile file(path);
-    if (auto obstacle = Open(file))
-        return obstacle;
-    // commit() alone doesn't notice that its last write failed: on a full disk it would replace the
-    // old file by half of the new one.
-    if (file.write(bytes) == bytes.size() && file.flush() && file.commit())
-        return std::nullopt;
-    const FileObstacle obstacle = ObstacleOf(file.errorString());
-    // Windows denies to move over a file that is held, and tells the reason only at its opening.
-    QFile old(path);
-    if (obstacle.kind == FileObstacle::Kind::NotAllowed && old.exists() &&
-        !old.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
-        return ObstacleOf(old.errorString());
-    return obstacle;
+SaveOutcome SaveFile(const QString& path, const QByteArray& bytes) {
+    const QString target = BehindLinks(path);
+    ReplacementFile file(target);
+    if (auto obstacle = Create(file, target))
+        return {std::move(obstacle), {}};
+    SaveOutcome outcome;
+    if (file.OldHasOtherNames())
+        outcome.notes.push_back(SaveNote::OtherNamesKeepOld);
+    if (!file.KeepOwnerAndRights())
+        outcome.notes.push_back(SaveNote::OwnerNotKept);
+    int error = file.Write(bytes);
+    if (error == 0)
+        error = file.Sync();
+    if (error == 0)
+        error = file.TakePlace();
+    if (error != 0)
+        return {ObstacleOf(error), {}};
+    if (file.SyncFolder() != 0)
+        outcome.notes.push_back(SaveNote::MayNotLast);
+    return outcome;
 }
 
 std::optional<FileObstacle> SaveObstacle(const QString& path) {
-    QSaveFile file(path);
-    auto obstacle = Open(file);
-    file.cancelWriting();
-    return obstacle;
+    const QString target = BehindLinks(path);
+    ReplacementFile file(target);
+    return Create(file, target);
 }
 
 } // namespace Hesperin

@@ -28,12 +28,12 @@ std::optional<QByteArray> ReadSetting(const ProgramPlaces& places, const QString
 
 bool SaveSetting(const ProgramPlaces& places, const QString& name, const QByteArray& value) {
     const QString users = places.settingsFolder + u'/' + name;
-    if (!places.installedForAll && !SaveFile(places.programFolder + u'/' + name, value)) {
+    if (!places.installedForAll && !SaveFile(places.programFolder + u'/' + name, value).obstacle) {
         QFile::remove(users); // or it would win at the next start
         return true;
     }
     QDir().mkpath(places.settingsFolder);
-    return !SaveFile(users, value);
+    return !SaveFile(users, value).obstacle;
 }
 
 } // namespace Hesperin

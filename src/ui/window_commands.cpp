@@ -47,7 +47,8 @@ void mnuCalculator_Click(Program& program) {
     for (const QString& name : names)
         if (program.platform.StartProgram(name))
             return;
-    program.ShowStatus(Fill(program.state.MsgNoCalculator, {names.join(QLatin1String(", "))}));
+    program.Warn(BoxIcon::Critical,
+                 Fill(program.state.MsgNoCalculator, {names.join(QLatin1String(", "))}));
 }
 
 void mnuHighContrast_Click(Program& program) {

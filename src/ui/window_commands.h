@@ -20,8 +20,8 @@ void mnuAbout_Click(Program& program);
 /// Shows or hides the panel of the alternative method, with a check mark while it is shown.
 void mnuAlternativeMethod_Click(Program& program);
 
-/// Starts the system's calculator and doesn't wait for it; ShowStatus with MsgNoCalculator if none
-/// starts.
+/// Starts the system's calculator and doesn't wait for it; a critical box with MsgNoCalculator if
+/// none starts.
 void mnuCalculator_Click(Program& program);
 
 /// Has the window show all with high contrast, or as given, and remembers it.

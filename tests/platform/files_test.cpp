@@ -1,46 +1,18 @@
+#include "platform/files.h"
+
 #include "platform/code_page.h"
 #include "platform/path_lookup.h"
 #include "platform/read_file.h"
-#include "platform/save_file.h"
 #include "platform/single_instance.h"
 #include "platform/text_file.h"
-#include "support/test_program.h"
-
-#include <gtest/gtest.h>
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QDir>
-#include <QFile>
 #include <QProcess>
-
-#ifdef Q_OS_WIN
-#include <windows.h>
-#endif
 
 namespace Hesperin {
 
 namespace {
-
-/// A folder of its own for one test.
-class Files : public ::testing::Test {
-protected:
-    QString Path(const QString& name) const { return folder.filePath(name); }
-
-    QString Write(const QString& name, const QByteArray& bytes) const {
-        QDir().mkpath(QFileInfo(Path(name)).path());
-        QFile file(Path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-        return Path(name);
-    }
-
-    QStringList Names() const {
-        return QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden);
-    }
-
-    QTemporaryDir folder;
-};
 
 using ReadFileTest = Files;
 
@@ -76,53 +48,6 @@ TEST_F(ReadFileTest, TellsWhyAFileCannotBeRead) {
         EXPECT_EQ(static_cast<int>(std::get<FileObstacle>(content).kind), static_cast<int>(test.kind));
     }
 }
-
-using SaveFileTest = Files;
-
-TEST_F(SaveFileTest, WritesTheWholeContentAndNothingElse) {
-    EXPECT_FALSE(SaveFile(Path("new"), "first\n"));
-    EXPECT_EQ(ReadAll(Path("new")), "first\n");
-    EXPECT_FALSE(SaveFile(Path("new"), "2")) << "over a longer old one";
-    EXPECT_EQ(ReadAll(Path("new")), "2");
-    EXPECT_EQ(Names(), QStringList{"new"}) << "no temporary file stays";
-}
-
-TEST_F(SaveFileTest, LeavesNothingBehindWhereItCannotWrite) {
-    EXPECT_TRUE(SaveFile(Path("missing/new"), "x"));
-    EXPECT_EQ(Names(), QStringList());
-
-    Write("taken/inside", "old");
-    EXPECT_TRUE(SaveFile(Path("taken"), "x")) << "a folder stands there";
-    EXPECT_EQ(ReadAll(Path("taken/inside")), "old");
-    EXPECT_EQ(Names(), QStringList{"taken"});
-    EXPECT_TRUE(SaveFile({}, "x"));
-}
-
-TEST_F(SaveFileTest, WritesThroughASymbolicLink) {
-    const QString target = Write("target", "old");
-    if (!QFile::link(target, Path("link")) || !QFileInfo(Path("link")).isSymLink())
-        GTEST_SKIP() << "no symbolic links here";
-    EXPECT_FALSE(SaveFile(Path("link"), "new"));
-    EXPECT_TRUE(QFileInfo(Path("link")).isSymLink());
-    EXPECT_EQ(ReadAll(target), "new");
-}
-
-#ifdef Q_OS_WIN
-TEST_F(SaveFileTest, TellsThatAnotherProgramHoldsTheFile) {
-    const QString path = Write("held", "old");
-    const HANDLE holder = CreateFileW(QDir::toNativeSeparators(path).toStdWString().c_str(), GENERIC_READ, 0, nullptr,
-                                      OPEN_EXISTING, 0, nullptr);
-    ASSERT_NE(holder, INVALID_HANDLE_VALUE);
-    const auto save = SaveFile(path, "new");
-    const auto read = ReadFile(path, 100);
-    CloseHandle(holder);
-    ASSERT_TRUE(save && std::holds_alternative<FileObstacle>(read));
-    EXPECT_EQ(static_cast<int>(save->kind), static_cast<int>(FileObstacle::Kind::InUse));
-    EXPECT_EQ(static_cast<int>(std::get<FileObstacle>(read).kind), static_cast<int>(FileObstacle::Kind::InUse));
-    EXPECT_EQ(ReadAll(path), "old");
-    EXPECT_EQ(Names(), QStringList{"held"});
-}
-#endif
 
 TEST(DecodeText, RecognisesTheEncoding) {
     const QString dragon = QString::fromUtf8("Дракон");
