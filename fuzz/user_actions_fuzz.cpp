@@ -2,8 +2,11 @@
 #include "fuzz_program.h"
 
 #include "catalogues/links.h"
+#include "creature_files/document.h"
+#include "creature_files/file_commands.h"
 #include "creature_files/writer.h"
 #include "engine/calculate.h"
+#include "engine/numbers.h"
 
 #include <algorithm>
 #include <array>
@@ -17,8 +20,31 @@ constexpr std::array<Button MainForm::*, 5> Buttons{&MainForm::cmdCalc, &MainFor
                                                     &MainForm::cmdResetAll};
 constexpr std::array<MenuEntry MainForm::*, 3> Entries{&MainForm::mnuNew, &MainForm::mnuEnglish,
                                                        &MainForm::mnuRussian};
-constexpr std::array<const char*, 10> Texts{"",   "0",  "1",     "7",   "50",
-                                            "51", "-3", "99999", "2.5", "x1"};
+
+/// What is pasted, past the key filters.
+const QString& Text(std::uint8_t which) {
+    static const std::array<QString, 20> texts{"",
+                                               "0",
+                                               "1",
+                                               "7",
+                                               "50",
+                                               "51",
+                                               "-3",
+                                               "99999",
+                                               "2.5",
+                                               "x1",
+                                               "a & b",
+                                               "<Gold>",
+                                               "\"",
+                                               "&quot;]]>",
+                                               "old/wyrm\t",
+                                               "\x01",
+                                               "ДРАКОН",
+                                               ".xdb#xpointer(/AdvMapMonsterShared)",
+                                               "MonsterShared href=\"/",
+                                               QString(16'000, u'x')};
+    return texts[which % texts.size()];
+}
 
 /// The charge counter, which a change of language zeroes while the ticks stay.
 int ChargesOf(const MainForm& form) {
@@ -72,10 +98,23 @@ void Act(Program& program, std::uint8_t kind, std::uint8_t which, std::uint8_t h
     if (!control->Usable())
         return;
     if (auto* field = dynamic_cast<TextField*>(control))
-        kind % 2 == 0 ? field->SetText(QLatin1String(Texts[how % Texts.size()])) : field->Type(how);
+        kind % 2 == 0 ? field->SetText(Text(how)) : field->Type(how);
     else if (auto* list = dynamic_cast<ComboBox*>(control);
              list != nullptr && !list->Items().isEmpty())
         list->Select(static_cast<std::int16_t>(how % list->Items().size()));
+}
+
+/// What consists of plain values is read as it is written.
+void RequireReadBack(Program& program) {
+    const QString name = ProperCase(program.form.txtNC.Text());
+    const CreatureText composed = BuildCreatureText(program, name);
+    Require(composed.text.endsWith(QLatin1String("</Creature>")), "it can be written");
+    const auto document = NormaliseCreature(CreatureFileBytes(composed.text));
+    if (!composed.plain || composed.text.size() > LongestCreatureText / 2)
+        return;
+    Require(std::holds_alternative<QString>(document), "plain values are accepted");
+    FillFromDocument(program, std::get<QString>(document), {});
+    Require(program.state.CreatureName == name, "and keep the name");
 }
 
 } // namespace
@@ -98,8 +137,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             "the damage is in its range");
     Require(state.PowerRolvane >= 1 && state.AdvisedTier >= 1 && state.AdvisedTier <= 8,
             "the figures are there");
-    Require(BuildCreatureText(fuzzed.program, QStringLiteral("Name"))
-                .endsWith(QLatin1String("</Creature>")),
-            "it can be written");
+    RequireReadBack(fuzzed.program);
     return 0;
 }

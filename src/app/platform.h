@@ -4,6 +4,7 @@
 
 #include "form/file_dialog.h"
 #include "platform/program_places.h"
+#include "platform/single_instance.h"
 
 #include <QStringList>
 
@@ -38,8 +39,8 @@ public:
     /// Opens the status window with these words. It enables the main window again when it closes.
     virtual void ShowStatus(const QString& message) = 0;
 
-    /// Whether another instance of the program runs for this user.
-    virtual bool OtherInstanceRuns() = 0;
+    /// The other instance of the program that runs for this user, if there is one.
+    virtual std::optional<RunningInstance> OtherInstance() = 0;
 
     /// Starts another program and doesn't wait for it. False: it can't be started.
     virtual bool StartProgram(const QString& name) = 0;

@@ -15,7 +15,8 @@ struct Program {
     MainForm form;
     Platform& platform; // outlives the program
 
-    /// Why the last file command could not do its work, as the user was told; empty when it did.
+    /// Why the last file command could not do its work, as the user was told; empty when it did,
+    /// was cancelled, or asked for a name.
     QString failure;
 
     /// A message box with the warning title.

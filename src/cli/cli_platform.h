@@ -25,7 +25,7 @@ public:
     void SetFocus(Control& control) override { focus = control.Name(); }
     void Open(SecondaryWindow) override {}
     void ShowStatus(const QString&) override {}
-    bool OtherInstanceRuns() override { return false; }
+    std::optional<RunningInstance> OtherInstance() override { return std::nullopt; }
     bool StartProgram(const QString&) override { return false; }
     QStringList CalculatorNames() const override { return {}; }
     QString ProgramFolder() const override;

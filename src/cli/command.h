@@ -7,7 +7,7 @@ namespace Hesperin {
 /// Exit codes of the command line.
 enum ExitCode : int {
     AllDone = 0,
-    SomethingFailed = 1, ///< the rest was done
+    SomethingFailed = 1,
     WrongUsage = 2,
 };
 

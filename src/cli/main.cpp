@@ -22,11 +22,10 @@ QString Overview() {
         text += QStringLiteral("  %1  %2\n")
                     .arg(QLatin1String(command->name), -6)
                     .arg(QLatin1String(command->summary));
-    text += QLatin1String(
-        "\nOptions:\n"
-        "  -h, --help     Shows this help, or that of a command.\n"
-        "  -v, --version  Shows the version.\n\n"
-        "Exit code 0: all done; 1: something could not be done, the rest was; 2: wrong usage.");
+    text += QLatin1String("\nOptions:\n"
+                          "  -h, --help     Shows this help, or that of a command.\n"
+                          "  -v, --version  Shows the version.\n\n"
+                          "Exit code 0: all done; 1: something could not be done; 2: wrong usage.");
     return text;
 }
 

@@ -16,16 +16,22 @@ namespace {
 /// Of a script, in bytes: a file that is no script must not fill the memory.
 constexpr qint64 LongestLine = 1 << 20;
 
+const QString KeepGoing = QStringLiteral("keep-going");
+
 void DescribeRun(QCommandLineParser& parser) {
-    parser.setApplicationDescription(parser.applicationDescription() +
-                                     QStringLiteral(" Message boxes are answered with OK; 'state' "
-                                                    "lists them. What can't be done is told as\n"
-                                                    "SCRIPT:LINE: reason, and the run goes on.\n\n"
-                                                    "Actions, one a line; # starts a comment:\n") +
-                                     ActionsHelp().trimmed().prepend(QLatin1String("  ")));
+    parser.setApplicationDescription(
+        parser.applicationDescription() +
+        QStringLiteral(" Message boxes are answered with OK; 'state' "
+                       "lists them. What can't be done is told as\n"
+                       "SCRIPT:LINE: reason, changes nothing, and ends "
+                       "the run.\n\n"
+                       "Actions, one a line; # starts a comment:\n") +
+        ActionsHelp().trimmed().prepend(QLatin1String("  ")));
     parser.addPositionalArgument(
         QStringLiteral("SCRIPT"),
         QStringLiteral("File of user actions, one a line; - reads standard input."));
+    parser.addOption(
+        {KeepGoing, QStringLiteral("Goes on behind what can't be done; the exit code is 1 then.")});
     AddLanguageOption(parser, QStringLiteral("Language at the start"));
 }
 
@@ -41,11 +47,31 @@ bool IsAction(const QString& line) {
     return !line.trimmed().isEmpty() && !line.startsWith(u'#');
 }
 
-/// Plays every line; true when all could be done.
-bool Play(QFile& script, const QString& name, ScriptStage& stage) {
+bool OpenInput(QFile& script) {
+    return script.open(stdin, QIODevice::ReadOnly | QIODevice::Unbuffered); // line by line
+}
+
+/// The next line with its end; empty at the end of the script. Where it can't be read any further
+/// the script has an error, which its own way to read a line would keep to itself.
+QByteArray NextLine(QFile& script) {
+    QByteArray line;
+    for (char next = 0; line.size() <= LongestLine && next != '\n' && script.getChar(&next);)
+        line += next;
+    return line;
+}
+
+/// Plays the lines up to the end, or to the first that fails unless the run is to keep going. True
+/// when all could be done.
+bool Play(QFile& script, const QString& name, ScriptStage& stage, bool keepGoing) {
     bool allDone = true;
-    for (int number = 1; !script.atEnd(); ++number) {
-        QByteArray bytes = script.readLine(LongestLine + 2); // counts a null that it ends with
+    for (int number = 1; allDone || keepGoing; ++number) {
+        QByteArray bytes = NextLine(script);
+        if (script.error() != QFileDevice::NoError) {
+            Complain(QStringLiteral("%1: %2").arg(name, script.errorString()));
+            return false;
+        }
+        if (bytes.isEmpty())
+            return allDone;
         if (bytes.size() > LongestLine) {
             Complain(QStringLiteral("%1:%2: the line is longer than %3 bytes; the run ends here")
                          .arg(name, QString::number(number), QString::number(LongestLine)));
@@ -62,9 +88,6 @@ bool Play(QFile& script, const QString& name, ScriptStage& stage) {
         allDone = false;
         Complain(QStringLiteral("%1:%2: %3").arg(name, QString::number(number), reason));
     }
-    if (script.error() == QFileDevice::NoError)
-        return allDone;
-    Complain(QStringLiteral("%1: %2").arg(name, script.errorString()));
     return false;
 }
 
@@ -78,8 +101,8 @@ int RunScript(const QCommandLineParser& parser) {
     }
     const QString& name = names.constFirst();
     QFile script(name);
-    const bool opened = name == QLatin1String("-") ? script.open(stdin, QIODevice::ReadOnly)
-                                                   : script.open(QIODevice::ReadOnly);
+    const bool opened =
+        name == QLatin1String("-") ? OpenInput(script) : script.open(QIODevice::ReadOnly);
     if (!opened) {
         Complain(QStringLiteral("%1: %2").arg(name, script.errorString()));
         return SomethingFailed;
@@ -88,7 +111,7 @@ int RunScript(const QCommandLineParser& parser) {
     Program program(platform);
     Form_Load(program, {language});
     ScriptStage stage{program, platform};
-    return Play(script, name, stage) ? AllDone : SomethingFailed;
+    return Play(script, name, stage, parser.isSet(KeepGoing)) ? AllDone : SomethingFailed;
 }
 
 } // namespace

@@ -124,7 +124,6 @@ QString Menu(ScriptStage& stage, const QString& arguments) {
             stage.platform.dialogPath = words.rest;
         stage.program.failure.clear();
         entry.Click();
-        stage.program.form.frmMain.SetEnabled(true); // the status window, if any, is closed at once
         return stage.program.failure;
     });
 }

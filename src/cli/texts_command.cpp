@@ -1,9 +1,12 @@
 #include "cli/command.h"
 
+#include "catalogues/ability_catalogue.h"
+#include "cli/ability_table.h"
 #include "cli/cli_platform.h"
 #include "cli/language_option.h"
 #include "cli/output.h"
 #include "cli/text_source.h"
+#include "localisation/ability_texts.h"
 #include "localisation/obstacle_text.h"
 #include "platform/read_file.h"
 #include "platform/save_file.h"
@@ -30,7 +33,9 @@ void DescribeTexts(QCommandLineParser& parser) {
         QStringLiteral(
             "The game's folder, an unpacked game tree, or archives of the game (.pak). A tree has "
             "Text/Game/Creatures/Creature_abilities in it or in its folder data; where "
-            "there is none, the folder's archives are taken in the order of their names."),
+            "there is none, the folder's archives are taken in the order of their names. A text "
+            "that isn't there is looked for where "
+            "GameMechanics/RefTables/CombatAbilities.xdb says."),
         QStringLiteral("FOLDER|ARCHIVE..."));
     AddLanguageOption(parser, QStringLiteral("Language of these texts"));
 }
@@ -51,34 +56,62 @@ bool AddSource(const QString& path, const SharedState& state, TextSources& sourc
         Complain(QStringLiteral("%1: %2").arg(path, source->Fault()));
         return false;
     }
-    if (source->HasTexts() || !QFileInfo(path).isDir()) {
-        sources.push_back(std::move(source));
-        return true;
-    }
     bool allRead = true;
-    for (const QString& archive : ArchivesIn(path))
-        allRead = AddSource(archive, state, sources) && allRead;
+    if (!source->HasTexts())
+        for (const QString& archive : ArchivesIn(path))
+            allRead = AddSource(archive, state, sources) && allRead;
+    sources.push_back(std::move(source)); // what is unpacked lies over the archives
     return allRead;
 }
 
-struct FoundText {
+struct FoundFile {
     QByteArray bytes;
     QString from; ///< name of its source; empty: missing
 };
 
-/// The text from the last source that has it. What can't be read there is complained of, and taken
-/// from the source below.
-FoundText Find(const AbilityText& text, const TextSources& sources) {
+/// The file from the last source that has it. What can't be read there is complained of, under
+/// `name`, and taken from the source below.
+FoundFile Find(const QStringList& levels, qint64 limit, const QString& name,
+               const TextSources& sources) {
     for (auto source = sources.rbegin(); source != sources.rend(); ++source) {
-        auto content = (*source)->Read(text);
+        auto content = (*source)->Read(levels, limit);
         if (!content)
             continue;
         if (auto* bytes = std::get_if<QByteArray>(&*content))
             return {std::move(*bytes), (*source)->Name()};
-        Complain(QStringLiteral("%1: %2/%3: %4")
-                     .arg((*source)->Name(), text.folder, text.file, std::get<QString>(*content)));
+        Complain(
+            QStringLiteral("%1: %2: %3").arg((*source)->Name(), name, std::get<QString>(*content)));
     }
     return {};
+}
+
+/// The game's table of abilities; an empty one where there is none, or one that can't be read, of
+/// which is complained.
+AbilityTable FindTable(const TextSources& sources) {
+    const QString name = AbilityTableLevels().join(u'/');
+    const FoundFile file = Find(AbilityTableLevels(), LargestAbilityTable, name, sources);
+    if (file.from.isEmpty())
+        return {};
+    auto table = ReadAbilityTable(file.bytes);
+    if (auto* known = std::get_if<AbilityTable>(&table))
+        return std::move(*known);
+    Complain(QStringLiteral("%1: %2: %3").arg(file.from, name, std::get<QString>(table)));
+    return {};
+}
+
+/// The text from the place that the table names, if it names one.
+FoundFile FindByTable(const AbilityText& text, const AbilityTable& table,
+                      const TextSources& sources) {
+    const AbilityRow& ability = AbilityCatalogue[static_cast<std::size_t>(text.ability)];
+    const AbilityReferences references = table.value(QString::fromUtf16(ability.token));
+    const QStringList& levels = text.isName ? references.name : references.description;
+    if (levels.isEmpty())
+        return {};
+    const QString place = levels.join(u'/');
+    FoundFile found = Find(levels, LargestAbilityText, place, sources);
+    if (!found.from.isEmpty())
+        found.from += QLatin1String(": ") + place;
+    return found;
 }
 
 /// Folder of the language's texts: in the user's folder where there are some already, for those
@@ -101,38 +134,39 @@ std::optional<FileObstacle> Keep(const QString& folder, const QString& file,
     if (const auto* same = std::get_if<QByteArray>(&old); same != nullptr && *same == bytes)
         return std::nullopt;
     QDir().mkpath(folder);
-    return SaveFile(path, bytes);
+    return SaveFile(path, bytes).obstacle;
 }
 
-/// Tells of each text where it comes from; gives one for each.
-std::vector<FoundText> FindAll(const std::vector<AbilityText>& texts, const TextSources& sources) {
-    std::vector<FoundText> all;
+/// The texts in their own places, and those that are missing there where the game's table says.
+std::vector<FoundFile> FindAll(const std::vector<AbilityText>& texts, const TextSources& sources) {
+    std::vector<FoundFile> all;
+    std::optional<AbilityTable> table;
     for (const AbilityText& text : texts) {
-        all.push_back(Find(text, sources));
-        const QString& from = all.back().from;
-        PrintLine(
-            QStringLiteral("%1/%2: %3")
-                .arg(text.folder, text.file, from.isEmpty() ? QStringLiteral("missing") : from));
+        FoundFile found = Find(AbilityTextLevels() + QStringList{text.folder, text.file},
+                               LargestAbilityText, text.folder + u'/' + text.file, sources);
+        if (found.from.isEmpty()) {
+            if (!table)
+                table = FindTable(sources);
+            found = FindByTable(text, *table, sources);
+        }
+        all.push_back(std::move(found));
     }
     return all;
 }
 
 int CopyTexts(const TextSources& sources, const Program& program) {
     const std::vector<AbilityText> texts = AbilityTexts();
-    const QString none =
-        QStringLiteral("talmir-cli texts: there are no ability texts in these places");
-    if (std::none_of(sources.begin(), sources.end(),
-                     [](const auto& source) { return source->HasTexts(); })) {
-        Complain(none);
-        return SomethingFailed;
-    }
-    const std::vector<FoundText> found = FindAll(texts, sources);
+    const std::vector<FoundFile> found = FindAll(texts, sources);
     const auto missing = std::count_if(found.begin(), found.end(),
-                                       [](const FoundText& text) { return text.from.isEmpty(); });
+                                       [](const FoundFile& file) { return file.from.isEmpty(); });
     if (static_cast<std::size_t>(missing) == texts.size()) {
-        Complain(none);
+        Complain(QStringLiteral("talmir-cli texts: there are no ability texts in these places"));
         return SomethingFailed;
     }
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        PrintLine(QStringLiteral("%1/%2: %3")
+                      .arg(texts[i].folder, texts[i].file,
+                           found[i].from.isEmpty() ? QStringLiteral("missing") : found[i].from));
     const QString tree = TargetTree(program.state.LanguageCode, program.platform.Places());
     for (std::size_t i = 0; i < texts.size(); ++i) {
         if (found[i].from.isEmpty())

@@ -48,10 +48,12 @@ std::variant<QString, OpenProblem> LoadCreatureDocument(const QString& path) {
     return NormaliseCreature(std::get<QByteArray>(content));
 }
 
+QString OpenProblemReason(const SharedState& state, const OpenProblem& problem) {
+    return std::visit([&state](const auto& cause) { return Reason(state, cause); }, problem);
+}
+
 QString OpenProblemText(const SharedState& state, const QString& path, const OpenProblem& problem) {
-    const QString reason =
-        std::visit([&state](const auto& cause) { return Reason(state, cause); }, problem);
-    return Fill(state.MsgFileRefused, {path, reason});
+    return Fill(state.MsgFileRefused, {path, OpenProblemReason(state, problem)});
 }
 
 } // namespace Hesperin

@@ -21,7 +21,10 @@ std::variant<QString, OpenProblem> NormaliseCreature(const QByteArray& bytes);
 /// The normalised text of the creature file `path`.
 std::variant<QString, OpenProblem> LoadCreatureDocument(const QString& path);
 
-/// The problem in words of the language of the moment: file, reason, and place where there is one.
+/// Why a document was refused, and where, in words of the current language.
+QString OpenProblemReason(const SharedState& state, const OpenProblem& problem);
+
+/// The problem in words of the current language: file, reason, and place where there is one.
 QString OpenProblemText(const SharedState& state, const QString& path, const OpenProblem& problem);
 
 } // namespace Hesperin

@@ -79,4 +79,17 @@ std::optional<QString> HrefLeaf(const TextBuffer& buffer, QStringView startMark,
     return slash < 0 ? QString() : reference.sliced(slash + 1).toString();
 }
 
+std::optional<QString> CreatureNameIn(const TextBuffer& buffer) {
+    const bool marked = SharedMarkText(buffer) != QLatin1String("0");
+    auto name = HrefLeaf(buffer, u"MonsterShared href=",
+                         marked ? u".(AdvMapMonsterShared).xdb#xpointer(/AdvMapMonsterShared)"
+                                : u".xdb#xpointer(/AdvMapMonsterShared)");
+    if (name) // "&" last, or it would bring forth others
+        name->replace(QLatin1String("&quot;"), QLatin1String("\""))
+            .replace(QLatin1String("&gt;"), QLatin1String(">"))
+            .replace(QLatin1String("&lt;"), QLatin1String("<"))
+            .replace(QLatin1String("&amp;"), QLatin1String("&"));
+    return name;
+}
+
 } // namespace Hesperin

@@ -58,4 +58,8 @@ QString SharedMarkText(const TextBuffer& buffer);
 std::optional<QString> HrefLeaf(const TextBuffer& buffer, QStringView startMark,
                                 QStringView endMark);
 
+/// The name in the reference to the shared map object, as it was before it was written as XML; none
+/// when a mark of the reference is missing.
+std::optional<QString> CreatureNameIn(const TextBuffer& buffer);
+
 } // namespace Hesperin

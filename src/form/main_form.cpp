@@ -30,7 +30,8 @@ void Hide(std::initializer_list<Control*> controls) {
 void HoldMenus(MainForm& form) {
     Hold(form.frmMain, {&form.mnuFile, &form.mnuOptions, &form.mnuInfo});
     Hold(form.mnuFile, {&form.mnuNew, &form.mnuOpen, &form.mnuSave, &form.mnuQuit});
-    Hold(form.mnuOptions, {&form.mnuLanguage, &form.mnuAlternativeMethod, &form.mnuCalculator});
+    Hold(form.mnuOptions, {&form.mnuLanguage, &form.mnuAlternativeMethod, &form.mnuCalculator,
+                           &form.mnuHighContrast});
     Hold(form.mnuLanguage, {&form.mnuEnglish, &form.mnuRussian, &form.mnuFrench, &form.mnuGerman});
     Hold(form.mnuInfo, {&form.mnuHelp, &form.mnuAbout});
 }

@@ -34,6 +34,7 @@ struct MainForm : ControlRegistry {
     MenuEntry mnuGerman{*this, "mnuGerman"};
     MenuEntry mnuAlternativeMethod{*this, "mnuAlternativeMethod"};
     MenuEntry mnuCalculator{*this, "mnuCalculator", "Ctrl+C"};
+    MenuEntry mnuHighContrast{*this, "mnuHighContrast"};
     MenuEntry mnuInfo{*this, "mnuInfo"};
     MenuEntry mnuHelp{*this, "mnuHelp", "F1"};
     MenuEntry mnuAbout{*this, "mnuAbout", "Ctrl+A"};

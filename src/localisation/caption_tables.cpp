@@ -14,6 +14,7 @@ constexpr CaptionRow<MenuEntry> Menus[] = {
     {&MainForm::mnuQuit,              {u"Quit",               u"Выход",                u"Quitter",      u"Beenden"}},
     {&MainForm::mnuOptions,           {u"Options",            u"Опции",                u"Options",      u"Optionen"}},
     {&MainForm::mnuCalculator,        {u"Calculator",         u"Калькулятор",          u"Calculatrice", u"Rechner"}},
+    {&MainForm::mnuHighContrast,      {u"High contrast",      u"Высокая контрастность", nullptr,       nullptr}},
     {&MainForm::mnuLanguage,          {u"Language",           u"Язык",                 u"Langue",       u"Sprache"}},
     {&MainForm::mnuInfo,              {u"Info",               u"Справка",              u"Info",         u"Info"}},
     {&MainForm::mnuHelp,              {u"Help",               u"Помощь",               u"Aide",         u"Hilfe"}},

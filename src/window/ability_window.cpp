@@ -7,10 +7,10 @@
 
 #include <QLabel>
 #include <QPainter>
-#include <QPlainTextEdit>
 #include <QScreen>
 #include <QTextBlock>
 #include <QTextDocument>
+#include <QTextEdit>
 #include <QTextLayout>
 
 #include <algorithm>
@@ -25,23 +25,19 @@ constexpr int LineHeight = Pixels(600);
 constexpr int BelowText = Pixels(1950); // of the window's height, all that isn't the description
 constexpr int ButtonBelowText = Pixels(1095);
 
-/// What a text takes when it is wrapped: its lines, and the pixels from top to bottom.
-struct Extent {
+/// The pixels that a text takes from top to bottom when it is wrapped to that width.
+int WrappedHeight(const QTextDocument& shown, int width) {
+    QTextDocument text; // a view that isn't up yet would wrap its own to another width
+    text.setDefaultFont(shown.defaultFont());
+    text.setDefaultTextOption(shown.defaultTextOption());
+    text.setDocumentMargin(shown.documentMargin());
+    text.setPlainText(shown.toPlainText());
+    text.setTextWidth(width);
+    const int height = static_cast<int>(std::ceil(text.size().height())); // lays the text out
     int lines = 0;
-    int height = 0;
-};
-
-Extent WrappedExtent(const QString& text, const QFont& face, int width) {
-    QTextDocument document;
-    document.setDefaultFont(face);
-    document.setDocumentMargin(0);
-    document.setPlainText(text);
-    document.setTextWidth(width);
-    Extent extent;
-    extent.height = static_cast<int>(std::ceil(document.size().height())); // lays the text out
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
-        extent.lines += std::max(1, block.layout()->lineCount());
-    return extent;
+    for (QTextBlock block = text.begin(); block.isValid(); block = block.next())
+        lines += std::max(1, block.layout()->lineCount());
+    return std::max(lines * LineHeight, height);
 }
 
 } // namespace
@@ -58,26 +54,22 @@ AbilityWindow::AbilityWindow(Program& owner, QWidget* mainWindow)
     AddText(*this, "utbName", name, namePlace, FittingFace(ReadingFace(), name, namePlace.width()),
             Qt::AlignLeft | Qt::AlignVCenter);
 
-    auto* description = new QPlainTextEdit(form.utbD(index).Text(), this);
+    // Not a QPlainTextEdit, which finds some pixels to scroll sideways where there are none.
+    auto* description = new QTextEdit(this);
     description->setObjectName(QStringLiteral("utbDesc"));
     description->setReadOnly(true);
     description->setFrameShape(QFrame::NoFrame);
     description->setFont(ReadingFace());
-    description->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     description->document()->setDocumentMargin(0);
+    description->setPlainText(form.utbD(index).Text());
     QPalette ground = description->palette();
     ground.setColor(QPalette::Base, palette().color(QPalette::Window));
     description->setPalette(ground);
-    constexpr int scrollBar = 20; // the text must not need one because it shows one
-    constexpr int slack = 2;      // the field leaves a little room around its lines
-    const Extent extent =
-        WrappedExtent(form.utbD(index).Text(), ReadingFace(), Pixels(10575) - scrollBar);
-    const int wanted = std::max(extent.lines * LineHeight, extent.height + slack);
+    constexpr int width = Pixels(10575);
+    const int wanted = WrappedHeight(*description->document(), width);
     const int room = screen()->availableGeometry().height() - BelowText - LineHeight;
     const int height = std::min(wanted, std::max(room, LineHeight));
-    if (height < wanted)
-        description->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    description->setGeometry(Pixels(120), Pixels(960), Pixels(10575), height);
+    description->setGeometry(Pixels(120), Pixels(960), width, height);
 
     AddButton("cmdQuit", form.mnuQuit.Caption(),
               {Pixels(4440), height + ButtonBelowText, Pixels(1815), Pixels(375)});
@@ -87,7 +79,7 @@ AbilityWindow::AbilityWindow(Program& owner, QWidget* mainWindow)
 
 void AbilityWindow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setPen(QColor(Colours::Line));
+    painter.setPen(QColor(Colours().Line));
     painter.drawLine(Pixels(120), Pixels(840), Pixels(10680), Pixels(840));
 }
 

@@ -4,7 +4,7 @@
 
 namespace Hesperin {
 
-/// Name and description of the ability that was right-clicked, in the language of the moment. Grows
+/// Name and description of the ability that was right-clicked, in the current language. Grows
 /// with its text; what would be taller than the screen scrolls.
 class AbilityWindow : public SecondaryWindowView {
 public:

@@ -29,7 +29,7 @@ constexpr MaskedPicture Pictures[] = {
 /// The mask clears the shape in the ground, then the picture is painted into it.
 QImage DrawPictures() {
     QImage surface(AboutClient, QImage::Format_RGB32);
-    surface.fill(Colours::AboutGround);
+    surface.fill(Colours().AboutBackground);
     QPainter painter(&surface);
     for (const MaskedPicture& picture : Pictures) {
         const auto load = [](const char* name) {

@@ -43,8 +43,8 @@ const Column& ColumnOf(std::span<const Column> columns, int place) {
 void AddBox(CheckBox& box, QWidget& page, std::span<const Column> columns, int place, int top,
             ClickOperation rightClick = {}) {
     const Column& column = ColumnOf(columns, place);
-    new BoxView(box, &page, PlaceOf(place, column.boxLeft, column.boxWidth, BoxHeight, top),
-                std::move(rightClick));
+    const QRect rect = PlaceOf(place, column.boxLeft, column.boxWidth, BoxHeight, top);
+    new BoxView(box, &page, rect.intersected(page.rect()), std::move(rightClick));
 }
 
 void AddSelector(MultiOption& selector, const CheckBox& box, QWidget& page,

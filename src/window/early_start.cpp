@@ -23,7 +23,7 @@ void ReadFontConfiguration() {
 EarlyStart::EarlyStart() {
     QThread::currentThread(); // the toolkit takes the first thread that asks for the main one
     work = std::thread([this] {
-        platform.OtherInstanceRuns();
+        platform.OtherInstance();
         ReadFontConfiguration();
     });
 }

@@ -1,7 +1,6 @@
 #include "window/field_view.h"
 
 #include "window/faces.h"
-#include "window/palette.h"
 
 #include <QDragEnterEvent>
 #include <QInputMethodEvent>
@@ -9,14 +8,25 @@
 #include <QMimeData>
 
 #include <algorithm>
+#include <utility>
 
 namespace Hesperin {
 
+namespace {
+
+/// Whether the focus only goes to a window, menu or list in front and comes back from there.
+bool IsForAWhile(Qt::FocusReason reason) {
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
+           reason == Qt::MenuBarFocusReason;
+}
+
+} // namespace
+
 FieldView::FieldView(TextField& field, QWidget* parent, const QRect& place, const QFont& fieldFace,
-                     QRgb ink)
-    : View(field, parent), face(fieldFace) {
+                     Colour textColour)
+    : View(field, parent), face(fieldFace), colour(textColour) {
     setGeometry(place);
-    setPalette(InkPalette(ink));
+    setPalette(TextPalette(OutlinedPalette(), colour));
     setFont(face);
     connect(this, &QLineEdit::textEdited, this,
             [this](const QString& text) { control.SetText(text); });
@@ -28,6 +38,9 @@ void FieldView::Sync() {
         const int cursor = cursorPosition();
         setText(control.Text());
         setCursorPosition(cursor);
+        isLeftForAWhile = false;
+        if (hasFocus())
+            selectAll();
     }
     FitFace();
 }
@@ -38,6 +51,35 @@ bool FieldView::Admits(const QString& typed) const {
     const qsizetype length = text().size() - selectedText().size() + typed.size();
     return allAccepted &&
            (control.MaxLength() == TextField::NoLimit || length <= control.MaxLength());
+}
+
+void FieldView::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    if (!std::exchange(isLeftForAWhile, false) || !IsForAWhile(event->reason()))
+        selectAll();
+    hasFocusByPress = event->reason() == Qt::MouseFocusReason;
+}
+
+void FieldView::focusOutEvent(QFocusEvent* event) {
+    QLineEdit::focusOutEvent(event);
+    isLeftForAWhile = IsForAWhile(event->reason());
+}
+
+void FieldView::mousePressEvent(QMouseEvent* event) {
+    selectsOnRelease = std::exchange(hasFocusByPress, false) && event->button() == Qt::LeftButton;
+    QLineEdit::mousePressEvent(event); // places the cursor, where a drag begins
+}
+
+void FieldView::mouseReleaseEvent(QMouseEvent* event) {
+    QLineEdit::mouseReleaseEvent(event);
+    if (std::exchange(selectsOnRelease, false) && !hasSelectedText())
+        selectAll();
+}
+
+bool FieldView::event(QEvent* event) {
+    if (event->type() == QEvent::ApplicationPaletteChange)
+        setPalette(TextPalette(OutlinedPalette(), colour));
+    return QLineEdit::event(event);
 }
 
 void FieldView::keyPressEvent(QKeyEvent* event) {

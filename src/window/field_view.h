@@ -1,6 +1,7 @@
 #pragma once
 
 #include "form/text_field.h"
+#include "window/palette.h"
 #include "window/view.h"
 
 #include <QLineEdit>
@@ -8,12 +9,19 @@
 namespace Hesperin {
 
 /// A field of text. Typed keys pass the field's key filter and its longest text; a paste passes.
+/// Whoever gives it the focus, its content is selected then, so that typing replaces it.
 class FieldView : public View<QLineEdit, TextField> {
 public:
-    FieldView(TextField& field, QWidget* parent, const QRect& place, const QFont& face, QRgb ink);
+    FieldView(TextField& field, QWidget* parent, const QRect& place, const QFont& face,
+              Colour colour);
 
 protected:
     void Sync() override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -24,6 +32,10 @@ private:
     void FitFace();
 
     QFont face;
+    Colour colour;
+    bool isLeftForAWhile = false;  ///< the focus comes back as it went
+    bool hasFocusByPress = false;  ///< of the mouse button that is going down
+    bool selectsOnRelease = false; ///< unless the mouse drags a selection before
 };
 
 } // namespace Hesperin

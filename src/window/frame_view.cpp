@@ -35,12 +35,21 @@ void FrameView::Sync() {
 
 void FrameView::NameFields() {
     const QString caption = control.Caption().trimmed();
-    for (QWidget* child : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
-        if (child->focusPolicy() != Qt::NoFocus)
+    for (QWidget* child : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        const bool takesFocus = child->focusPolicy() != Qt::NoFocus;
+        if (const auto* named = dynamic_cast<NamedInFrame*>(child))
+            child->setAccessibleName(named->NameIn(caption));
+        else if (takesFocus)
             child->setAccessibleName(caption);
+    }
     for (const QLabel* label : findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly))
         if (label->buddy() != nullptr)
             label->buddy()->setAccessibleName(caption + u' ' + label->text());
+}
+
+void FrameView::NameFieldsAround(const QWidget& child) {
+    if (auto* frame = dynamic_cast<FrameView*>(child.parentWidget()))
+        frame->NameFields();
 }
 
 void FrameView::paintEvent(QPaintEvent*) {

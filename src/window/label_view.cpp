@@ -2,18 +2,16 @@
 
 #include "window/faces.h"
 #include "window/frame_view.h"
-#include "window/palette.h"
+
+#include <QEvent>
 
 namespace Hesperin {
 
 LabelView::LabelView(Label& label, QWidget* parent, const QRect& place, const QFont& labelFace,
-                     QRgb ink, Qt::Alignment alignment)
-    : View(label, parent), face(labelFace) {
+                     Colour textColour, Qt::Alignment alignment)
+    : View(label, parent), face(labelFace), colour(textColour) {
     setGeometry(place);
-    QPalette inks = InkPalette(ink);
-    inks.setColor(QPalette::Disabled, QPalette::WindowText,
-                  QColor(ink)); // results stand in disabled frames
-    setPalette(inks);
+    Dress();
     setAlignment(alignment);
     setTextFormat(Qt::PlainText);
     SyncAll();
@@ -24,9 +22,21 @@ void LabelView::Sync() {
     setAccessibleName(control.Caption());
     if (!control.Caption().isEmpty())
         setFont(FittingFace(face, control.Caption(), width()));
-    if (auto* frame = dynamic_cast<FrameView*>(parentWidget());
-        frame != nullptr && buddy() != nullptr)
-        frame->NameFields();
+    if (buddy() != nullptr)
+        FrameView::NameFieldsAround(*this);
+}
+
+bool LabelView::event(QEvent* event) {
+    if (event->type() == QEvent::ApplicationPaletteChange)
+        Dress();
+    return QLabel::event(event);
+}
+
+void LabelView::Dress() {
+    QPalette dress = TextPalette(ProgramPalette(), colour);
+    dress.setColor(QPalette::Disabled, QPalette::WindowText,
+                   QColor(Colours().*colour)); // results stand in disabled frames
+    setPalette(dress);
 }
 
 } // namespace Hesperin

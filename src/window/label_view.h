@@ -1,6 +1,7 @@
 #pragma once
 
 #include "form/captioned.h"
+#include "window/palette.h"
 #include "window/view.h"
 
 #include <QLabel>
@@ -10,14 +11,18 @@ namespace Hesperin {
 /// A label whose text shrinks until it fits.
 class LabelView : public View<QLabel, Label> {
 public:
-    LabelView(Label& label, QWidget* parent, const QRect& place, const QFont& face, QRgb ink,
+    LabelView(Label& label, QWidget* parent, const QRect& place, const QFont& face, Colour colour,
               Qt::Alignment alignment);
 
 protected:
     void Sync() override;
+    bool event(QEvent* event) override;
 
 private:
+    void Dress();
+
     QFont face;
+    Colour colour;
 };
 
 } // namespace Hesperin

@@ -24,9 +24,13 @@ void ListView::Sync() {
         clear();
         addItems(control.Items());
     }
-    setCurrentIndex(control.Index());
-    setAccessibleDescription(control.Text()); // which need not be the entry chosen
+    setCurrentIndex(static_cast<int>(control.Items().indexOf(control.Text())));
+    FrameView::NameFieldsAround(*this);
     update();
+}
+
+QString ListView::NameIn(const QString& caption) const {
+    return (caption + u' ' + control.Text()).trimmed();
 }
 
 QStringList ListView::ShownItems() const {
@@ -59,10 +63,7 @@ void ListView::changeEvent(QEvent* event) {
 }
 
 void ListView::wheelEvent(QWheelEvent* event) {
-    if (hasFocus())
-        QComboBox::wheelEvent(event);
-    else
-        event->ignore(); // scrolling past a list must not change it
+    event->ignore(); // it belongs to what scrolls around the list
 }
 
 } // namespace Hesperin

@@ -1,16 +1,21 @@
 #pragma once
 
 #include "form/combo_box.h"
+#include "window/frame_view.h"
 #include "window/view.h"
 
 #include <QComboBox>
 
 namespace Hesperin {
 
-/// A drop-down list. It shows the list's text, which need not be one of the entries.
-class ListView : public View<QComboBox, ComboBox> {
+/// A drop-down list. It shows the list's text, which need not be one of the entries nor that of the
+/// index. Keys and the drop-down start from the entry that has the text; the wheel changes nothing.
+class ListView : public View<QComboBox, ComboBox>, public NamedInFrame {
 public:
     ListView(ComboBox& list, QWidget* parent, const QRect& place, const QFont& face);
+
+    /// The caption and the text shown.
+    QString NameIn(const QString& caption) const override;
 
 protected:
     void Sync() override;

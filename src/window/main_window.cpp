@@ -3,47 +3,37 @@
 #include "creature_files/file_commands.h"
 #include "localisation/ability_texts.h"
 #include "ui/window_commands.h"
-#include "window/button_view.h"
-#include "window/faces.h"
+#include "window/button_row.h"
+#include "window/palette.h"
 #include "window/tab_view.h"
-#include "window/units.h"
+#include "window/toolkit_words.h"
+#include "window/window_fit.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QIcon>
 #include <QMimeData>
+#include <QPushButton>
 #include <QResource>
 #include <QScreen>
-#include <QScrollArea>
+#include <QShortcut>
+#include <QStyle>
 #include <QUrl>
 
 namespace Hesperin {
 
 namespace {
 
-constexpr QSize WindowSize(Pixels(15450), Pixels(10560));
-constexpr QSize ContentSize(Pixels(15450), Pixels(9360 + 435 + 60));
-
-struct ButtonPlace {
-    Button MainForm::*button;
-    int left; // twips
-    int width;
-};
-
-constexpr int ButtonTop = 9360;
-constexpr int ButtonHeight = 435;
-constexpr ButtonPlace ButtonRow[] = {
-    {&MainForm::cmdCalc, 120, 1560},       {&MainForm::cmdRAP, 1800, 3960},
-    {&MainForm::cmdRAA, 5880, 3720},       {&MainForm::cmdRAS, 9720, 3360},
-    {&MainForm::cmdResetAll, 13200, 2130},
-};
-
 /// The one local file that is being dragged; empty when it is anything else.
 QString DraggedFile(const QMimeData& data) {
     const QList<QUrl> urls = data.urls();
     return urls.size() == 1 && urls.constFirst().isLocalFile() ? urls.constFirst().toLocalFile()
                                                                : QString();
+}
+
+void FollowContrast(bool high) {
+    UseColours(high ? HighContrastColours : GivenColours);
 }
 
 /// Lies there as plain pixels: any other format would load the readers of all that the system has.
@@ -57,28 +47,27 @@ QIcon WindowIcon() {
 
 } // namespace
 
-MainWindow::MainWindow(Program& owner) : program(owner) {
+MainWindow::MainWindow(Program& owner, QSize available) : program(owner) {
     MainForm& form = program.form;
     setObjectName(form.frmMain.Name());
     setAcceptDrops(true);
     menus = BuildMenus(form, *menuBar());
+    RestoreHighContrast(program);
+    FollowContrast(form.mnuHighContrast.Checked());
+    connect(findChild<QAction*>(form.mnuHighContrast.Name()), &QAction::toggled, this,
+            FollowContrast);
     opening.setSingleShot(true);
     pictured.setSingleShot(true);
     connect(&pictured, &QTimer::timeout, this, [this] { FinishStart(); });
     connect(&opening, &QTimer::timeout, this, [this] { OpenCreatureFile(program, fileToOpen); });
 
+    const int barExtent = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const WindowFit fit = FitWindow(available, menuBar()->sizeHint().height(), barExtent);
     auto* content = new QWidget;
-    content->setFixedSize(ContentSize);
-    new TabView(program, content);
-    BuildButtonRow(*content);
-    auto* scroll = new QScrollArea(this);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidget(content);
-    setCentralWidget(scroll);
-
-    // Fixed, but never larger than the screen: there the content scrolls.
-    setFixedSize(WindowSize.boundedTo(screen()->availableSize()));
+    tabs = new TabView(program, content, fit.tabs, fit.pageWidth);
+    BuildButtonRow(form, *content, fit.tabs.bottom() + 1, fit.window.width());
+    setCentralWidget(content);
+    setFixedSize(fit.window);
     form.frmMain.SetView(this);
     setWindowTitle(form.frmMain.Caption());
 }
@@ -87,10 +76,8 @@ MainWindow::~MainWindow() {
     program.form.frmMain.SetView(nullptr);
 }
 
-void MainWindow::BuildButtonRow(QWidget& content) {
-    for (const ButtonPlace& place : ButtonRow)
-        new ButtonView(program.form.*place.button, &content, FigureFace(),
-                       PixelRect(place.left, ButtonTop, place.width, ButtonHeight));
+QSize MainWindow::AvailableSize() {
+    return QGuiApplication::primaryScreen()->availableSize();
 }
 
 QWidget* MainWindow::WidgetOf(const Control& control) const {
@@ -113,7 +100,29 @@ bool MainWindow::event(QEvent* event) {
 
 void MainWindow::FinishStart() {
     QApplication::setWindowIcon(WindowIcon());
+    const auto* russian = findChild<QAction*>(program.form.mnuRussian.Name());
+    connect(russian, &QAction::toggled, this, HaveToolkitSpeakRussian);
+    HaveToolkitSpeakRussian(russian->isChecked());
     LoadAbilityTexts(program);
+    BuildShortcuts();
+}
+
+/// The keys that no entry of the menu bar has.
+void MainWindow::BuildShortcuts() {
+    const auto on = [this](const char* keys, auto act) {
+        auto* shortcut = new QShortcut(QKeySequence(QLatin1String(keys)), this, act);
+        shortcut->setAutoRepeat(false);
+    };
+    on("F5", [this] {
+        auto* calculate = qobject_cast<QPushButton*>(WidgetOf(program.form.cmdCalc));
+        if (calculate != nullptr && program.form.cmdCalc.Usable())
+            calculate->click();
+    });
+    on("F10", [this] { menuBar()->setActiveAction(menuBar()->actions().constFirst()); });
+    for (const char* keys : {"Ctrl+Tab", "Ctrl+PgDown"})
+        on(keys, [this] { tabs->ShowNeighbour(1); });
+    for (const char* keys : {"Ctrl+Shift+Tab", "Ctrl+PgUp"})
+        on(keys, [this] { tabs->ShowNeighbour(-1); });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -13,7 +13,8 @@ class TabView;
 /// The main window: menu bar, tab control and the row of buttons, all views of the program's form.
 class MainWindow : public QMainWindow, public ControlView {
 public:
-    explicit MainWindow(Program& program);
+    /// Makes itself fit into `available`, a screen without its task bars.
+    explicit MainWindow(Program& program, QSize available = AvailableSize());
     ~MainWindow() override;
     MainWindow(const MainWindow&) = delete;
     MainWindow& operator=(const MainWindow&) = delete;
@@ -36,10 +37,12 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    void BuildButtonRow(QWidget& content);
+    static QSize AvailableSize();
     void FinishStart();
+    void BuildShortcuts();
 
     Program& program;
+    TabView* tabs;
     std::vector<std::unique_ptr<EntryView>> menus;
     QString fileToOpen;
     QTimer opening;  // of a creature file, when the event of the moment has ended

@@ -2,33 +2,72 @@
 
 #include <QMenu>
 
+#include <algorithm>
+
 namespace Hesperin {
 
 namespace {
 
-/// The menus and their entries in order; null is a separator.
-struct MenuPlan {
-    MenuEntry MainForm::*menu;
-    std::vector<MenuEntry MainForm::*> entries;
+/// An entry and the letter behind Alt that opens it: in English, and in Russian. The form's
+/// captions stay without; a caption that is the same in all languages has one letter.
+struct EntryPlan {
+    MenuEntry MainForm::*entry; ///< null is a separator
+    QStringView letters = {};
 };
 
+/// A menu and its entries in order.
+struct MenuPlan {
+    EntryPlan menu;
+    std::vector<EntryPlan> entries;
+};
+
+// clang-format off
 const std::vector<MenuPlan>& Plan() {
     static const std::vector<MenuPlan> plan{
-        {&MainForm::mnuFile,
-         {&MainForm::mnuNew, &MainForm::mnuOpen, &MainForm::mnuSave, nullptr, &MainForm::mnuQuit}},
-        {&MainForm::mnuOptions,
-         {&MainForm::mnuLanguage, &MainForm::mnuAlternativeMethod, &MainForm::mnuCalculator}},
-        {&MainForm::mnuInfo, {&MainForm::mnuHelp, nullptr, &MainForm::mnuAbout}},
+        {{&MainForm::mnuFile, u"FФ"}, {
+            {&MainForm::mnuNew,               u"NС"},
+            {&MainForm::mnuOpen,              u"OО"},
+            {&MainForm::mnuSave,              u"Sх"},
+            {nullptr},
+            {&MainForm::mnuQuit,              u"QВ"},
+        }},
+        {{&MainForm::mnuOptions, u"OО"}, {
+            {&MainForm::mnuLanguage,          u"LЯ"},
+            {&MainForm::mnuAlternativeMethod, u"AА"},
+            {&MainForm::mnuCalculator,        u"CК"},
+            {&MainForm::mnuHighContrast,      u"HВ"},
+        }},
+        {{&MainForm::mnuInfo, u"IС"}, {
+            {&MainForm::mnuHelp,              u"HП"},
+            {nullptr},
+            {&MainForm::mnuAbout,             u"AО"},
+        }},
     };
     return plan;
 }
 
-constexpr MenuEntry MainForm::*Languages[] = {&MainForm::mnuEnglish, &MainForm::mnuRussian,
-                                              &MainForm::mnuFrench, &MainForm::mnuGerman};
+constexpr EntryPlan Languages[] = {
+    {&MainForm::mnuEnglish, u"E"},
+    {&MainForm::mnuRussian, u"R"},
+    {&MainForm::mnuFrench,  u"F"},
+    {&MainForm::mnuGerman,  u"D"},
+};
+// clang-format on
+
+/// The caption as the toolkit wants it: an ampersand before the first of the letters that it has.
+QString WithMnemonic(QString caption, QStringView letters) {
+    const auto letter = std::find_if(letters.begin(), letters.end(),
+                                     [&](QChar one) { return caption.contains(one); });
+    caption.replace(u'&', QLatin1String("&&"));
+    if (letter != letters.end())
+        caption.insert(caption.indexOf(*letter), u'&');
+    return caption;
+}
 
 } // namespace
 
-EntryView::EntryView(MenuEntry& entry, QAction& shown) : control(entry), action(shown) {
+EntryView::EntryView(MenuEntry& entry, QAction& shown, QStringView mnemonics)
+    : control(entry), action(shown), letters(mnemonics) {
     action.setObjectName(control.Name());
     if (!control.Shortcut().isEmpty())
         action.setShortcut(QKeySequence(control.Shortcut()));
@@ -45,7 +84,7 @@ void EntryView::Changed(Control&, Property) {
 }
 
 void EntryView::Sync() {
-    action.setText(control.Caption());
+    action.setText(WithMnemonic(control.Caption(), letters));
     action.setEnabled(control.Enabled());
     action.setVisible(control.Visible());
     if (control.Checked())
@@ -55,22 +94,22 @@ void EntryView::Sync() {
 
 std::vector<std::unique_ptr<EntryView>> BuildMenus(MainForm& form, QMenuBar& bar) {
     std::vector<std::unique_ptr<EntryView>> views;
-    const auto show = [&](MenuEntry& entry, QAction* action) {
-        views.push_back(std::make_unique<EntryView>(entry, *action));
+    const auto show = [&](const EntryPlan& plan, QAction* action) {
+        views.push_back(std::make_unique<EntryView>(form.*plan.entry, *action, plan.letters));
     };
-    for (const MenuPlan& plan : Plan()) {
+    for (const auto& [planOfMenu, entries] : Plan()) {
         QMenu* menu = bar.addMenu(QString());
-        show(form.*plan.menu, menu->menuAction());
-        for (const auto entry : plan.entries) {
-            if (entry == nullptr) {
+        show(planOfMenu, menu->menuAction());
+        for (const EntryPlan& plan : entries) {
+            if (plan.entry == nullptr) {
                 menu->addSeparator();
-            } else if (entry == &MainForm::mnuLanguage) {
+            } else if (plan.entry == &MainForm::mnuLanguage) {
                 QMenu* languages = menu->addMenu(QString());
-                show(form.mnuLanguage, languages->menuAction());
-                for (const auto language : Languages)
-                    show(form.*language, languages->addAction(QString()));
+                show(plan, languages->menuAction());
+                for (const EntryPlan& language : Languages)
+                    show(language, languages->addAction(QString()));
             } else {
-                show(form.*entry, menu->addAction(QString()));
+                show(plan, menu->addAction(QString()));
             }
         }
     }

@@ -10,7 +10,9 @@ namespace Hesperin {
 /// Shows one entry of the menu bar as an action, or one menu as the action that opens it.
 class EntryView : public ControlView {
 public:
-    EntryView(MenuEntry& entry, QAction& action);
+    /// `letters` may open the entry: the first of them that its caption has. They must outlive the
+    /// view.
+    EntryView(MenuEntry& entry, QAction& action, QStringView letters);
     ~EntryView() override { control.SetView(nullptr); }
     EntryView(const EntryView&) = delete;
     EntryView& operator=(const EntryView&) = delete;
@@ -22,6 +24,7 @@ private:
 
     MenuEntry& control;
     QAction& action;
+    QStringView letters;
 };
 
 /// Fills `bar` with the menus of the form.

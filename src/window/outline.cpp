@@ -15,7 +15,7 @@ constexpr int Corner = Radius + 1; // side of the square that shows all of one
 void DrawRounded(QPainter& painter, const QRect& place) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QColor(Colours::Line));
+    painter.setPen(QColor(Colours().Line));
     painter.drawRoundedRect(QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5), Radius, Radius);
     painter.restore();
 }
@@ -38,7 +38,10 @@ void DrawOutline(QPainter& painter, const QRect& place) {
     }
     // Corners out of one picture and plain lines between them: smoothing a page's outlines along
     // their whole length took 3 % of all instructions of the start.
-    static const QImage outline = SmallOutline();
+    static QImage outline;
+    static QRgb colour = 0;
+    if (std::exchange(colour, Colours().Line) != Colours().Line)
+        outline = SmallOutline();
     const int right = place.right() - Radius;
     const int bottom = place.bottom() - Radius;
     for (const int x : {place.left(), right})
@@ -49,7 +52,7 @@ void DrawOutline(QPainter& painter, const QRect& place) {
     const QRect down(place.left(), place.top() + Corner, 1, place.height() - 2 * Corner);
     for (const QRect& line : {across, across.translated(0, place.height() - 1), down,
                               down.translated(place.width() - 1, 0)})
-        painter.fillRect(line, QColor(Colours::Line));
+        painter.fillRect(line, QColor(colour));
 }
 
 } // namespace Hesperin

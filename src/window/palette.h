@@ -5,30 +5,60 @@
 
 namespace Hesperin {
 
-// The window's own colours, the same under a light and a dark desktop theme.
-namespace Colours {
-inline constexpr QRgb Ground = 0xFFF1EEE6;
-inline constexpr QRgb Field = 0xFFFFFDF8;
-inline constexpr QRgb FieldOff = 0xFFE9E5DA;
-inline constexpr QRgb Line = 0xFFBDB39B;
-inline constexpr QRgb Text = 0xFF2B2620;
-inline constexpr QRgb TextOff = 0xFF8F877A;
-inline constexpr QRgb Accent = 0xFF33508F;
+/// The window's own colours, the same under a light and a dark desktop theme.
+struct ColourTable {
+    QRgb Background;
+    QRgb Field; ///< the background of what is written or chosen
+    QRgb FieldOff;
+    QRgb Line; ///< outlines of frames
+    QRgb
+        OutlineBase; ///< the style outlines fields, boxes, buttons and tabs in a darker shade of it
+    QRgb Text;
+    QRgb TextOff; ///< also the rings of the mastery selectors
+    QRgb Accent;
 
-inline constexpr QRgb Parameter = 0xFF0000FF; ///< the creature's parameters
-inline constexpr QRgb InFile = 0xFFC000C0;    ///< the figures that go into the file
-inline constexpr QRgb Name = 0xFF004000;
-inline constexpr QRgb Rolvane = 0xFFFF0000;
-inline constexpr QRgb Hesperin = 0xFF00C0C0;
-inline constexpr QRgb Average = 0xFF00C000;
-inline constexpr QRgb Alternative = 0xFFFF8000;
-inline constexpr QRgb AboutGround = 0xFF000080;
-} // namespace Colours
+    QRgb Parameter; ///< the creature's parameters
+    QRgb InFile;    ///< the figures that go into the file
+    QRgb Name;
+    QRgb Rolvane;
+    QRgb Hesperin;
+    QRgb Average;
+    QRgb Alternative;
+
+    QRgb AboutBackground; ///< also of the title in the status window
+    QRgb StatusTitle;
+    QRgb StatusShadow; ///< of that title
+
+    QRgb FocusLine; ///< around the focus mark of the style; transparent: none
+
+    /// Parts of its own colour and of the background that a disabled text is mixed of.
+    int OwnParts;
+    int BackgroundParts;
+};
+
+/// Which of the colours.
+using Colour = QRgb ColourTable::*;
+
+extern const ColourTable GivenColours;
+
+/// Darker shades of the same: texts stand out against their background by 4.5 to 1 at least,
+/// outlines and marks by 3 to 1.
+extern const ColourTable HighContrastColours;
+
+/// The colours in use; the given ones at first.
+const ColourTable& Colours();
+
+/// Brings these colours into use; what is open follows.
+void UseColours(const ColourTable& table);
 
 /// The palette of the whole program.
 QPalette ProgramPalette();
 
-/// The same with text of one ink, softened where the control is disabled.
-QPalette InkPalette(QRgb ink);
+/// The palette of what the style draws an outline around, which it derives from the colour of the
+/// window.
+QPalette OutlinedPalette();
+
+/// `palette` with text of one colour, softened where the control is disabled.
+QPalette TextPalette(QPalette palette, Colour colour);
 
 } // namespace Hesperin

@@ -12,10 +12,10 @@ namespace Hesperin {
 
 namespace {
 
-using Colours::InFile;
-using Colours::Name;
-using Colours::Parameter;
-using Colours::Text;
+constexpr Colour InFile = &ColourTable::InFile;
+constexpr Colour Name = &ColourTable::Name;
+constexpr Colour Parameter = &ColourTable::Parameter;
+constexpr Colour Text = &ColourTable::Text;
 
 constexpr int FrameHeight = 795; // twips; the rows of frames stand 840 apart
 
@@ -24,7 +24,7 @@ struct FrameRow {
     int left;
     int top;
     int width;
-    QRgb ink;
+    Colour colour;
     TextField MainForm::*field; ///< or
     ComboBox MainForm::*list;
 };
@@ -32,7 +32,7 @@ struct FrameRow {
 // clang-format off
 // In reading order, which is also the order of the tab key. Places in twips from the tab control's corner.
 constexpr FrameRow FrameRowsOfPage[] = {
-    //                            left   top  width  ink        field                    list
+    //                            left   top  width  colour     field                    list
     {&MainForm::FrameNC,           240,  600, 2715,  Name,      &MainForm::txtNC,        nullptr},
     {&MainForm::FrameIDC,         3000,  600, 2715,  Name,      &MainForm::txtIDC,       nullptr},
     {&MainForm::FrameAttack,       240, 1440, 1395,  Parameter, &MainForm::txtAttack,    nullptr},
@@ -75,10 +75,9 @@ void BuildDamageFields(MainForm& form, FrameView& frame) {
         const QRect captionPlace(left, FieldTop, labelWidth, FieldHeight);
         const QRect fieldPlace(left + labelWidth + gap, FieldTop, half - labelWidth - gap,
                                FieldHeight);
-        auto* caption = new LabelView(label, &frame, captionPlace, CaptionFace(), Colours::Text,
+        auto* caption = new LabelView(label, &frame, captionPlace, CaptionFace(), Text,
                                       Qt::AlignRight | Qt::AlignVCenter);
-        caption->setBuddy(
-            new FieldView(field, &frame, fieldPlace, FigureFace(), Colours::Parameter));
+        caption->setBuddy(new FieldView(field, &frame, fieldPlace, FigureFace(), Parameter));
     };
     pair(form.lblMin, form.txtMinDam, Margin);
     pair(form.lblMax, form.txtMaxDam, Margin + half);
@@ -93,8 +92,8 @@ void BuildParametersPage(MainForm& form, QWidget& page, int top) {
         auto* frame = new FrameView(form.*row.frame, &page, CaptionFace(), place);
         const QRect inside(Margin, FieldTop, place.width() - 2 * Margin, FieldHeight);
         if (row.field != nullptr) {
-            const QFont face = row.ink == Colours::Name ? NameFace() : FigureFace();
-            new FieldView(form.*row.field, frame, inside, face, row.ink);
+            const QFont face = row.field == &MainForm::txtNC ? NameFace() : FigureFace();
+            new FieldView(form.*row.field, frame, inside, face, row.colour);
         } else if (row.list != nullptr) {
             new ListView(form.*row.list, frame, inside, HeadingFace());
         } else {

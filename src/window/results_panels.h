@@ -1,13 +1,14 @@
 #pragma once
 
-#include "form/main_form.h"
+#include "engine/program.h"
 
 class QWidget;
 
 namespace Hesperin {
 
 /// Puts the panels of the main and of the alternative method on page 0. `page` begins `top` pixels
-/// below the top of the tab control.
-void BuildResultPanels(MainForm& form, QWidget& page, int top);
+/// below the top of the tab control. Each figure's accessible name tells what it is and by which
+/// method.
+void BuildResultPanels(Program& program, QWidget& page, int top);
 
 } // namespace Hesperin

@@ -86,10 +86,10 @@ void SelectorView::mousePressEvent(QMouseEvent* event) {
 void SelectorView::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Left:
-    case Qt::Key_Down:
+    case Qt::Key_Up:
         return Click(control.SelectedOption() - 1);
     case Qt::Key_Right:
-    case Qt::Key_Up:
+    case Qt::Key_Down:
         return Click(control.SelectedOption() + 1);
     case Qt::Key_Home:
         return Click(0);

@@ -5,8 +5,8 @@
 
 namespace Hesperin {
 
-/// A mastery selector: one light widget that looks and acts like a row of five radio buttons. The
-/// arrow keys, Home and End move the selection.
+/// A mastery selector: one light widget that looks and acts like a row of five radio buttons. Left
+/// and Up choose the option before, Right and Down the one behind, Home and End the outer ones.
 class SelectorView : public View<QWidget, MultiOption> {
 public:
     /// `token` is the caption of the box that it belongs to.

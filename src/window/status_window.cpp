@@ -41,13 +41,13 @@ void StatusWindow::paintEvent(QPaintEvent*) {
     QFont face = FigureFace();
     face.setPixelSize(32);
     QPainter painter(this);
-    painter.fillRect(0, 0, width(), TitleHeight, QColor(Colours::AboutGround));
+    painter.fillRect(0, 0, width(), TitleHeight, QColor(Colours().AboutBackground));
     painter.setFont(face);
-    painter.setPen(QColor(255, 0, 0));
+    painter.setPen(QColor(Colours().StatusShadow));
     const QString title = QString::fromUtf16(VersionRecord::Title);
     for (int copy = 0; copy < copies; ++copy) {
         if (copy == copies - 1)
-            painter.setPen(QColor(255, 255, 255));
+            painter.setPen(QColor(Colours().StatusTitle));
         painter.drawText(copy + 10, copy + 10 + QFontMetrics(face).ascent(), title);
     }
 }

@@ -5,6 +5,9 @@
 #include "window/parameters_page.h"
 #include "window/results_panels.h"
 #include "window/units.h"
+#include "window/window_fit.h"
+
+#include <QApplication>
 
 namespace Hesperin {
 
@@ -12,6 +15,15 @@ namespace {
 
 constexpr int BarHeight = 27;
 constexpr int LongestCaption = 260; // pixels; a long file name is shortened in the middle
+
+/// Lets the tab key lead from `before` through the widgets of the page; a page that is built late
+/// would come behind all others.
+void QueueForTabKey(QWidget& before, const QWidget& page) {
+    QWidget* last = &before;
+    for (QWidget* widget : page.findChildren<QWidget*>())
+        if (widget->focusPolicy() != Qt::NoFocus)
+            QWidget::setTabOrder(std::exchange(last, widget), widget);
+}
 
 } // namespace
 
@@ -31,7 +43,8 @@ public:
 private:
     void Sync() {
         const QFontMetrics metrics(bar.font());
-        bar.setTabText(index, metrics.elidedText(page.Caption(), Qt::ElideMiddle, LongestCaption));
+        QString text = metrics.elidedText(page.Caption(), Qt::ElideMiddle, LongestCaption);
+        bar.setTabText(index, text.replace(u'&', QLatin1String("&&"))); // no mnemonic
         bar.setTabToolTip(index, page.Caption());
         if (bar.currentIndex() == index && !page.On())
             bar.setCurrentIndex(0); // before the bar looks for a neighbour
@@ -44,16 +57,22 @@ private:
     QTabBar& bar;
 };
 
-TabView::TabView(Program& owner, QWidget* parent)
-    : QWidget(parent), program(owner), bar(new QTabBar(this)), stack(new QStackedWidget(this)) {
+TabView::TabView(Program& owner, QWidget* parent, const QRect& place, int pageWidth)
+    : QWidget(parent), program(owner), bar(new QTabBar(this)), scroll(new QScrollArea(this)),
+      stack(new QStackedWidget) {
     TabControl& tablus = program.form.Tablus;
     setObjectName(tablus.Name());
-    setGeometry(PixelRect(30, 0, 15315, 9255));
+    setGeometry(place);
     bar->setObjectName(QStringLiteral("Tablus.Bar"));
     bar->setGeometry(0, 2, width(), BarHeight - 2);
     bar->setDrawBase(true);
     bar->setElideMode(Qt::ElideNone);
-    stack->setGeometry(0, BarHeight, width(), height() - BarHeight);
+    stack->setFixedSize(pageWidth, WholeTabsHeight() - BarHeight);
+    scroll->setObjectName(QStringLiteral("Tablus.Scroll"));
+    scroll->setGeometry(0, BarHeight, width(), height() - BarHeight);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidget(stack);
     for (int page = 0; page < TabControl::PageCount; ++page) {
         auto* widget = new QWidget;
         widget->setObjectName(tablus.Tab(page).Name());
@@ -61,11 +80,14 @@ TabView::TabView(Program& owner, QWidget* parent)
         bar->addTab(QString());
         pages.push_back(std::make_unique<PageView>(tablus.Tab(page), page, *bar));
     }
+    connect(qApp, &QApplication::focusChanged, this, &TabView::FollowFocus);
     connect(bar, &QTabBar::currentChanged, this, [this](int page) { ShowPage(page); });
     ShowPage(0);
 }
 
-TabView::~TabView() = default;
+TabView::~TabView() {
+    disconnect(qApp, nullptr, this, nullptr); // the page in front loses the focus when it is gone
+}
 
 void TabView::BuildAll() {
     for (int page = 0; page < TabControl::PageCount; ++page)
@@ -76,10 +98,11 @@ void TabView::BuildPage(int page) {
     if (std::exchange(built.at(static_cast<std::size_t>(page)), true))
         return;
     QWidget& widget = *stack->widget(page);
+    widget.resize(stack->size());
     switch (page) {
     case 0:
         BuildParametersPage(program.form, widget, BarHeight);
-        BuildResultPanels(program.form, widget, BarHeight);
+        BuildResultPanels(program, widget, BarHeight);
         break;
     case 1:
         BuildAbilitiesPage(program, widget, BarHeight);
@@ -92,13 +115,33 @@ void TabView::BuildPage(int page) {
         break;
     default:
         (new FileView(program.form.RTBData, &widget))
-            ->setGeometry(PixelRect(120, 480, 15045, 8595).translated(0, -BarHeight));
+            ->setGeometry(PixelRect(120, 480, 15045, 8595)
+                              .translated(0, -BarHeight)
+                              .intersected(widget.rect())
+                              .intersected({QPoint(), scroll->maximumViewportSize()}));
     }
+    QueueForTabKey(*bar, widget);
 }
 
 void TabView::ShowPage(int page) {
     BuildPage(page);
+    scroll->ensureVisible(0, 0); // unless what gets the focus now stands lower
     stack->setCurrentIndex(page);
+}
+
+void TabView::ShowNeighbour(int step) {
+    int page = bar->currentIndex();
+    do
+        page = (page + step + bar->count()) % bar->count();
+    while (!program.form.Tablus.Tab(page).On());
+    bar->setCurrentIndex(page);
+}
+
+/// The mouse has only reached what is in sight.
+void TabView::FollowFocus(const QWidget* before, QWidget* now) {
+    const bool byMouse = before == nullptr || QGuiApplication::mouseButtons() != Qt::NoButton;
+    if (!byMouse && stack->isAncestorOf(now))
+        scroll->ensureWidgetVisible(now);
 }
 
 } // namespace Hesperin

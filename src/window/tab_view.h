@@ -2,19 +2,26 @@
 
 #include "engine/program.h"
 
+#include <QScrollArea>
 #include <QStackedWidget>
 #include <QTabBar>
 
 namespace Hesperin {
 
 /// The tab control with its five pages. A page that is off has no tab; when it was in front, page 0
-/// comes forward. A page is built when it is first shown.
+/// comes forward. A page is built when it is first shown; where there is no room for it, it
+/// scrolls.
 class TabView : public QWidget {
 public:
-    TabView(Program& program, QWidget* parent);
+    /// `pageWidth` pixels are wanted for the pages; their height is the given one.
+    TabView(Program& program, QWidget* parent, const QRect& place, int pageWidth);
     ~TabView() override;
     TabView(const TabView&) = delete;
     TabView& operator=(const TabView&) = delete;
+
+    /// Brings the next page forward that is on, or the one before (`step` is 1 or -1); behind the
+    /// last comes the first.
+    void ShowNeighbour(int step);
 
     /// Builds the pages that haven't been shown yet, for those who look at all widgets.
     void BuildAll();
@@ -24,9 +31,11 @@ private:
 
     void BuildPage(int page);
     void ShowPage(int page);
+    void FollowFocus(const QWidget* before, QWidget* now);
 
     Program& program;
     QTabBar* bar;
+    QScrollArea* scroll;
     QStackedWidget* stack;
     std::array<bool, TabControl::PageCount> built{};
     std::vector<std::unique_ptr<PageView>> pages;

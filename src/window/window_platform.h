@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/platform.h"
-#include "platform/single_instance.h"
 
 namespace Hesperin {
 
@@ -25,7 +24,7 @@ public:
     void SetFocus(Control& control) override;
     void Open(SecondaryWindow which) override;
     void ShowStatus(const QString& message) override;
-    bool OtherInstanceRuns() override { return instance.OtherRuns(); }
+    std::optional<RunningInstance> OtherInstance() override { return instance.Other(); }
     bool StartProgram(const QString& name) override;
     QStringList CalculatorNames() const override;
     QString ProgramFolder() const override;

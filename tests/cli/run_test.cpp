@@ -86,7 +86,10 @@ TEST(Run, WhatTheUserCouldNotDoChangesNothingAndIsNamed) {
                                "tick Specabilities(0)",
                                "untick Spells(1)",
                                "mastery soq(46) 1",
-                               "mastery saz(9) 1",
+                               "mastery saz(8) 1",
+                               "mastery saz(9)",
+                               "mastery saz(9) 5",
+                               "mastery saz(9) -1",
                                "mastery Abilities(9) 1",
                                "press cmdRAS",
                                "press mnuNew",
@@ -102,13 +105,14 @@ TEST(Run, WhatTheUserCouldNotDoChangesNothingAndIsNamed) {
                                "show nothing",
                                "show",
                                "choose ComboTier %1"};
-    const CliOutcome outcome = Play("state\n" + lines.join('\n') + "\nstate\n");
+    const QByteArray start = "tick Specabilities(9)\nmastery saz(9) 3\nstate\n";
+    const CliOutcome outcome = Play(start + lines.join('\n') + "\nstate\n", {"--keep-going"});
     EXPECT_EQ(outcome.code, 1);
     ASSERT_EQ(outcome.Complaints().size(), lines.size()) << outcome.err.toStdString();
     for (qsizetype i = 0; i < lines.size(); ++i) {
-        const QString start = QString("-:%1: ").arg(i + 2);
+        const QString place = QString("-:%1: ").arg(i + 1 + start.count('\n'));
         const QString complaint = outcome.Complaints()[i];
-        EXPECT_TRUE(complaint.startsWith(start) && complaint.size() > start.size() + 5)
+        EXPECT_TRUE(complaint.startsWith(place) && complaint.size() > place.size() + 5)
             << lines[i].toStdString() << " gave " << complaint.toStdString();
     }
     EXPECT_TRUE(outcome.Complaints().last().contains("'%1'")) << outcome.Complaints().last().toStdString();
@@ -119,27 +123,57 @@ TEST(Run, WhatTheUserCouldNotDoChangesNothingAndIsNamed) {
     EXPECT_EQ(after, outcome.Json(0));
 }
 
-TEST(Run, MasteryLevelsOutsideTheFiveAreRefused) {
-    const CliOutcome outcome = Play("tick Specabilities(9)\nmastery saz(9) 3\nmastery saz(9) 5\nmastery saz(9) -1\n"
-                                    "mastery saz(9)\nshow saz(9)\n");
-    EXPECT_EQ(outcome.Complaints().size(), 3);
-    EXPECT_EQ(outcome.out, "3\n");
+TEST(Run, AnErrorEndsItUnlessItIsToKeepGoing) {
+    const TestProgram files;
+    const QByteArray nowhere = files.Path("nowhere/a.xdb").toUtf8();
+    const struct {
+        QByteArray actions;
+        int failsAtLine; // 0: it is no error
+    } cases[] = {
+        {"bogus %2", 3},
+        {"\r\npress cmdRAS", 4},
+        {"menu mnuOpen " + nowhere, 3},
+        {"menu mnuSave " + nowhere, 3},
+        {"menu mnuNew", 0},
+        {"set txtNC\nmenu mnuSave " + nowhere, 0}, // asks for the name
+        {"set txtAttack 999\npress cmdCalc", 0},   // warns
+    };
+    for (const auto& test : cases)
+        for (const bool keepGoing : {false, true}) {
+            SCOPED_TRACE(testing::Message() << test.actions.data() << keepGoing);
+            const QString path =
+                files.Write("50%1.txt", "set txtNC a\r\npress cmdCalc\r\n" + test.actions + "\r\nshow lblMin");
+            const CliOutcome outcome = RunCli(QStringList{"run", path} + QStringList(keepGoing, "--keep-going"));
+            const bool fails = test.failsAtLine != 0;
+            EXPECT_EQ(outcome.code, fails ? 1 : 0);
+            EXPECT_EQ(outcome.out, fails && !keepGoing ? "" : "min\n");
+            EXPECT_EQ(outcome.Complaints().size(), fails ? 1 : 0);
+            EXPECT_TRUE(!fails ||
+                        outcome.err.startsWith(QString("%1:%2: ").arg(path, QString::number(test.failsAtLine))))
+                << outcome.err.toStdString();
+        }
 }
 
-TEST(Run, NamesTheScriptFileInComplaints) {
+TEST(Run, InputThatCannotBeReadEndsIt) {
     const TestProgram files;
-    for (const char* name : {"script.txt", "50%1.txt"}) {
-        const QString path = files.Write(name, "show txtNC\r\n\r\nbogus %2\r\nset txtNC a\r\nshow txtNC");
-        const CliOutcome outcome = RunCli({"run", path});
+    for (const QString& script : {files.Path("nowhere"), files.folder.path()}) {
+        const CliOutcome outcome = RunCli({"run", script});
         EXPECT_EQ(outcome.code, 1);
-        EXPECT_EQ(outcome.out, "\na\n") << "it goes on after the error";
-        EXPECT_EQ(outcome.Complaints().size(), 1);
-        EXPECT_TRUE(outcome.err.startsWith(path + ":3: ")) << outcome.err.toStdString();
+        EXPECT_TRUE(outcome.err.startsWith(script + ": ")) << outcome.err.toStdString();
     }
-    const CliOutcome missing = RunCli({"run", files.Path("nowhere")});
-    EXPECT_EQ(missing.code, 1);
-    EXPECT_TRUE(missing.err.startsWith(files.Path("nowhere") + ": "));
-    EXPECT_EQ(RunCli({"run", files.folder.path()}).code, 1);
+    if (!OnLinux)
+        GTEST_SKIP() << "the rest takes a shell";
+    const std::pair<const char*, const char*> cases[] = {{"- <&-", "-: Bad file descriptor\n"},
+                                                         {"- </", "-: Is a directory\n"},
+                                                         {"/proc/self/mem", "/proc/self/mem: Input/output error\n"}};
+    for (const auto& [script, complaint] : cases) {
+        QProcess process;
+        process.start("sh",
+                      {"-c", QString("LC_ALL=C exec \"$0\" run --keep-going ") + script, TestedProgram("talmir-cli")});
+        const CliOutcome outcome = FinishCli(process);
+        EXPECT_EQ(outcome.code, 1);
+        EXPECT_EQ(outcome.err, complaint);
+    }
 }
 
 TEST(Run, WaitsForInputThatComesInPieces) {

@@ -88,6 +88,61 @@ TEST_F(TextsTest, ComeOutOfTreesAndArchivesInAnySpelling) {
     }
 }
 
+TEST_F(TextsTest, ThatLieElsewhereAreFoundByTheGamesTable) {
+    const QString table = "GameMechanics/RefTables/CombatAbilities.xdb";
+    const QByteArray items = "<Item><ID>ABILITY_NONE</ID></Item>"
+                             "<Item><ID><!-- -->ability_leap</ID><Obj><Kind href=\"/no.txt\"/><NameFileRef href=\"\"/>"
+                             "<NameFileRef href=\"/Text/Jump/A.txt#xpointer(/x)\"/><OtherName href=\"/no.txt\"/>"
+                             "<parts><Item><ID>ABILITY_WOUND</ID><Description "
+                             "href=\"..\\./..\\Text/jump/B.txt\"/></Item></parts></Obj></Item>"
+                             "<Item><ID>ABILITY_LEAP</ID><Obj><NameFileRef href=\"/no.txt\"/></Obj></Item>"
+                             "<Item><ID>ABILITY_BASH</ID><Obj><NameFileRef href=\"/no.txt\"/></Obj></Item>"
+                             "<Item><ID>ABILITY_SHOOTER</ID><Obj><NameFileRef href=\"../../../no.txt\"/></Obj></Item>"
+                             "<Item><ID>ABILITY_TAUNT</ID><Obj><NameFileRef href=\"large.txt\"/></Obj></Item>";
+    const QByteArray xml = "<Table_of_any_name><objects>" + items + "</objects></Table_of_any_name>";
+    const Entries entries{{Tree + "Bash/Bash_name.txt", "regular"},
+                          {"Text/Jump/A.txt", "name"},
+                          {"Text/Jump/B.txt", "description"},
+                          {"GameMechanics/RefTables/large.txt", QByteArray((1 << 16) + 1, 'x')},
+                          {"no.txt", "not this one"}};
+    for (const auto& [name, bytes] : entries)
+        Write("tree/data/en/" + name, bytes);
+    Write("no.txt", "not this one");
+    WriteArchive("texts.pak", entries);
+    const auto withTable = [&](const QByteArray& content) {
+        Write("tree/data/" + table, content);
+        Write("loose/" + table.toLower(), content);
+        WriteArchive("table.pak", {{"data\\" + table.toUpper(), content}});
+    };
+    for (const QStringList& places : {QStringList{"tree"}, {"texts.pak", "table.pak"}, {"texts.pak", "loose"}}) {
+        SCOPED_TRACE(places.join(' ').toStdString());
+        withTable(xml);
+        QDir(Path("program/EN")).removeRecursively();
+        const CliOutcome outcome = Take(places);
+        EXPECT_EQ(Text("Leap/name.txt"), "name");
+        EXPECT_EQ(Text("Leap/description.txt"), "description");
+        EXPECT_EQ(Text("Bash/Bash_name.txt"), "regular");
+        EXPECT_EQ(outcome.Lines().filter("Leap/name.txt: ").size(), 1);
+        EXPECT_TRUE(outcome.Lines().filter("Leap/name.txt: ").value(0).endsWith(": Text/Jump/A.txt"));
+        EXPECT_TRUE(outcome.Lines().last().startsWith("3 of 348 texts copied to "));
+        EXPECT_EQ(outcome.Complaints().size(), 1);
+        EXPECT_TRUE(outcome.err.endsWith(": GameMechanics/RefTables/large.txt: it has more than 65536 bytes\n"));
+
+        const std::pair<QByteArray, const char*> refused[] = {
+            {xml.chopped(1), "it is not well-formed XML: "},
+            {xml + QByteArray(4 << 20, ' '), "it has more than 4194304 bytes"},
+            {"<T><I " + QByteArray(" a=''").repeated(1 << 16) + "/></T>",
+             "it has a tag or a document type without end"}};
+        for (const auto& [content, reason] : refused) {
+            withTable(content);
+            const CliOutcome without = Take(places);
+            EXPECT_EQ(without.Complaints().size(), 1);
+            EXPECT_TRUE(without.err.contains(": " + table + ": " + reason)) << without.err.toStdString();
+            EXPECT_TRUE(without.Lines().last().startsWith("1 of 348 texts copied to "));
+        }
+    }
+}
+
 TEST_F(TextsTest, AreAllCopiedByteByByteTheLaterLaidOverTheEarlier) {
     Entries all;
     for (const AbilityText& text : AbilityTexts())

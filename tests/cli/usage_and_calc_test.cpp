@@ -1,6 +1,8 @@
+#include "cli/calc_report.h"
 #include "cli/run_cli.h"
 #include "creature_files/creature_xml.h"
 #include "support/test_program.h"
+#include "ui/form_load.h"
 
 #include <gtest/gtest.h>
 
@@ -154,6 +156,22 @@ TEST(Calc, AFolderStandsForTheCreatureFilesBelowIt) {
     for (qsizetype line = 0; line < outcome.Lines().size(); ++line)
         found.append(outcome.Json(line)["file"].toString().mid(files.folder.path().size() + 1));
     EXPECT_EQ(found, (QStringList{"mod/1.xdb", "mod/a/3.XDB", "mod/b/2.xdb"}));
+}
+
+TEST(Calc, AZeroPowerLeavesOutWhatWasNotReached) {
+    CliPlatform platform;
+    Program program(platform);
+    Form_Load(program, {English, false});
+    program.state.PowerHesperin = 11;
+    program.state.PowerAverage = program.state.CostAverage = program.state.AdvisedTier = 7; // of the creature before
+    const QJsonObject object = CalcJson("a.xdb", true, program, platform);
+    const QJsonObject none{{"rolvane", QJsonValue()}, {"hesperin", QJsonValue()}, {"average", QJsonValue()}};
+    const QJsonObject power{{"rolvane", 0}, {"hesperin", 11}, {"average", QJsonValue()}};
+    EXPECT_EQ(object["figures"].toObject(),
+              (QJsonObject{{"power", power}, {"experience", none}, {"growth", none}, {"cost", none}}));
+    EXPECT_TRUE(object["advised_tier"].isNull());
+    const QString table = CalcTable("a.xdb", program, platform).simplified();
+    EXPECT_TRUE(table.contains("Power 0 11 - 0 Experience - - - 0 Growth - - - 0 Gold - - - 0")) << table.toStdString();
 }
 
 } // namespace

@@ -56,6 +56,7 @@ TEST(Open, ARefusedFileChangesNothing) {
             test.platform.dialogPath = path;
             test.form.mnuOpen.Click();
             EXPECT_EQ(Snapshot(test), before);
+            EXPECT_EQ(test.form.ComDialog.FileName, test.Path("Creature_200.xdb"));
             ASSERT_EQ(test.platform.boxes.size(), 1U);
             const ScriptedPlatform::Box& box = test.platform.boxes.front();
             EXPECT_EQ(static_cast<int>(box.icon), static_cast<int>(BoxIcon::Critical));
@@ -70,6 +71,30 @@ TEST(Open, ARefusedFileChangesNothing) {
             EXPECT_EQ(cyrillic, language == Russian) << reason.toStdString();
         }
     }
+}
+
+TEST(Open, TellsWhatTheParserSaysInTheLanguageOfTheWindow) {
+    const struct {
+        const char* document;
+        const char* english;
+        const char* russian;
+    } cases[] = {
+        {"<Creature></Gold>", "Opening and ending tag mismatch.", "Открывающий и закрывающий теги не совпадают."},
+        {"<Creature>&x;</Creature>", "Entity 'x' not declared.", "Сущность 'x' не объявлена."},
+        {"<Creature a='' a=''/>", "Attribute 'a' redefined.", "Атрибут 'a' указан дважды."},
+        {"<Creature/><x/>", "Extra content at end of document.", "За концом документа стоит что-то ещё."},
+        {"<Creature a=1/>", "Expected ''' or '\"', but got '[0-9]'.", "Ожидалось ''' или '\"', а стоит '[0-9]'."},
+        {"<!DOCTYPE Creature [<!ENTITY e SYSTEM 'f'>]><Creature>&e;</Creature>",
+         "Entity 'e' lies in another file, which is not read.",
+         "Сущность 'e' находится в другом файле, а он не читается."},
+    };
+    for (const auto& test : cases)
+        for (const auto& [language, words] : {std::pair(English, test.english), {Russian, test.russian}}) {
+            TestProgram program(language);
+            EXPECT_FALSE(OpenCreatureFile(program.program, program.Write("a.xdb", test.document)));
+            EXPECT_TRUE(program.program.failure.contains(QString("XML: ") + words))
+                << program.program.failure.toStdString();
+        }
 }
 
 TEST(Open, TheLargestFileIsStillRead) {

@@ -71,10 +71,10 @@ TEST(Save, WithoutANameNothingElseHappens) {
               QStringList{QString::fromUtf8("Пожалуйста, введите название существа в проекте TCX!")});
     EXPECT_EQ(static_cast<int>(test.platform.boxes[0].icon), static_cast<int>(BoxIcon::Critical));
     EXPECT_FALSE(QFile::exists(test.Path("out.xdb")));
-    EXPECT_FALSE(test.program.failure.isEmpty());
+    EXPECT_EQ(test.program.failure, "") << "a question is none";
 }
 
-TEST(Save, AFailureIsToldByTheStatusAndThePageIsShownAllTheSame) {
+TEST(Save, AFailureIsToldByOneBoxBehindThePage) {
     for (const Language language : {English, Russian})
         for (const char* place : {"missing/out.xdb", "folder.xdb"}) {
             SCOPED_TRACE(place);
@@ -83,12 +83,15 @@ TEST(Save, AFailureIsToldByTheStatusAndThePageIsShownAllTheSame) {
             QDir(test.folder.path()).mkpath("folder.xdb/inside");
             test.platform.dialogPath = test.Path(place);
             test.form.mnuSave.Click();
-            EXPECT_TRUE(test.platform.boxes.empty());
-            ASSERT_EQ(test.platform.status.size(), 1);
-            EXPECT_TRUE(test.platform.status[0].contains(test.Path(place)));
-            EXPECT_EQ(test.platform.status[0].contains(QString::fromUtf8("не сохранён")), language == Russian);
-            EXPECT_EQ(test.program.failure, test.platform.status[0]);
-            EXPECT_FALSE(test.form.frmMain.Enabled());
+            ASSERT_EQ(test.platform.boxes.size(), 1U);
+            const ScriptedPlatform::Box& box = test.platform.boxes[0];
+            EXPECT_EQ(static_cast<int>(box.icon), static_cast<int>(BoxIcon::Critical));
+            EXPECT_EQ(box.title, language == English ? "Warning!" : QString::fromUtf8("Внимание!"));
+            EXPECT_TRUE(box.text.contains(test.Path(place)));
+            EXPECT_EQ(box.text.contains(QString::fromUtf8("не сохранён")), language == Russian);
+            EXPECT_EQ(test.program.failure, box.text);
+            EXPECT_EQ(test.platform.status, QStringList());
+            EXPECT_TRUE(test.form.frmMain.Enabled());
             EXPECT_TRUE(test.form.Tablus.Tab(4).On());
             EXPECT_EQ(test.form.Tablus.Tab(4).Caption(), test.Path(place));
             EXPECT_TRUE(test.form.RTBData.Text().contains("/Neutral/Test."));

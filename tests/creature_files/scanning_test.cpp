@@ -28,6 +28,7 @@ TEST(TagNumber, ReadsTheNumberAtTheStartOfTheElement) {
         bool limited = false;
     } cases[] = {
         {"<Gold>1250</Gold>", 1250},
+        {"<Gold></Gold>", 0},
         {"<Gold>  -7.5 fast</Gold>", -8},
         {"x<Gold>1</Gold><Gold>2</Gold>", 1},
         {"<Gold1>9</Gold1><Gold>1</Gold>", 1},

@@ -35,7 +35,7 @@ TEST(Writer, WritesTheWholeFileInCatalogueOrder) {
     test.state.GrowthRolvane = 18;
     test.state.GrowthHesperin = 15;
 
-    EXPECT_EQ(CreatureFileBytes(BuildCreatureText(test.program, "Swamp_drake")),
+    EXPECT_EQ(CreatureFileBytes(BuildCreatureText(test.program, "Swamp_drake").text),
               "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
               "<Creature>\n"
               "\t<AttackSkill>4</AttackSkill>\n"
@@ -119,7 +119,7 @@ void ExpectPieces(std::initializer_list<PieceCase> cases) {
         SCOPED_TRACE(row.what);
         TestProgram test;
         row.act(test.form);
-        const QString text = BuildCreatureText(test.program, "Test");
+        const QString text = BuildCreatureText(test.program, "Test").text;
         EXPECT_TRUE(text.contains(QString::fromUtf8(row.piece))) << text.toStdString();
     }
 }

@@ -25,8 +25,7 @@ public:
         platform.programFolder = QCoreApplication::applicationDirPath();
         platform.settingsFolder = platform.programFolder;
         Form_Load(program, {language, true});
-        window = std::make_unique<MainWindow>(program);
-        window->setFixedSize(1030, 704); // whatever the screen
+        window = std::make_unique<MainWindow>(program, QSize(1920, 1080)); // whatever the screen
         window->show();
         QCoreApplication::processEvents();
     }

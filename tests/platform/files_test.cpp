@@ -1,46 +1,18 @@
+#include "platform/files.h"
+
 #include "platform/code_page.h"
 #include "platform/path_lookup.h"
 #include "platform/read_file.h"
-#include "platform/save_file.h"
 #include "platform/single_instance.h"
 #include "platform/text_file.h"
-#include "support/test_program.h"
-
-#include <gtest/gtest.h>
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QDir>
-#include <QFile>
 #include <QProcess>
-
-#ifdef Q_OS_WIN
-#include <windows.h>
-#endif
 
 namespace Hesperin {
 
 namespace {
-
-/// A folder of its own for one test.
-class Files : public ::testing::Test {
-protected:
-    QString Path(const QString& name) const { return folder.filePath(name); }
-
-    QString Write(const QString& name, const QByteArray& bytes) const {
-        QDir().mkpath(QFileInfo(Path(name)).path());
-        QFile file(Path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-        return Path(name);
-    }
-
-    QStringList Names() const {
-        return QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden);
-    }
-
-    QTemporaryDir folder;
-};
 
 using ReadFileTest = Files;
 
@@ -76,53 +48,6 @@ TEST_F(ReadFileTest, TellsWhyAFileCannotBeRead) {
         EXPECT_EQ(static_cast<int>(std::get<FileObstacle>(content).kind), static_cast<int>(test.kind));
     }
 }
-
-using SaveFileTest = Files;
-
-TEST_F(SaveFileTest, WritesTheWholeContentAndNothingElse) {
-    EXPECT_FALSE(SaveFile(Path("new"), "first\n"));
-    EXPECT_EQ(ReadAll(Path("new")), "first\n");
-    EXPECT_FALSE(SaveFile(Path("new"), "2")) << "over a longer old one";
-    EXPECT_EQ(ReadAll(Path("new")), "2");
-    EXPECT_EQ(Names(), QStringList{"new"}) << "no temporary file stays";
-}
-
-TEST_F(SaveFileTest, LeavesNothingBehindWhereItCannotWrite) {
-    EXPECT_TRUE(SaveFile(Path("missing/new"), "x"));
-    EXPECT_EQ(Names(), QStringList());
-
-    Write("taken/inside", "old");
-    EXPECT_TRUE(SaveFile(Path("taken"), "x")) << "a folder stands there";
-    EXPECT_EQ(ReadAll(Path("taken/inside")), "old");
-    EXPECT_EQ(Names(), QStringList{"taken"});
-    EXPECT_TRUE(SaveFile({}, "x"));
-}
-
-TEST_F(SaveFileTest, WritesThroughASymbolicLink) {
-    const QString target = Write("target", "old");
-    if (!QFile::link(target, Path("link")) || !QFileInfo(Path("link")).isSymLink())
-        GTEST_SKIP() << "no symbolic links here";
-    EXPECT_FALSE(SaveFile(Path("link"), "new"));
-    EXPECT_TRUE(QFileInfo(Path("link")).isSymLink());
-    EXPECT_EQ(ReadAll(target), "new");
-}
-
-#ifdef Q_OS_WIN
-TEST_F(SaveFileTest, TellsThatAnotherProgramHoldsTheFile) {
-    const QString path = Write("held", "old");
-    const HANDLE holder = CreateFileW(QDir::toNativeSeparators(path).toStdWString().c_str(), GENERIC_READ, 0, nullptr,
-                                      OPEN_EXISTING, 0, nullptr);
-    ASSERT_NE(holder, INVALID_HANDLE_VALUE);
-    const auto save = SaveFile(path, "new");
-    const auto read = ReadFile(path, 100);
-    CloseHandle(holder);
-    ASSERT_TRUE(save && std::holds_alternative<FileObstacle>(read));
-    EXPECT_EQ(static_cast<int>(save->kind), static_cast<int>(FileObstacle::Kind::InUse));
-    EXPECT_EQ(static_cast<int>(std::get<FileObstacle>(read).kind), static_cast<int>(FileObstacle::Kind::InUse));
-    EXPECT_EQ(ReadAll(path), "old");
-    EXPECT_EQ(Names(), QStringList{"held"});
-}
-#endif
 
 TEST(DecodeText, RecognisesTheEncoding) {
     const QString dragon = QString::fromUtf8("Дракон");
@@ -204,18 +129,25 @@ TEST_F(PathLookupTest, PrefersTheExactSpellingAndElseDisregardsLetterCase) {
     EXPECT_EQ(PathLookup(Path("missing")).Find({"EN"}), "");
 }
 
-using SingleInstanceTest = Files;
+struct SingleInstanceTest : Files {
+    /// The lines of a lock that this process holds.
+    QList<QByteArray> OwnLock() const {
+        SingleInstance holder(Path("own"));
+        EXPECT_FALSE(holder.Other());
+        return ReadAll(Path("own/talmir.lock")).split('\n');
+    }
+};
 
 TEST_F(SingleInstanceTest, TheSecondSeesTheFirstUntilItEnds) {
     SingleInstance second(Path("settings/deep"));
     {
         SingleInstance first(Path("settings/deep"));
-        EXPECT_FALSE(first.OtherRuns());
-        EXPECT_FALSE(first.OtherRuns()) << "asked again, it is still the only one";
-        EXPECT_TRUE(second.OtherRuns());
-        EXPECT_FALSE(SingleInstance(Path("elsewhere")).OtherRuns());
+        EXPECT_FALSE(first.Other());
+        EXPECT_FALSE(first.Other()) << "asked again, it is still the only one";
+        EXPECT_TRUE(second.Other());
+        EXPECT_FALSE(SingleInstance(Path("elsewhere")).Other());
     }
-    EXPECT_FALSE(second.OtherRuns());
+    EXPECT_FALSE(second.Other());
 }
 
 TEST_F(SingleInstanceTest, TakesOverTheLockOfAProcessThatNoLongerRuns) {
@@ -225,31 +157,46 @@ TEST_F(SingleInstanceTest, TakesOverTheLockOfAProcessThatNoLongerRuns) {
     ASSERT_TRUE(ended.waitForFinished());
     ASSERT_GT(endedId, 0);
 
-    QList<QByteArray> lock;
-    {
-        SingleInstance first(Path("a"));
-        ASSERT_FALSE(first.OtherRuns());
-        lock = ReadAll(Path("a/talmir.lock")).split('\n');
-    }
+    QList<QByteArray> lock = OwnLock();
     ASSERT_EQ(lock.first(), QByteArray::number(QCoreApplication::applicationPid()));
     Write("b/talmir.lock", lock.join('\n'));
-    EXPECT_TRUE(SingleInstance(Path("b")).OtherRuns()) << "the process of this lock does run";
+    EXPECT_TRUE(SingleInstance(Path("b")).Other()) << "the process of this lock does run";
     lock.first() = QByteArray::number(endedId);
     Write("c/talmir.lock", lock.join('\n'));
-    EXPECT_FALSE(SingleInstance(Path("c")).OtherRuns());
+    EXPECT_FALSE(SingleInstance(Path("c")).Other());
 }
 
 TEST_F(SingleInstanceTest, TakesOverTheLockOfAProcessThatHadItsNumber) {
-    {
-        SingleInstance first(Path("a"));
-        ASSERT_FALSE(first.OtherRuns());
-        Write("b/talmir.lock", ReadAll(Path("a/talmir.lock")));
-    }
-    QFile left(Path("b/talmir.lock"));
+    QFile left(Write("b/talmir.lock", OwnLock().join('\n')));
     ASSERT_TRUE(left.open(QIODevice::ReadWrite));
     ASSERT_TRUE(left.setFileTime(QDateTime::currentDateTime().addDays(-1), QFileDevice::FileModificationTime));
     left.close();
-    EXPECT_FALSE(SingleInstance(Path("b")).OtherRuns());
+    EXPECT_FALSE(SingleInstance(Path("b")).Other());
+}
+
+TEST_F(SingleInstanceTest, TellsTheLockOfAnotherComputerByItsNumberOrElseItsName) {
+    const QString here = QSysInfo::machineHostName();
+    const QByteArray number = QSysInfo::machineUniqueId();
+    struct Case {
+        QString host;
+        QByteArray number;
+        QString otherHost;
+    };
+    QList<Case> cases{{"attic", "", "attic"}, {here, "", ""}};
+    if (!number.isEmpty())
+        cases += {{"attic", "another", "attic"}, {here, "another", here}, {"its old name", number, ""}};
+    for (const Case& test : cases) {
+        SCOPED_TRACE(test.host.toStdString() + ' ' + test.number.toStdString());
+        QByteArrayList lock = OwnLock();
+        lock[2] = test.host.toUtf8();
+        lock[3] = test.number;
+        const QString path = Write("b/talmir.lock", lock.join('\n'));
+        const auto other = SingleInstance(Path("b")).Other();
+        ASSERT_TRUE(other);
+        EXPECT_EQ(other->otherHost, test.otherHost);
+        EXPECT_EQ(other->lockFile, path);
+        EXPECT_EQ(ReadAll(path), lock.join('\n')) << "it is left alone";
+    }
 }
 
 TEST_F(SingleInstanceTest, TakesOverALockThatCannotBeRead) {
@@ -258,16 +205,16 @@ TEST_F(SingleInstanceTest, TakesOverALockThatCannotBeRead) {
         SCOPED_TRACE(content);
         Write("d/talmir.lock", content);
         SingleInstance first(Path("d"));
-        EXPECT_FALSE(first.OtherRuns());
-        EXPECT_TRUE(SingleInstance(Path("d")).OtherRuns()) << "it holds the lock now";
+        EXPECT_FALSE(first.Other());
+        EXPECT_TRUE(SingleInstance(Path("d")).Other()) << "it holds the lock now";
     }
 }
 
 TEST_F(SingleInstanceTest, TheProgramStartsWhereNoLockCanBeHad) {
     Write("file", "no folder");
-    EXPECT_FALSE(SingleInstance(Path("file/settings")).OtherRuns());
+    EXPECT_FALSE(SingleInstance(Path("file/settings")).Other());
     Write("e/talmir.lock/inside", "a folder in its place");
-    EXPECT_FALSE(SingleInstance(Path("e")).OtherRuns());
+    EXPECT_FALSE(SingleInstance(Path("e")).Other());
 }
 
 } // namespace

@@ -41,7 +41,7 @@ private:
     QString WrongAboutOpened() const {
         if (test.form.RTBData.Text().size() > 32767)
             return "the text is longer than its positions reach";
-        if (!BuildCreatureText(test.program, "Name").endsWith("</Creature>"))
+        if (!BuildCreatureText(test.program, "Name").text.endsWith("</Creature>"))
             return "it cannot be written";
         return BrokenInvariant(test.program);
     }

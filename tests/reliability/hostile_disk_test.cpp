@@ -25,10 +25,8 @@ struct HostileDisk : testing::Test {
 
     /// Saves, and gives what the user was told.
     QString SaveTo(const QString& path) {
-        test.platform.status.clear();
         test.platform.dialogPath = path;
-        test.form.mnuSave.Click();
-        return test.platform.status.join('|');
+        return test.BoxesOf([&] { test.form.mnuSave.Click(); }).join('|');
     }
 
     /// Everything in the folder, with the content of files.

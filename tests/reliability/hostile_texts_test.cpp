@@ -21,7 +21,7 @@ struct HostileTexts : testing::Test {
     /// A program that hasn't started, whose language is Russian and whose first ability has a name.
     HostileTexts() {
         QFile::setPermissions(test.folder.path(), QFile::Permissions(0x7777));
-        QDir(test.folder.path()).mkpath(Tree + "/Acidborn");
+        QDir(test.folder.path()).mkpath(Tree + "/AcidBlood");
         test.Write("lang.ini", "RU");
     }
 
@@ -91,29 +91,31 @@ TEST_F(HostileTexts, AnythingInThePlaceOfLangIniGivesALanguage) {
 }
 
 TEST_F(HostileTexts, AnythingInThePlaceOfATextGivesNone) {
-    const QString name = test.Path(Tree + "/Acidborn/name.txt");
+    const QString name = test.Path(Tree + "/AcidBlood/name.txt");
     const struct {
         const char* what;
         std::function<void()> place;
+        QStringList texts = {};
     } cases[] = {
         {"nothing", [] {}},
+        {"a text, so that this is a place that is read", [&] { test.Write(Tree + "/AcidBlood/name.txt", "x"); }, {"x"}},
         {"a folder", [&] { QDir().mkpath(name); }},
         {"protected",
          [&] {
-             test.Write(Tree + "/Acidborn/name.txt", "x");
+             test.Write(Tree + "/AcidBlood/name.txt", "x");
              QFile::setPermissions(name, {});
          }},
         {"100 MiB",
          [&] {
-             QFile file(test.Write(Tree + "/Acidborn/name.txt", "x"));
+             QFile file(test.Write(Tree + "/AcidBlood/name.txt", "x"));
              EXPECT_TRUE(file.resize(100 << 20));
          }},
         {"a pipe", [&] { QProcess::execute("mkfifo", {name}); }},
         {"a link in a loop", [&] { QFile::link(name, name); }},
         {"a folder in a loop",
          [&] {
-             QDir().rmpath(test.Path(Tree + "/Acidborn"));
-             QFile::link(test.Path("RU"), test.Path(Tree + "/Acidborn"));
+             QDir().rmdir(test.Path(Tree + "/AcidBlood"));
+             EXPECT_TRUE(QFile::link(test.Path("RU"), test.Path(Tree + "/AcidBlood")));
          }},
         {"a file in place of the tree",
          [&] {
@@ -125,11 +127,11 @@ TEST_F(HostileTexts, AnythingInThePlaceOfATextGivesNone) {
         SCOPED_TRACE(row.what);
         QFile::remove(test.Path("RU"));
         QDir(test.Path("RU")).removeRecursively();
-        QDir(test.folder.path()).mkpath(Tree + "/Acidborn");
+        QDir(test.folder.path()).mkpath(Tree + "/AcidBlood");
         row.place();
         const qint64 before = PeakMemory();
         EXPECT_EQ(Start(), Russian);
-        EXPECT_EQ(Texts(), QStringList());
+        EXPECT_EQ(Texts(), row.texts);
         EXPECT_LT(PeakMemory() - before, qint64{8} << 20);
     }
 }

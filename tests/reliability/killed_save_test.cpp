@@ -74,24 +74,59 @@ TEST(KilledSave, AFileThatMayNotGrowKeepsTheOldContent) {
     EXPECT_TRUE(outcome.err.contains("old.xdb")) << outcome.err.toStdString();
 }
 
-TEST(KilledSave, AFullDiskKeepsTheOldFileAndIsNamed) {
+TEST(KilledSave, WhatDoesNotReachTheDiskIsTold) {
+    const struct {
+        const char* failing;
+        const char* language;
+        int code;
+        const char* told;
+    } cases[] = {
+        {"file", "EN", 1, "was not saved. The system says: "},
+        {"file", "RU", 1, "не сохранён. Система сообщает: "},
+        {"folder", "EN", 0, "was saved. Its folder could not be written"},
+        {"folder", "RU", 0, "сохранён. Папку ещё не удалось записать"},
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(testing::Message() << row.failing << ' ' << row.language);
+        const TestProgram files;
+        const QString path = files.Write("old.xdb", "precious");
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("LD_PRELOAD", TALMIR_FAILING_SYNC);
+        environment.insert("TALMIR_FAILING_SYNC", row.failing);
+        environment.insert("ASAN_OPTIONS", "verify_asan_link_order=0");
+        process.setProcessEnvironment(environment);
+        const QString script = files.Write("script", ScriptThatSaves(path, 1) + "state\n");
+        process.start(TestedProgram("talmir-cli"), {"run", script, "--lang", row.language});
+        const CliOutcome outcome = FinishCli(process);
+        EXPECT_EQ(outcome.code, row.code) << outcome.err.toStdString();
+        EXPECT_TRUE((outcome.out + outcome.err).contains(QString::fromUtf8(row.told))) << outcome.out.toStdString();
+        EXPECT_EQ(ReadAll(path) == "precious", row.code == 1);
+        EXPECT_EQ(QDir(files.folder.path()).entryList(QDir::Files | QDir::Hidden), (QStringList{"old.xdb", "script"}));
+    }
+}
+
+TEST(KilledSave, ADiskThatTakesNothingKeepsTheOldFileAndIsNamed) {
     const TestProgram files;
-    QProcess mount;
-    mount.start("mount", {"-t", "tmpfs", "-o", "size=16k", "tmpfs", files.folder.path()});
-    if (!mount.waitForFinished() || mount.exitCode() != 0)
+    const QString disk = files.folder.path();
+    if (QProcess::execute("mount", {"-t", "tmpfs", "-o", "size=16k", "tmpfs", disk}) != 0)
         GTEST_SKIP() << "no right to make a small disk";
     files.Write("old.xdb", "precious");
-    for (const char* language : {"EN", "RU"}) {
-        files.Write("filler", QByteArray(3 * 4096, 'x')); // and old.xdb another 4096
-        const CliOutcome outcome = Play(ScriptThatSaves(files.Path("old.xdb"), 1), {"--lang", language});
-        EXPECT_EQ(outcome.code, 1);
+    files.Write("filler", QByteArray(3 * 4096, 'x')); // and old.xdb another 4096
+    const std::pair<const char*, const char*> full{"The disk is full.", "На диске нет места."};
+    const std::pair<const char*, const char*> readOnly{"The disk can only be read.", "С диска можно только читать."};
+    for (const auto& [english, russian] : {full, readOnly}) {
+        for (const auto& [language, reason] : {std::pair("EN", english), std::pair("RU", russian)})
+            for (const char* name : {"old.xdb", "new.xdb"}) {
+                const CliOutcome outcome = Play(ScriptThatSaves(files.Path(name), 1), {"--lang", language});
+                EXPECT_EQ(outcome.code, 1);
+                EXPECT_TRUE(outcome.err.contains(QString::fromUtf8(reason))) << outcome.err.toStdString();
+            }
         EXPECT_EQ(ReadAll(files.Path("old.xdb")), "precious");
-        const QString reason = QString::fromUtf8(*language == 'E' ? "The disk is full." : "На диске нет места.");
-        EXPECT_TRUE(outcome.err.contains(reason)) << outcome.err.toStdString();
-        EXPECT_EQ(QDir(files.folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 2)
-            << "nothing is left behind";
+        EXPECT_EQ(QDir(disk).entryList(QDir::Files | QDir::Hidden).size(), 2) << "nothing is left behind";
+        QProcess::execute("mount", {"-o", "remount,ro", disk});
     }
-    QProcess::execute("umount", {files.folder.path()});
+    QProcess::execute("umount", {disk});
 }
 
 } // namespace

@@ -25,7 +25,7 @@ public:
     void SetFocus(Control& control) override { focus.append(control.Name()); }
     void Open(SecondaryWindow window) override { opened.push_back(window); }
     void ShowStatus(const QString& message) override { status.append(message); }
-    bool OtherInstanceRuns() override { return otherInstanceRuns; }
+    std::optional<RunningInstance> OtherInstance() override { return otherInstance; }
     bool StartProgram(const QString& name) override;
     QStringList CalculatorNames() const override { return calculators; }
     QString ProgramFolder() const override { return programFolder; }
@@ -38,7 +38,7 @@ public:
     // What it answers.
     std::optional<QString> dialogPath; ///< none: the dialog is cancelled
     bool answerYes = true;
-    bool otherInstanceRuns = false;
+    std::optional<RunningInstance> otherInstance;
     QStringList calculators{"first", "second"};
     QStringList startable; ///< the programs that can be started
     QString programFolder;

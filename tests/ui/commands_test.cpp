@@ -1,4 +1,5 @@
 #include "support/test_program.h"
+#include "ui/form_load.h"
 #include "ui/window_commands.h"
 
 #include <gtest/gtest.h>
@@ -88,7 +89,7 @@ TEST(Calculator, TriesTheNamesInOrderUntilOneStarts) {
     const struct {
         QStringList startable;
         QStringList started;
-        QStringList status;
+        QStringList told;
     } cases[] = {
         {{"one", "two"}, {"one"}, {}},
         {{"two", "three"}, {"one", "two"}, {}},
@@ -100,9 +101,22 @@ TEST(Calculator, TriesTheNamesInOrderUntilOneStarts) {
         test.platform.startable = row.startable;
         test.form.mnuCalculator.Click();
         EXPECT_EQ(test.platform.started, row.started);
-        EXPECT_EQ(test.platform.status, row.status);
-        EXPECT_EQ(test.form.frmMain.Enabled(), row.status.isEmpty());
-        EXPECT_TRUE(test.platform.boxes.empty());
+        EXPECT_EQ(test.platform.Texts(), row.told);
+        EXPECT_TRUE(test.form.frmMain.Enabled());
+    }
+}
+
+TEST(HighContrast, IsRememberedByTheWindowAlone) {
+    TestProgram test;
+    for (const bool on : {true, false}) {
+        test.form.mnuHighContrast.Click();
+        EXPECT_EQ(test.form.mnuHighContrast.Checked(), on);
+        EXPECT_EQ(ReadAll(test.Path("contrast.ini")), on ? "HIGH" : "GIVEN");
+        Program next(test.platform);
+        Form_Load(next, {English, false});
+        EXPECT_FALSE(next.form.mnuHighContrast.Checked());
+        RestoreHighContrast(next);
+        EXPECT_EQ(next.form.mnuHighContrast.Checked(), on);
     }
 }
 

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
+
 namespace Hesperin {
 
 namespace {
@@ -30,6 +32,20 @@ TEST_F(StartUp, TheLanguageFileChoosesTheLanguageAndTheAbilityTexts) {
     EXPECT_EQ(form.ComboFaction.Text(), "Неизвестно");
     EXPECT_EQ(form.utbN(16).Text(), "Оглушение");
     EXPECT_EQ(ReadAll(test.Path("lang.ini")), "RU\r\n"); // rewritten at quit only
+}
+
+TEST_F(StartUp, IsRefusedBesideAnotherInstanceWithTheFileToDeleteIfThatIsElsewhere) {
+    test.Write("lang.ini", "RU");
+    const QString lock = QDir::toNativeSeparators("/home/a %1/talmir.lock");
+    const std::pair<RunningInstance, QString> cases[] = {{{"", lock}, "Нельзя запускать эту программу дважды!"},
+                                                         {{"attic", lock},
+                                                          "TALMIR уже запущена на компьютере \"attic\" или была там "
+                                                          "прервана. Если она там не запущена, удалите файл \"" +
+                                                              lock + "\" и запустите её снова."}};
+    for (const auto& [other, text] : cases) {
+        test.platform.otherInstance = other;
+        EXPECT_EQ(test.BoxesOf([&] { EXPECT_FALSE(Form_Load(test.program)); }), QStringList{text});
+    }
 }
 
 TEST_F(StartUp, FieldsAndListsShowTheirFirstValues) {

@@ -6,6 +6,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QRegularExpression>
 
 namespace Hesperin {
 
@@ -63,7 +64,8 @@ private:
         if (actions.size() != 1)
             return Expect(false, entry, "has not exactly one action");
         const QAction& action = *actions.first();
-        Expect(action.text() == entry.Caption(), entry, "caption");
+        static const QRegularExpression mnemonic("&(.)");
+        Expect(QString(action.text()).replace(mnemonic, "\\1") == entry.Caption(), entry, "caption");
         Expect(action.isEnabled() == entry.Enabled(), entry, "enabled");
         Expect(action.isVisible() == entry.Visible(), entry, "visible");
         Expect(action.isChecked() == entry.Checked(), entry, "check mark");
@@ -78,7 +80,7 @@ private:
         Expect(bar.tabToolTip(index) == page.Caption(), page, "tool tip");
         Expect(use.Find(page.Name()).isVisible() == (bar.currentIndex() == index), page, "in front");
         if (page.Caption().size() < 20) // a longer one may be shortened
-            Expect(bar.tabText(index) == page.Caption(), page, "caption");
+            Expect(bar.tabText(index) == QString(page.Caption()).replace("&", "&&"), page, "caption");
     }
 
     void CompareContent(const Control& control, QWidget& widget) {
@@ -112,7 +114,8 @@ private:
         for (int index = 0; index < shown.count(); ++index)
             items.append(shown.itemText(index));
         Expect(items == list.Items(), list, "entries");
-        Expect(shown.currentIndex() == list.Index(), list, "entry");
+        Expect(shown.currentIndex() == list.Items().indexOf(list.Text()), list, "entry");
+        Expect(shown.accessibleName().endsWith(list.Text()), list, "name");
         Expect(!shown.isEditable(), list, "is editable");
     }
 

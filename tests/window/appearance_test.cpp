@@ -1,6 +1,7 @@
 // No text is cut off and none is lost on its ground, in either language.
 #include "form/result_labels.h"
 #include "window/agreement.h"
+#include "window/palette.h"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +15,8 @@ namespace {
 
 /// A window with all that it can show: every page on, every panel shown, results filled in.
 struct FullWindow : WindowInUse {
-    explicit FullWindow(Language language) : WindowInUse(language) {
+    explicit FullWindow(Language language, const QByteArray& contrast = "")
+        : WindowInUse(language, [&](const QString& place) { WriteFile(place + "/contrast.ini", contrast); }) {
         for (const int ability : {29, 147})
             form.Abilities(ability).SetTicked(true);
         form.frmAM.SetVisible(true);
@@ -96,6 +98,9 @@ TEST_P(Texts, InDropDownsAreWhole) {
 TEST(Fields, ShrinkTheirTextUntilItFits) {
     const FullWindow use(English);
     const auto& nameField = use.Find<QLineEdit>("txtNC");
+    use.ForEach<QLineEdit>([&](const QLineEdit& field) {
+        EXPECT_EQ(field.font() == nameField.font(), &field == &nameField) << "the name has a font of its own";
+    });
     QString name; // somewhat too wide, whatever the font
     while (QFontMetrics(nameField.font()).horizontalAdvance(name) < nameField.width() * 5 / 4)
         name += u'm';
@@ -111,27 +116,78 @@ TEST(Fields, ShrinkTheirTextUntilItFits) {
 /// How far apart two colours are in lightness, from 1 (the same) to 21.
 double Contrast(const QColor& one, const QColor& other) {
     const auto lightness = [](const QColor& colour) {
-        const auto part = [](double value) { return std::pow(value, 2.2); };
+        const auto part = [](double value) {
+            return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+        };
         return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF()) + 0.05;
     };
     const double a = lightness(one), b = lightness(other);
     return std::max(a, b) / std::min(a, b);
 }
 
-TEST(Colours, LoseNoTextOnItsGround) {
-    static constexpr double least = 1.5;
-    const FullWindow use(English);
-    const int widgets = use.ForEach<QWidget>([](const QWidget& widget) {
+/// Expects this contrast, at least, of each text with its background.
+void ExpectTexts(const FullWindow& use, double least) {
+    const int widgets = use.ForEach<QWidget>([&](const QWidget& widget) {
         const bool field = qobject_cast<const QLineEdit*>(&widget) || qobject_cast<const QPlainTextEdit*>(&widget);
         const bool button = qobject_cast<const QPushButton*>(&widget) || qobject_cast<const QComboBox*>(&widget);
         for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
             const auto colour = [&](QPalette::ColorRole role) { return widget.palette().color(group, role); };
-            const QColor ink = colour(field ? QPalette::Text : button ? QPalette::ButtonText : QPalette::WindowText);
-            const QColor ground = colour(field ? QPalette::Base : button ? QPalette::Button : QPalette::Window);
-            EXPECT_GE(Contrast(ink, ground), least) << group;
+            const QColor text = colour(field ? QPalette::Text : button ? QPalette::ButtonText : QPalette::WindowText);
+            const QColor behind = field    ? colour(QPalette::Base)
+                                  : button ? colour(QPalette::Button)
+                                           : use.window->palette().color(group, QPalette::Window);
+            EXPECT_GE(Contrast(text, behind), least) << group;
         }
     });
     EXPECT_GT(widgets, 500);
+}
+
+TEST(Colours, LoseNoTextOnItsBackground) { ExpectTexts(FullWindow(English), 1.5); }
+
+/// The contrast with the window of what stands out most in a part of the widget's picture.
+double Strongest(QWidget& widget, const QRect& part) {
+    const QImage picture = widget.grab(part).toImage();
+    double strongest = 1;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            strongest = std::max(strongest, Contrast(picture.pixelColor(x, y), QColor(Colours().Background)));
+    return strongest;
+}
+
+TEST(Colours, OfHighContrastStandOut) {
+    const struct {
+        Colour colour, background;
+        double least;
+    } pairs[] = {
+        {&ColourTable::StatusTitle, &ColourTable::AboutBackground, 4.5},
+        {&ColourTable::StatusTitle, &ColourTable::StatusShadow, 4.5},
+        {&ColourTable::Accent, &ColourTable::Field, 4.5}, // a selected text
+        {&ColourTable::TextOff, &ColourTable::FieldOff, 4.5},
+        {&ColourTable::Alternative, &ColourTable::Background, 4.5},
+        {&ColourTable::Line, &ColourTable::Background, 3},
+        {&ColourTable::FocusLine, &ColourTable::Background, 3},
+    };
+    for (const auto& [colour, background, least] : pairs)
+        EXPECT_GE(Contrast(HighContrastColours.*colour, HighContrastColours.*background), least) << &pairs;
+
+    for (const bool fromStart : {false, true}) {
+        const FullWindow use(English, fromStart ? "HIGH" : "GIVEN");
+        const QImage given = use.window->grab().toImage();
+        const auto change = [&] { use.Pick({"mnuOptions", "mnuHighContrast"}); };
+        if (!fromStart)
+            change();
+        ExpectTexts(use, 4.5);
+        use.ForEach<QLabel>(
+            [](QLabel& label) { EXPECT_TRUE(label.text().isEmpty() || Strongest(label, label.rect()) >= 4.5); });
+        use.ForEach<QWidget>([](QWidget& widget) { // outlines, at the left edge
+            const QRect edge(0, 5, 3, widget.height() - 10);
+            const bool page = widget.objectName().startsWith("Tablus");
+            EXPECT_TRUE(page || qobject_cast<QLabel*>(&widget) || Strongest(widget, edge) >= 3);
+        });
+        EXPECT_GE(Strongest(use.Find("Tablus.Bar"), {0, 5, 3, 10}), 3);
+        change();
+        EXPECT_EQ(use.window->grab().toImage() == given, !fromStart);
+    }
 }
 
 } // namespace

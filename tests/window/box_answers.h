@@ -23,6 +23,7 @@ public:
         QMessageBox::Icon icon;
         QString title;
         QString text;
+        int width;
     };
 
     BoxAnswers() {
@@ -71,7 +72,7 @@ private:
     }
 
     void AnswerBox(QMessageBox& box) {
-        boxes.push_back({box.icon(), box.windowTitle(), box.text()});
+        boxes.push_back({box.icon(), box.windowTitle(), box.text(), box.width()});
         buttonTexts.clear();
         for (const QAbstractButton* button : box.buttons())
             buttonTexts.append(button->text());

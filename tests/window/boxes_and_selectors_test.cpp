@@ -46,8 +46,8 @@ TEST(Selectors, TakeEachOptionByMouse) {
 
 TEST(Selectors, TakeEachOptionByKeyboard) {
     const std::pair<Qt::Key, int> steps[] = {
-        {Qt::Key_Right, 1}, {Qt::Key_Up, 2},   {Qt::Key_Left, 1}, {Qt::Key_End, 4}, {Qt::Key_Right, 4},
-        {Qt::Key_Down, 3},  {Qt::Key_Home, 0}, {Qt::Key_Left, 0}, {Qt::Key_X, 0},
+        {Qt::Key_Right, 1}, {Qt::Key_Down, 2}, {Qt::Key_Left, 1}, {Qt::Key_End, 4}, {Qt::Key_Right, 4},
+        {Qt::Key_Up, 3},    {Qt::Key_Home, 0}, {Qt::Key_Left, 0}, {Qt::Key_X, 0},
     };
     const WindowInUse use;
     use.form.Specabilities(54).SetTicked(true);

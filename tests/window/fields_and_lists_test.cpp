@@ -35,6 +35,44 @@ TEST(Fields, AreTypedIntoWhereTheCursorStands) {
     EXPECT_EQ(use.form.txtHealth.Text(), "7");
 }
 
+TEST(Fields, HaveTheirContentSelectedWhenTheyGetTheFocus) {
+    const WindowInUse use;
+    const auto expectTyped = [&](const char* field, const char* typed, const char* expected) {
+        use.Keys(typed);
+        EXPECT_EQ(TextOf(use, field), expected) << field;
+    };
+    WindowInUse::Click(use.Find("txtAttack"));
+    expectTyped("txtAttack", "25", "25");
+    use.Key(Qt::Key_Tab);
+    expectTyped("txtDefence", "12", "12");
+    use.ShowPage(1);
+    use.ClickBox("Abilities(29)");
+    use.ShowPage(0);
+    expectTyped("txtMana", "12", "12");
+    use.form.txtMana.SetText("0");
+    expectTyped("txtMana", "1", "1");
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    other.close();
+    use.ComeForward();
+    expectTyped("txtMana", "2", "12"); // goes on
+    WindowInUse::Click(use.Find("txtMana"), {2, 14});
+    expectTyped("txtMana", "3", "312");
+
+    use.form.txtNC.SetText("Drakedrake");
+    auto& field = use.Find<QLineEdit>("txtNC");
+    const auto drag = [&](auto act, int x) {
+        act(use.window->windowHandle(), field.mapTo(use.window.get(), QPoint(x, 14)));
+    };
+    drag([](QWindow* window, QPoint place) { QTest::mousePress(window, Qt::LeftButton, {}, place); }, 2);
+    drag([](QWindow* window, QPoint place) { QTest::mouseMove(window, place); }, 40);
+    drag([](QWindow* window, QPoint place) { QTest::mouseRelease(window, Qt::LeftButton, {}, place); }, 40);
+    EXPECT_TRUE(QString("Drakedrak").startsWith(field.selectedText())) << "dragged over, not all";
+    EXPECT_NE(field.selectedText(), "");
+}
+
 TEST(Fields, HaveNoWayRoundTheirFilter) {
     const WindowInUse use;
     auto& field = use.Find<QLineEdit>("txtAttack");
@@ -88,21 +126,20 @@ TEST(Fields, LeaveNoKeyToTheWindow) {
     EXPECT_EQ(use.window->windowTitle(), "TALMIR v0.0.0.44");
 }
 
-TEST(Lists, DoNotTurnUnderAWheelThatScrollsPast) {
+TEST(Lists, AndFieldsLeaveTheWheelToWhatScrollsAroundThem) {
     const WindowInUse use;
-    auto& list = use.Find<QComboBox>("ComboTier");
-    const auto turn = [&] {
-        const QPointF place = list.rect().center();
-        QWheelEvent wheel(place, list.mapToGlobal(place), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
-                          Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&list, &wheel);
-        return list.currentIndex();
-    };
-    use.Find("txtNC").setFocus();
-    EXPECT_EQ(turn(), 0);
-    list.setFocus();
-    EXPECT_EQ(turn(), 1);
-    EXPECT_EQ(use.form.ComboTier.Text(), "2");
+    for (const char* name : {"ComboTier", "txtAttack"})
+        for (const char* focused : {"txtNC", name}) {
+            use.Find(focused).setFocus();
+            QWidget& widget = use.Find(name);
+            const QPointF place = widget.rect().center();
+            QWheelEvent wheel(place, widget.mapToGlobal(place), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                              Qt::NoScrollPhase, false);
+            wheel.accept();
+            static_cast<QObject&>(widget).event(&wheel);
+            EXPECT_FALSE(wheel.isAccepted()) << name << ", focus in " << focused;
+        }
+    EXPECT_EQ(use.form.ComboTier.Text() + use.form.txtAttack.Text(), "10");
 }
 
 TEST(Lists, ChooseByKeyboard) {
@@ -110,17 +147,31 @@ TEST(Lists, ChooseByKeyboard) {
         const char* list;
         Qt::Key key;
         const char* expected;
+        const char* textBefore = nullptr; ///< set by the program, which leaves the index alone
     } steps[] = {
-        {"ComboTier", Qt::Key_End, "8"},  {"ComboTier", Qt::Key_Up, "7"},
-        {"ComboSpeed", Qt::Key_9, "9"},   {"ComboInitiative", Qt::Key_Down, "11"},
-        {"ComboFME", Qt::Key_F, "Fire"},  {"ComboSME", Qt::Key_F, "None"}, // falls back
-        {"ComboSME", Qt::Key_W, "Water"}, {"ComboUpgrade", Qt::Key_T, "True"},
-        {"ComboTTC", Qt::Key_Down, "15"}, {"ComboFaction", Qt::Key_Home, "Haven"},
+        {"ComboTier", Qt::Key_Down, "6", "5"},
+        {"ComboTier", Qt::Key_PageUp, "3", "4"},
+        {"ComboTier", Qt::Key_Down, "1", "40"}, // is no entry
+        {"ComboTier", Qt::Key_Home, "1", "5"},  // whose index it has
+        {"ComboInitiative", Qt::Key_1, "1", "20"},
+        {"ComboInitiative", Qt::Key_1, "13", "12"},
+        {"ComboTier", Qt::Key_End, "8"},
+        {"ComboTier", Qt::Key_Up, "7"},
+        {"ComboSpeed", Qt::Key_9, "9"},
+        {"ComboInitiative", Qt::Key_Down, "14"},
+        {"ComboFME", Qt::Key_F, "Fire"},
+        {"ComboSME", Qt::Key_F, "None"}, // falls back
+        {"ComboSME", Qt::Key_W, "Water"},
+        {"ComboUpgrade", Qt::Key_T, "True"},
+        {"ComboTTC", Qt::Key_Down, "15"},
+        {"ComboFaction", Qt::Key_Home, "Haven"},
     };
     QApplication::setKeyboardInputInterval(0); // each letter begins a new search
     const WindowInUse use;
     for (const auto& step : steps) {
         use.Find(step.list).setFocus();
+        if (step.textBefore != nullptr)
+            dynamic_cast<ComboBox&>(*use.form.Find(step.list)).SetText(step.textBefore);
         use.Key(step.key);
         EXPECT_EQ(use.Find<QComboBox>(step.list).currentText(), step.expected) << step.list;
         EXPECT_EQ(Disagreements(use), "");
@@ -135,6 +186,13 @@ TEST(Lists, ShowATextThatIsNoneOfTheirEntries) {
     const QImage atStart = picture();
     use.form.ComboSpeed.SetText("7");
     const QImage byText = picture();
+    auto& dropDown = use.Find<QComboBox>("ComboSpeed");
+    dropDown.showPopup();
+    EXPECT_EQ(dropDown.view()->currentIndex().row(), 6) << "not the entry shown";
+    dropDown.hidePopup();
+    use.Choose("ComboSpeed", 6);
+    EXPECT_EQ(use.form.ComboSpeed.Index(), 6) << "the entry shown was chosen";
+    use.Choose("ComboSpeed", 4);
     use.form.ComboSpeed.SetText("70");
     EXPECT_NE(picture(), byText);
     use.Choose("ComboSpeed", 4); // the entry that was chosen all the time

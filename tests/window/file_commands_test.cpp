@@ -108,15 +108,29 @@ TEST(FileCommands, SaveAsksAgainWhenAPlaceCannotBeWritten) {
 }
 
 TEST(FileCommands, SaveAsksBeforeItReplaces) {
-    for (const bool yes : {false, true}) {
-        WindowInUse use;
+    const struct {
+        Language start;
+        const char* change; ///< of the language, after the start
+        bool yes;
+        const char* question;
+        QStringList buttons;
+    } cases[] = {{English, nullptr, false, "already exists", {"&Yes", "&No"}},
+                 {Russian, nullptr, true, "уже существует", {"&Да", "&Нет"}},
+                 {Russian, "mnuEnglish", false, "already exists", {"&Yes", "&No"}},
+                 {English, "mnuRussian", true, "уже существует", {"&Да", "&Нет"}}};
+    for (const auto& row : cases) {
+        WindowInUse use(row.start);
+        if (row.change != nullptr)
+            use.PickLanguage(row.change);
         Calculated(use);
         use.Write("drake.xdb", "old");
-        use.answers.yes = yes;
+        use.answers.yes = row.yes;
         use.answers.paths = {use.Path("drake.xdb")};
         use.Key(Qt::Key_S, Qt::ControlModifier);
-        EXPECT_TRUE(use.answers.TakeTexts().join('|').contains("drake.xdb"));
-        EXPECT_EQ(ReadAll(use.Path("drake.xdb")) != "old", yes);
+        const QString question = use.answers.TakeTexts().join('|');
+        EXPECT_TRUE(question.contains("drake.xdb") && question.contains(row.question)) << question.toStdString();
+        EXPECT_EQ(use.answers.buttonTexts, row.buttons);
+        EXPECT_EQ(ReadAll(use.Path("drake.xdb")) != "old", row.yes);
     }
 }
 

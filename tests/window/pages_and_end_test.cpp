@@ -6,6 +6,7 @@
 
 #include <QClipboard>
 #include <QDragEnterEvent>
+#include <QFontDatabase>
 #include <QMimeData>
 #include <QProcess>
 #include <QStandardPaths>
@@ -30,9 +31,11 @@ TEST(Pages, AHiddenPageGivesWayToTheFirst) {
     EXPECT_EQ(Disagreements(use), "");
 }
 
-TEST(Pages, ALongCaptionIsShortenedToItsEnd) {
+TEST(Pages, ALongCaptionIsShortenedToItsEndAndAShortOneWhole) {
     const WindowInUse use;
     const auto& bar = use.Find<QTabBar>("Tablus.Bar");
+    use.form.Tablus.Tab(4).SetCaption("out&dir/&");
+    EXPECT_EQ(Disagreements(use), "");
     use.form.Tablus.Tab(4).SetCaption("/home/" + QString("long").repeated(100) + "/drake.xdb");
     EXPECT_LE(bar.tabRect(4).width(), use.window->width() / 2);
     EXPECT_TRUE(bar.tabText(4).endsWith(".xdb"));
@@ -106,6 +109,13 @@ int ExitCodeAfter(const std::function<void()>& act) {
     return QApplication::exec();
 }
 
+/// What a title bar needs for a title in bold, with an icon and three buttons.
+int WidthOfTitle(const QString& title) {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::TitleFont);
+    font.setBold(true);
+    return QFontMetrics(font).horizontalAdvance(title) + 4 * 32;
+}
+
 TEST(Quit, AsksAndEndsOnlyAfterAYes) {
     const QStringList menu{"mnuFile", "mnuQuit"};
     const std::pair<const char*, std::function<void(const WindowInUse&)>> ways[] = {
@@ -125,6 +135,7 @@ TEST(Quit, AsksAndEndsOnlyAfterAYes) {
             EXPECT_EQ(use.answers.boxes[0].icon, QMessageBox::Question);
             EXPECT_EQ(use.answers.boxes[0].title, "Выход из программы");
             EXPECT_EQ(use.answers.boxes[0].text, "Вы хотите выйти?");
+            EXPECT_GE(use.answers.boxes[0].width, WidthOfTitle("Выход из программы"));
             EXPECT_EQ(QSet<QString>(use.answers.buttonTexts.begin(), use.answers.buttonTexts.end()),
                       (QSet<QString>{"Да", "Нет"}));
             EXPECT_EQ(ReadAll(use.Path("lang.ini")), yes ? "RU" : "EN");

@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QScreen>
 #include <QScrollBar>
+#include <QTextEdit>
 
 namespace Hesperin {
 
@@ -37,11 +38,10 @@ QPushButton& ButtonOf(QDialog& dialog) { return *dialog.findChild<QPushButton*>(
 
 TEST(SecondaryWindows, LockTheMainWindowUntilTheyClose) {
     const QStringList about{"mnuInfo", "mnuAbout"};
-    const QStringList status{"mnuOptions", "mnuCalculator"};
     const std::pair<const char*, std::function<void(WindowInUse&)>> windows[] = {
         {"frmAbility", [](WindowInUse& use) { RightClick(use, "Abilities(16)"); }},
         {"frmAbout", [&](WindowInUse& use) { use.Pick(about); }},
-        {"frmStatus", [&](WindowInUse& use) { use.Pick(status); }},
+        {"frmStatus", [](WindowInUse& use) { use.program.ShowStatus("Done."); }},
     };
     const std::pair<const char*, void (*)(QDialog&)> closings[] = {
         {"button", [](QDialog& dialog) { WindowInUse::Click(ButtonOf(dialog)); }},
@@ -78,7 +78,7 @@ TEST(SecondaryWindows, LockTheMainWindowUntilTheyClose) {
         }
 }
 
-TEST(AbilityWindow, TellsTheAbilityInTheLanguageOfTheMoment) {
+TEST(AbilityWindow, TellsTheAbilityInTheCurrentLanguage) {
     WindowInUse use(English, [](const QString& folder) { WriteTexts(folder, "Stuns."); });
     use.PickLanguage("mnuRussian");
     RightClick(use, "Abilities(16)");
@@ -87,7 +87,7 @@ TEST(AbilityWindow, TellsTheAbilityInTheLanguageOfTheMoment) {
     ASSERT_NE(dialog, nullptr);
     EXPECT_EQ(dialog->windowTitle(), "ABILITY_BASH");
     EXPECT_EQ(dialog->findChild<QLabel*>("utbName")->text(), "Оглушение");
-    auto* description = dialog->findChild<QPlainTextEdit*>("utbDesc");
+    auto* description = dialog->findChild<QTextEdit*>("utbDesc");
     EXPECT_EQ(description->toPlainText(), "Stuns.");
     EXPECT_TRUE(description->isReadOnly());
     EXPECT_EQ(dialog->findChild<QPushButton*>("cmdQuit")->text(), "Выход");
@@ -102,26 +102,43 @@ TEST(AbilityWindow, OnlyAbilityBoxesHaveOne) {
     EXPECT_FALSE(use.Find<QCheckBox>("Specabilities(4)").isChecked());
 }
 
-TEST(AbilityWindow, GrowsWithItsTextUpToTheScreen) {
-    const auto open = [](const QByteArray& description) {
-        const WindowInUse use(English, [&](const QString& folder) { WriteTexts(folder, description); });
+TEST(AbilityWindow, GrowsWithItsTextUpToTheScreenAndLosesNoLine) {
+    WindowInUse use;
+    const auto open = [&](const QString& text) {
+        use.form.utbD(16).SetText(text);
         RightClick(use, "Abilities(16)");
-        QDialog* dialog = Second(use);
-        const QScrollBar* bar = dialog->findChild<QPlainTextEdit*>()->verticalScrollBar();
-        const int below = ButtonOf(*dialog).geometry().bottom();
-        EXPECT_LT(below, dialog->height()) << "the button stands below the text, inside the window";
-        EXPECT_LE(dialog->height(), dialog->screen()->availableGeometry().height());
-        return std::pair(dialog->height(), bar->maximum() > 0);
+        QDialog& dialog = *Second(use);
+        auto& description = *dialog.findChild<QTextEdit*>();
+        EXPECT_FALSE(description.horizontalScrollBar()->isVisible());
+        EXPECT_EQ(description.horizontalScrollBar()->maximum(), 0);
+        const bool scrolls = description.verticalScrollBar()->isVisible();
+        description.verticalScrollBar()->setValue(description.verticalScrollBar()->maximum());
+        QTextCursor end(description.document());
+        end.movePosition(QTextCursor::End);
+        const QRect lastLine = description.cursorRect(end); // a blank may stand beside the window
+        EXPECT_GE(lastLine.top(), 0) << text.toStdString();
+        EXPECT_LT(lastLine.bottom(), description.viewport()->height()) << text.toStdString();
+        EXPECT_LT(description.height() - lastLine.bottom(), 600 / 15) << text.toStdString();
+        EXPECT_LT(ButtonOf(dialog).geometry().bottom(), dialog.height()) << "below the text, inside the window";
+        const int height = dialog.height();
+        EXPECT_LE(height, dialog.screen()->availableGeometry().height());
+        WindowInUse::Click(ButtonOf(dialog));
+        use.ComeForward();
+        return std::pair(height, scrolls);
     };
-    const QByteArray line = "Strikes.\n";
+    const QString line = "Strikes.\n";
     const auto [one, oneScrolls] = open("Strikes.");
     const auto [nine, nineScrolls] = open(line.repeated(8) + "Strikes.");
     EXPECT_GE(one, (2550 - 345) / 15);
     EXPECT_GE(nine - one, 8 * 600 / 15);
     EXPECT_FALSE(oneScrolls || nineScrolls);
-    const auto [longest, longestScrolls] = open(line.repeated(200));
-    EXPECT_GT(longest, nine);
-    EXPECT_TRUE(longestScrolls) << "the rest can't be read";
+    EXPECT_TRUE(open(line.repeated(200)).second) << "the rest can't be read";
+    QString text;
+    for (int word = 1; word <= 200; ++word) { // some words are wider than the window
+        text += QString("gqyjfW").repeated(word % 23 == 0 ? 20 : 1).left(word % 23 == 0 ? 120 : 1 + word * 7 % 6);
+        text += word % 31 == 0 ? "\n\n" : " ";
+        open(text);
+    }
 }
 
 TEST(AboutWindow, TellsTheProgram) {

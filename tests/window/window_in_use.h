@@ -35,17 +35,17 @@ private:
 /// mouse and keys go to the window, which must find the widget that they are meant for.
 class WindowInUse {
 public:
-    /// `prepare` may put files into the folder before the start.
+    /// `prepare` may put files into the folder before the start; `screen` is what its task bars leave.
     explicit WindowInUse(
         std::uint8_t language = English,
-        const std::function<void(const QString& folder)>& prepare = [](const QString&) {}) {
+        const std::function<void(const QString& folder)>& prepare = [](const QString&) {},
+        QSize screen = {1920, 1080}) {
         Write("lang.ini", language == English ? "EN" : "RU");
         prepare(folder.path());
         if (!Form_Load(program, {std::nullopt, false})) // as at a start, the window reads the texts
             qFatal("another instance runs");
-        window = std::make_unique<MainWindow>(program);
+        window = std::make_unique<MainWindow>(program, screen);
         platform.Attach(program, *window);
-        window->setFixedSize(1030, 704); // whatever the screen
         window->show();
         if (!QTest::qWaitForWindowActive(window.get()))
             qFatal("the window did not come up");

@@ -8,7 +8,7 @@ _talmir_cli() {
         *,calc,*,-*) mapfile -t COMPREPLY < <(compgen -W '--json --help --version' -- "$cur") ;;
         *,calc,*) _filedir xdb ;;
         *,run,--lang,*) mapfile -t COMPREPLY < <(compgen -W 'EN RU' -- "$cur") ;;
-        *,run,*,-*) mapfile -t COMPREPLY < <(compgen -W '--lang --help --version' -- "$cur") ;;
+        *,run,*,-*) mapfile -t COMPREPLY < <(compgen -W '--keep-going --lang --help --version' -- "$cur") ;;
         *,run,*) _filedir ;;
         *,texts,--lang,*) mapfile -t COMPREPLY < <(compgen -W 'EN RU' -- "$cur") ;;
         *,texts,*,-*) mapfile -t COMPREPLY < <(compgen -W '--lang --help --version' -- "$cur") ;;

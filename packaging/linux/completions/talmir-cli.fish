@@ -9,6 +9,7 @@ complete -c talmir-cli -n '__fish_seen_subcommand_from calc' -k -a '(__fish_comp
 
 complete -c talmir-cli -n __fish_use_subcommand -a run -d 'Play a script of user actions'
 complete -c talmir-cli -n '__fish_seen_subcommand_from run' -l lang -x -a 'EN RU' -d 'Language at the start'
+complete -c talmir-cli -n '__fish_seen_subcommand_from run' -l keep-going -d 'Go on behind what cannot be done'
 complete -c talmir-cli -n '__fish_seen_subcommand_from run' -F
 
 complete -c talmir-cli -n __fish_use_subcommand -a texts -d 'Copy the ability texts out of the game'

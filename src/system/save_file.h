@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/file_obstacle.h"
+
+#include <QByteArray>
+
+#include <optional>
+#include <vector>
+
+namespace Hesperin {
+
+/// What the user should know of a save that stands.
+enum class SaveNote : std::uint8_t {
+    OtherNamesKeepOld, ///< other names of the old file (hard links) keep its content
+    OwnerNotKept,      ///< owner or rights are not those of the old file
+    MayNotLast,        ///< the folder was not synced: a power cut may bring the old file back
+};
+
+struct SaveOutcome {
+    std::optional<FileObstacle> obstacle; ///< why nothing was changed; none: the save stands
+    std::vector<SaveNote> notes;
+};
+
+/// Writes `bytes` as the whole content of the file `path`, or leaves an old file as it was: the one
+/// way in which the program writes files. A save that stands is on the disk. Behind a symbolic link
+/// the target is replaced. Refuses a place that holds anything but a file: a folder, a device.
+SaveOutcome SaveFile(const QString& path, const QByteArray& bytes);
+
+/// Why SaveFile could not write there, found out without changing anything; none when it could.
+std::optional<FileObstacle> SaveObstacle(const QString& path);
+
+} // namespace Hesperin

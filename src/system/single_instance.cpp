@@ -1,0 +1,75 @@
+#include "platform/single_instance.h"
+
+#include "platform/read_file.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSysInfo>
+#include <QThread>
+
+namespace Hesperin {
+
+namespace {
+
+const qint64 ProcessBegan = QDateTime::currentMSecsSinceEpoch();
+
+/// Whether a lock file was written on this computer. Its lines are process, program, computer's
+/// name and, where the system has one, computer's number, which outlives a change of name and tells
+/// two computers of one name apart.
+bool IsFromHere(const QString& path, const QString& host) {
+    constexpr qint64 longestLock = 1 << 12;
+    constexpr qsizetype lineOfNumber = 3;
+    const auto content = ReadFile(path, longestLock);
+    const auto* bytes = std::get_if<QByteArray>(&content);
+    const QByteArray number =
+        bytes == nullptr ? QByteArray() : bytes->split('\n').value(lineOfNumber);
+    const QByteArray ours = QSysInfo::machineUniqueId();
+    return number.isEmpty() || ours.isEmpty()
+               ? host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0
+               : number == ours;
+}
+
+} // namespace
+
+SingleInstance::SingleInstance(const QString& folder)
+    : path(folder + QLatin1String("/talmir.lock")), lock(path) {
+    QDir().mkpath(folder);
+    lock.setStaleLockTime(0); // a lock never goes stale by age alone
+}
+
+std::optional<RunningInstance> SingleInstance::Holder() const {
+    qint64 process = 0;
+    QString host;
+    QString program;
+    if (!lock.getLockInfo(&process, &host, &program))
+        return std::nullopt;
+    if (!IsFromHere(path, host))
+        return RunningInstance{host, path};
+    if (process == QCoreApplication::applicationPid() &&
+        QFileInfo(path).lastModified().toMSecsSinceEpoch() < ProcessBegan)
+        return std::nullopt; // this one got the number of one that was killed
+    return RunningInstance{{}, path};
+}
+
+std::optional<RunningInstance> SingleInstance::Other() {
+    constexpr unsigned long aStartIsWriting = 100; // milliseconds
+    const auto refused = [this] {
+        return !lock.tryLock(0) && lock.error() == QLockFile::LockFailedError;
+    };
+    if (const QFileInfo place(path); place.exists() && !place.isFile())
+        return std::nullopt;
+    if (lock.isLocked() || !refused())
+        return std::nullopt;
+    if (auto holder = Holder())
+        return holder;
+    QThread::msleep(aStartIsWriting);
+    if (auto holder = Holder())
+        return holder;
+    return QFile::remove(path) && refused() ? std::optional(RunningInstance{{}, path})
+                                            : std::nullopt;
+}
+
+} // namespace Hesperin
