@@ -23,7 +23,7 @@ TEST(Save, ATextComesBackAsItWasOrTheOldFileStays) {
         {"txtNC", "&amp;lt;&quot;", "/Neutral/&amp;amp;lt;&amp;quot;.(", ""},
         {"txtNC", QString::fromUtf8("дракон\u00A0\u2028ё龍\U0001F409"),
          QString::fromUtf8("/Дракон\u00A0\u2028Ё龍\U0001F409.("), ""},
-        {"txtNC", ".xdb#xpointer(/AdvMapMonsterShared)", "/.xdb#xpointer(/advmapmonstershared).(", ""},
+        {"txtNC", ".xdb#xpointer(/AdvMapMonsterShared)", "", lost + "advmapmonstershared)\""},
         {"txtNC", " ", "/Neutral/ .(", ""},
         {"txtNC", QString(10'000, u'x'), "xxx.xdb#", ""},
         {"txtNC", QString(16'000, u'x'), "", "longer than 32767 characters"},

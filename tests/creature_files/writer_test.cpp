@@ -124,9 +124,9 @@ void ExpectPieces(std::initializer_list<PieceCase> cases) {
     }
 }
 
-TEST(Writer, WritesWhatTheControlsHoldAsItStands) {
+TEST(Writer, WritesWhatTheControlsHold) {
     ExpectPieces({
-        {"markup", [](MainForm& form) { form.txtAttack.SetText("a<&"); }, "<AttackSkill>a<&</AttackSkill>"},
+        {"markup", [](MainForm& form) { form.txtAttack.SetText("a<&"); }, "<AttackSkill>a&lt;&amp;</AttackSkill>"},
         {"a pasted word", [](MainForm& form) { form.txtPower.SetText("сто"); }, "<Power>сто</Power>"},
         {"an empty field", [](MainForm& form) { form.txtExp.SetText({}); }, "\t<Exp></Exp>\n"},
         {"no mana", [](MainForm& form) { form.txtMana.SetText({}); }, "<SpellPoints>0</SpellPoints>"},
