@@ -61,10 +61,10 @@ constexpr int PanelMargin = 7;
 /// A result; its accessible name tells what it is, by which method, and the figure.
 class FigureView : public LabelView, public NamedInFrame {
 public:
-    FigureView(Label& figure, FrameView& frame, const QSize& frameSize, Colour colour,
+    FigureView(Label& figure, FrameView& frame, const QSize& frameSize, Colour textColour,
                const QString& figureName)
         : LabelView(figure, &frame, {4, 15, frameSize.width() - 8, frameSize.height() - 17},
-                    FigureFace(), colour, Qt::AlignCenter),
+                    FigureFace(), textColour, Qt::AlignCenter),
           nameText(figureName) {
         frame.NameFields();
     }
