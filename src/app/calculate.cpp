@@ -1,7 +1,7 @@
 #include "app/calculate.h"
 
 #include "app/creature_in_form.h"
-#include "app/title.h"
+#include "app/window_title.h"
 #include "form/form_lists.h"
 #include "localisation/judgement_text.h"
 #include "text/numbers.h"

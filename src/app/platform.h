@@ -3,14 +3,13 @@
 #pragma once
 
 #include "form/file_dialog.h"
-#include "platform/program_places.h"
-#include "platform/single_instance.h"
+#include "localisation/message_box.h"
+#include "system/program_places.h"
+#include "system/single_instance.h"
 
 #include <QStringList>
 
 namespace Hesperin {
-
-enum class BoxIcon : std::uint8_t { Critical, Information, Question };
 
 /// The windows that open beside the main window. Each locks it until its button is pressed.
 enum class SecondaryWindow : std::uint8_t { About, AbilityInformation };

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "engine/shared_state.h"
+#include "app/platform.h"
+#include "app/shared_state.h"
 #include "form/main_form.h"
-#include "platform/platform.h"
 
 namespace Hesperin {
 
@@ -15,20 +15,13 @@ struct Program {
     MainForm form;
     Platform& platform; // outlives the program
 
-    /// Why the last file command could not do its work, as the user was told; empty when it did,
-    /// was cancelled, or asked for a name.
-    QString failure;
-
     /// A message box with the warning title.
     void Warn(BoxIcon icon, const QString& text) {
-        platform.ShowMessage(icon, state.WarningTitle, text);
+        platform.ShowMessage(icon, state.messages.WarningTitle, text);
     }
 
-    /// Locks the main window and opens the status window with these words.
-    void ShowStatus(const QString& message) {
-        form.frmMain.SetEnabled(false);
-        platform.ShowStatus(message);
-    }
+    /// A critical box that tells the error. Gives it on.
+    Error Refuse(const Error& error);
 };
 
 } // namespace Hesperin

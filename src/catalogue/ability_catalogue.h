@@ -8,11 +8,11 @@
 
 namespace Hesperin {
 
-/// How the game names the two text files of an ability.
+/// How the game names the two text files of an ability; eight of them have names of their own, see
+/// AbilityTextFiles.
 enum class TextFileNames : unsigned char {
     Stem,  ///< the stem followed by "_name" and "_desc"
     Plain, ///< "name" and "description"
-    Odd,   ///< otherwise; the names stand beside the code that builds them
 };
 
 struct AbilityRow {

@@ -1,11 +1,10 @@
 #include "cli/command.h"
 
-#include "cli/calc_report.h"
 #include "cli/output.h"
 #include "creature_files/creature_folder.h"
-#include "creature_files/file_commands.h"
-#include "engine/languages.h"
-#include "ui/form_load.h"
+#include "localisation/languages.h"
+#include "reports/calc_report.h"
+#include "reports/json.h"
 
 #include <QFileInfo>
 
@@ -39,20 +38,16 @@ int Calc(const QCommandLineParser& parser) {
         Complain(QStringLiteral("talmir-cli calc: at least one FILE is expected"));
         return WrongUsage;
     }
-    CliPlatform platform;
-    Program program(platform);
-    Form_Load(program, {English, false});
     bool allOpened = true;
     for (const QString& file : FilesOf(paths)) {
-        platform.messages.clear();
-        const bool opened = OpenCreatureFile(program, file);
-        allOpened = allOpened && opened;
+        const CalcReport report = CalculateFile(file, English);
+        allOpened = allOpened && !report.refusal;
         if (json)
-            PrintLine(JsonLine(CalcJson(file, opened, program, platform)));
-        else if (opened)
-            PrintLine(CalcTable(file, program, platform));
+            PrintLine(JsonLine(CalcJson(report)));
+        else if (!report.refusal)
+            PrintLine(CalcTable(report));
         else
-            Complain(program.failure);
+            Complain(report.messages.front().text);
     }
     return allOpened ? AllDone : SomethingFailed;
 }

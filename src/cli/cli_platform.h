@@ -1,18 +1,11 @@
 #pragma once
 
-#include "platform/platform.h"
+#include "app/platform.h"
 
 #include <optional>
 #include <vector>
 
 namespace Hesperin {
-
-/// A message box that the program showed.
-struct ShownMessage {
-    BoxIcon icon;
-    QString title;
-    QString text;
-};
 
 /// The platform of the command line: every box is answered with OK and kept, dialogs give the path
 /// that the user named, nothing is started and no setting is touched.

@@ -1,6 +1,6 @@
 #include "cli/language_option.h"
 
-#include "engine/languages.h"
+#include "localisation/languages.h"
 
 namespace Hesperin {
 

@@ -1,8 +1,8 @@
 // talmir-cli: the calculator without a window.
 #include "cli/command.h"
 #include "cli/output.h"
-#include "form/version_record.h"
-#include "platform/console.h"
+#include "system/console.h"
+#include "system/version_record.h"
 
 #include <QCoreApplication>
 

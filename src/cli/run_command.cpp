@@ -1,9 +1,9 @@
 #include "cli/command.h"
 
+#include "app/handlers/form_load.h"
 #include "cli/language_option.h"
 #include "cli/output.h"
 #include "cli/script_actions.h"
-#include "ui/form_load.h"
 
 #include <QFile>
 
@@ -77,8 +77,6 @@ bool Play(QFile& script, const QString& name, ScriptStage& stage, bool keepGoing
                          .arg(name, QString::number(number), QString::number(LongestLine)));
             return false;
         }
-        if (number == 1 && bytes.startsWith("\xEF\xBB\xBF"))
-            bytes.remove(0, 3);
         const QString line = WithoutLineEnd(bytes);
         if (!IsAction(line))
             continue;

@@ -1,7 +1,9 @@
 #include "cli/script_actions.h"
 
-#include "cli/json.h"
 #include "cli/output.h"
+#include "cli/state_json.h"
+#include "localisation/error_text.h"
+#include "reports/json.h"
 
 #include <algorithm>
 
@@ -122,9 +124,8 @@ QString Menu(ScriptStage& stage, const QString& arguments) {
         stage.platform.dialogPath.reset();
         if (!words.rest.isEmpty())
             stage.platform.dialogPath = words.rest;
-        stage.program.failure.clear();
-        entry.Click();
-        return stage.program.failure;
+        const Failure failure = entry.Click();
+        return failure ? ErrorText(stage.program.state.messages, *failure) : QString();
     });
 }
 

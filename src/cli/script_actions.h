@@ -1,7 +1,7 @@
 #pragma once
 
+#include "app/program.h"
 #include "cli/cli_platform.h"
-#include "engine/program.h"
 
 namespace Hesperin {
 

@@ -1,27 +1,13 @@
-#include "cli/json.h"
+#include "cli/state_json.h"
 
-#include "form/result_labels.h"
-
-#include <QJsonArray>
-#include <QJsonDocument>
+#include "form/form_lists.h"
+#include "reports/json.h"
 
 namespace Hesperin {
 
 namespace {
 
-QLatin1String IconName(BoxIcon icon) {
-    switch (icon) {
-    case BoxIcon::Critical:
-        return QLatin1String("critical");
-    case BoxIcon::Information:
-        return QLatin1String("information");
-    case BoxIcon::Question:
-        break;
-    }
-    return QLatin1String("question");
-}
-
-QJsonObject Texts(const MainForm& form) {
+QJsonObject FieldTexts(const MainForm& form) {
     QJsonObject texts;
     for (const Control* control : form.Controls())
         if (const auto* field = dynamic_cast<const TextField*>(control))
@@ -40,8 +26,10 @@ QJsonObject Lists(const MainForm& form) {
 
 QJsonObject Labels(const MainForm& form) {
     QJsonObject labels;
-    for (const auto label : ResultLabels)
-        labels.insert((form.*label).Name(), (form.*label).Caption());
+    for (const ResultRow& row : ResultRows) {
+        const Label& label = form.*row.place.label;
+        labels.insert(label.Name(), label.Caption());
+    }
     return labels;
 }
 
@@ -75,18 +63,6 @@ QJsonObject EnabledFlags(const MainForm& form) {
 
 } // namespace
 
-QByteArray JsonLine(const QJsonObject& object) {
-    return QJsonDocument(object).toJson(QJsonDocument::Compact);
-}
-
-QJsonArray MessagesJson(const std::vector<ShownMessage>& messages) {
-    QJsonArray list;
-    for (const ShownMessage& message : messages)
-        list.append(QJsonObject{
-            {"icon", IconName(message.icon)}, {"title", message.title}, {"text", message.text}});
-    return list;
-}
-
 QJsonObject StateJson(const Program& program, const CliPlatform& platform) {
     const MainForm& form = program.form;
     const SharedState& state = program.state;
@@ -99,7 +75,7 @@ QJsonObject StateJson(const Program& program, const CliPlatform& platform) {
     return {
         {"title", form.frmMain.Caption()},
         {"language", state.LanguageId},
-        {"texts", Texts(form)},
+        {"texts", FieldTexts(form)},
         {"lists", Lists(form)},
         {"labels", Labels(form)},
         {"abilities", Ticked(form)},
@@ -113,10 +89,10 @@ QJsonObject StateJson(const Program& program, const CliPlatform& platform) {
         {"flag", state.SpecabilityFlag},
         {"creature", state.CreatureName},
         {"loaded", state.CreatureFileLoaded},
-        {"file", QJsonObject{{"power", state.FilePower},
-                             {"experience", state.FileExperience},
-                             {"growth", state.FileGrowth},
-                             {"gold", state.FileGold}}},
+        {"file", QJsonObject{{"power", state.file.FilePower},
+                             {"experience", state.file.FileExperience},
+                             {"growth", state.file.FileGrowth},
+                             {"gold", state.file.FileGold}}},
         {"focus", platform.focus},
         {"messages", MessagesJson(platform.messages)},
     };

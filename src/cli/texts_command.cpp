@@ -1,17 +1,17 @@
 #include "cli/command.h"
 
-#include "catalogues/ability_catalogue.h"
-#include "cli/ability_table.h"
-#include "cli/cli_platform.h"
+#include "catalogue/ability_catalogue.h"
 #include "cli/language_option.h"
 #include "cli/output.h"
-#include "cli/text_source.h"
-#include "localisation/ability_texts.h"
-#include "localisation/obstacle_text.h"
-#include "platform/read_file.h"
-#include "platform/save_file.h"
-#include "ui/form_load.h"
+#include "game_texts/ability_table.h"
+#include "game_texts/ability_texts.h"
+#include "game_texts/text_source.h"
+#include "localisation/error_text.h"
+#include "system/program_places.h"
+#include "system/read_file.h"
+#include "system/save_file.h"
 
+#include <QCoreApplication>
 #include <QDir>
 
 #include <algorithm>
@@ -50,16 +50,16 @@ QStringList ArchivesIn(const QString& folder) {
 }
 
 /// Adds the place, or what is in it. False when something there can't be read, after a complaint.
-bool AddSource(const QString& path, const SharedState& state, TextSources& sources) {
-    auto source = OpenTextSource(path, state.LanguageCode, state);
-    if (!source->Fault().isEmpty()) {
-        Complain(QStringLiteral("%1: %2").arg(path, source->Fault()));
+bool AddSource(const QString& path, const Messages& messages, TextSources& sources) {
+    auto source = OpenTextSource(path, messages.LanguageCode);
+    if (const Failure fault = source->Fault()) {
+        Complain(QStringLiteral("%1: %2").arg(path, ErrorReason(messages, *fault)));
         return false;
     }
     bool allRead = true;
     if (!source->HasTexts())
         for (const QString& archive : ArchivesIn(path))
-            allRead = AddSource(archive, state, sources) && allRead;
+            allRead = AddSource(archive, messages, sources) && allRead;
     sources.push_back(std::move(source)); // what is unpacked lies over the archives
     return allRead;
 }
@@ -72,43 +72,44 @@ struct FoundFile {
 /// The file from the last source that has it. What can't be read there is complained of, under
 /// `name`, and taken from the source below.
 FoundFile Find(const QStringList& levels, qint64 limit, const QString& name,
-               const TextSources& sources) {
+               const TextSources& sources, const Messages& messages) {
     for (auto source = sources.rbegin(); source != sources.rend(); ++source) {
         auto content = (*source)->Read(levels, limit);
         if (!content)
             continue;
-        if (auto* bytes = std::get_if<QByteArray>(&*content))
-            return {std::move(*bytes), (*source)->Name()};
-        Complain(
-            QStringLiteral("%1: %2: %3").arg((*source)->Name(), name, std::get<QString>(*content)));
+        if (*content)
+            return {std::move(**content), (*source)->Name()};
+        Complain(QStringLiteral("%1: %2: %3")
+                     .arg((*source)->Name(), name, ErrorReason(messages, content->Why())));
     }
     return {};
 }
 
 /// The game's table of abilities; an empty one where there is none, or one that can't be read, of
 /// which is complained.
-AbilityTable FindTable(const TextSources& sources) {
+AbilityTable FindTable(const TextSources& sources, const Messages& messages) {
     const QString name = AbilityTableLevels().join(u'/');
-    const FoundFile file = Find(AbilityTableLevels(), LargestAbilityTable, name, sources);
+    const FoundFile file = Find(AbilityTableLevels(), LargestAbilityTable, name, sources, messages);
     if (file.from.isEmpty())
         return {};
     auto table = ReadAbilityTable(file.bytes);
-    if (auto* known = std::get_if<AbilityTable>(&table))
-        return std::move(*known);
-    Complain(QStringLiteral("%1: %2: %3").arg(file.from, name, std::get<QString>(table)));
+    if (table)
+        return std::move(*table);
+    Complain(
+        QStringLiteral("%1: %2: %3").arg(file.from, name, ErrorReason(messages, table.Why())));
     return {};
 }
 
 /// The text from the place that the table names, if it names one.
 FoundFile FindByTable(const AbilityText& text, const AbilityTable& table,
-                      const TextSources& sources) {
+                      const TextSources& sources, const Messages& messages) {
     const AbilityRow& ability = AbilityCatalogue[static_cast<std::size_t>(text.ability)];
     const AbilityReferences references = table.value(QString::fromUtf16(ability.token));
     const QStringList& levels = text.isName ? references.name : references.description;
     if (levels.isEmpty())
         return {};
     const QString place = levels.join(u'/');
-    FoundFile found = Find(levels, LargestAbilityText, place, sources);
+    FoundFile found = Find(levels, LargestAbilityText, place, sources, messages);
     if (!found.from.isEmpty())
         found.from += QLatin1String(": ") + place;
     return found;
@@ -122,41 +123,41 @@ QString TargetTree(const QString& languageCode, const ProgramPlaces& places) {
     const QString beside = places.programFolder + below;
     const bool besideWritable = !places.installedForAll && !QFileInfo::exists(users) &&
                                 QDir().mkpath(beside) &&
-                                !SaveObstacle(beside + QLatin1String("/text"));
+                                !SaveRefusal(beside + QLatin1String("/text"));
     return besideWritable ? beside : users;
 }
 
 /// Writes the text unless it lies there already.
-std::optional<FileObstacle> Keep(const QString& folder, const QString& file,
-                                 const QByteArray& bytes) {
+Failure Keep(const QString& folder, const QString& file, const QByteArray& bytes) {
     const QString path = folder + u'/' + file;
     const auto old = ReadFile(path, LargestAbilityText);
-    if (const auto* same = std::get_if<QByteArray>(&old); same != nullptr && *same == bytes)
-        return std::nullopt;
+    if (old && *old == bytes)
+        return {};
     QDir().mkpath(folder);
-    return SaveFile(path, bytes).obstacle;
+    return SaveFile(path, bytes).failure;
 }
 
 /// The texts in their own places, and those that are missing there where the game's table says.
-std::vector<FoundFile> FindAll(const std::vector<AbilityText>& texts, const TextSources& sources) {
+std::vector<FoundFile> FindAll(const std::vector<AbilityText>& texts, const TextSources& sources,
+                               const Messages& messages) {
     std::vector<FoundFile> all;
     std::optional<AbilityTable> table;
     for (const AbilityText& text : texts) {
         FoundFile found = Find(AbilityTextLevels() + QStringList{text.folder, text.file},
-                               LargestAbilityText, text.folder + u'/' + text.file, sources);
+                               LargestAbilityText, text.folder + u'/' + text.file, sources, messages);
         if (found.from.isEmpty()) {
             if (!table)
-                table = FindTable(sources);
-            found = FindByTable(text, *table, sources);
+                table = FindTable(sources, messages);
+            found = FindByTable(text, *table, sources, messages);
         }
         all.push_back(std::move(found));
     }
     return all;
 }
 
-int CopyTexts(const TextSources& sources, const Program& program) {
+int CopyTexts(const TextSources& sources, const Messages& messages) {
     const std::vector<AbilityText> texts = AbilityTexts();
-    const std::vector<FoundFile> found = FindAll(texts, sources);
+    const std::vector<FoundFile> found = FindAll(texts, sources, messages);
     const auto missing = std::count_if(found.begin(), found.end(),
                                        [](const FoundFile& file) { return file.from.isEmpty(); });
     if (static_cast<std::size_t>(missing) == texts.size()) {
@@ -167,14 +168,15 @@ int CopyTexts(const TextSources& sources, const Program& program) {
         PrintLine(QStringLiteral("%1/%2: %3")
                       .arg(texts[i].folder, texts[i].file,
                            found[i].from.isEmpty() ? QStringLiteral("missing") : found[i].from));
-    const QString tree = TargetTree(program.state.LanguageCode, program.platform.Places());
+    const QString tree = TargetTree(
+        messages.LanguageCode, {QCoreApplication::applicationDirPath(), SettingsFolderOfUser()});
     for (std::size_t i = 0; i < texts.size(); ++i) {
         if (found[i].from.isEmpty())
             continue;
         const QString folder = tree + u'/' + texts[i].folder;
-        if (const auto obstacle = Keep(folder, texts[i].file, found[i].bytes)) {
+        if (const auto failure = Keep(folder, texts[i].file, found[i].bytes)) {
             Complain(QStringLiteral("%1/%2: %3")
-                         .arg(folder, texts[i].file, ObstacleText(program.state, *obstacle)));
+                         .arg(folder, texts[i].file, ErrorReason(messages, *failure)));
             return SomethingFailed; // as would all others
         }
     }
@@ -186,7 +188,7 @@ int CopyTexts(const TextSources& sources, const Program& program) {
     return missing == 0 ? AllDone : SomethingFailed;
 }
 
-int Texts(const QCommandLineParser& parser) {
+int RunTexts(const QCommandLineParser& parser) {
     const QStringList paths = parser.positionalArguments();
     const auto language = LanguageOf(parser);
     if (paths.isEmpty() || !language) {
@@ -194,20 +196,18 @@ int Texts(const QCommandLineParser& parser) {
             "talmir-cli texts: at least one FOLDER or ARCHIVE is expected, and --lang EN or RU"));
         return WrongUsage;
     }
-    CliPlatform platform;
-    Program program(platform);
-    Form_Load(program, {language, false});
+    const Messages messages = MessagesIn(*language);
     TextSources sources;
     bool allRead = true;
     for (const QString& path : paths)
-        allRead = AddSource(path, program.state, sources) && allRead;
-    const int code = CopyTexts(sources, program);
+        allRead = AddSource(path, messages, sources) && allRead;
+    const int code = CopyTexts(sources, messages);
     return allRead ? code : SomethingFailed;
 }
 
 } // namespace
 
 const Command TextsCommand{"texts", "Copies the ability texts out of the game.", DescribeTexts,
-                           Texts};
+                           RunTexts};
 
 } // namespace Hesperin

@@ -1,10 +1,12 @@
 #include "creature_files/creature_folder.h"
 
 #include "creature_files/document.h"
-#include "platform/read_file.h"
+#include "system/read_file.h"
 
 #include <QDirIterator>
 #include <QXmlStreamReader>
+
+#include <algorithm>
 
 namespace Hesperin {
 
@@ -13,10 +15,9 @@ namespace {
 /// Whether the document is known to have another root.
 bool IsOtherDocument(const QString& path) {
     const auto content = ReadFile(path, LargestCreatureFile);
-    const auto* bytes = std::get_if<QByteArray>(&content);
-    if (bytes == nullptr)
+    if (!content)
         return false;
-    QXmlStreamReader reader(*bytes);
+    QXmlStreamReader reader(*content);
     return reader.readNextStartElement() && reader.qualifiedName() != QLatin1String("Creature");
 }
 

@@ -3,7 +3,6 @@
 #include "catalogue/links.h"
 #include "creature_files/elements.h"
 #include "creature_files/file_tokens.h"
-#include "text/escape.h"
 #include "text/shortened.h"
 
 #include <algorithm>
@@ -214,17 +213,11 @@ private:
     }
 
     void ReadName(const Element& element) {
-        const bool marked = SharedMarkText(text) != QLatin1String("0");
-        const auto name =
-            HrefLeaf(text, u"MonsterShared href=",
-                     marked ? u".(AdvMapMonsterShared).xdb#xpointer(/AdvMapMonsterShared)"
-                            : u".xdb#xpointer(/AdvMapMonsterShared)");
-        if (!name) {
+        result.name = CreatureNameIn(text);
+        if (result.name)
+            creature.Name = *result.name;
+        else
             result.missing.append(element.name.toString());
-            return;
-        }
-        result.name = Unescaped(*name);
-        creature.Name = *result.name;
     }
 
     /// Either box of a linked pair brings the other.

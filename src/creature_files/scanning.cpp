@@ -1,5 +1,6 @@
 #include "creature_files/scanning.h"
 
+#include "text/escape.h"
 #include "text/numbers.h"
 
 namespace Hesperin {
@@ -84,11 +85,8 @@ std::optional<QString> CreatureNameIn(const TextBuffer& buffer) {
     auto name = HrefLeaf(buffer, u"MonsterShared href=",
                          marked ? u".(AdvMapMonsterShared).xdb#xpointer(/AdvMapMonsterShared)"
                                 : u".xdb#xpointer(/AdvMapMonsterShared)");
-    if (name) // "&" last, or it would bring forth others
-        name->replace(QLatin1String("&quot;"), QLatin1String("\""))
-            .replace(QLatin1String("&gt;"), QLatin1String(">"))
-            .replace(QLatin1String("&lt;"), QLatin1String("<"))
-            .replace(QLatin1String("&amp;"), QLatin1String("&"));
+    if (name)
+        name = Unescaped(*name);
     return name;
 }
 

@@ -38,6 +38,14 @@ private:
     QString text;
 };
 
+/// Whether XML has nothing to escape in the value and no mark of a reference can be in it.
+bool IsPlain(QStringView value) {
+    return std::all_of(value.begin(), value.end(), [](QChar character) {
+        return character.isLetterOrNumber() || character == u'_' || character == u'-' ||
+               character == u'.' || character == u' ';
+    });
+}
+
 QString FlagText(bool value) {
     return QString::fromUtf16(value ? TokenTrue : TokenFalse);
 }
@@ -45,9 +53,10 @@ QString FlagText(bool value) {
 class Composition {
 public:
     Composition(const Creature& source, const QString& fileName, double growth)
-        : creature(source), name(Escaped(fileName, Escape::Attribute)), weeklyGrowth(growth) {}
+        : creature(source), name(Escaped(fileName, Escape::Attribute)), weeklyGrowth(growth),
+          plain(IsPlain(fileName)) {}
 
-    QString Compose() {
+    CreatureText Compose() {
         lines.Add(0, u"<?xml version=\"1.0\" encoding=\"UTF-8\"?>");
         lines.Add(0, u"<Creature>");
         for (const Element& element : Elements) {
@@ -55,7 +64,7 @@ public:
             Add(element);
         }
         lines.Add(0, u"</Creature>");
-        return lines.Take();
+        return {lines.Take(), plain};
     }
 
 private:
@@ -86,9 +95,16 @@ private:
                              u" href=\"/GameMechanics/CreatureVisual/Creatures/Neutrals/", name,
                              u".xdb#xpointer(/CreatureVisual)\"/>");
         default:
-            return lines.AddElement(parent.isEmpty() ? 1 : 2, element.name,
-                                    Escaped(Content(element), Escape::Content));
+            return AddContent(element.name, Content(element));
         }
+    }
+
+    void AddContent(QStringView element, const QString& content) {
+        const int tabs = parent.isEmpty() ? 1 : 2;
+        if (IsPlain(content))
+            return lines.AddElement(tabs, element, content);
+        plain = false;
+        lines.AddElement(tabs, element, Escaped(content, Escape::Content));
     }
 
     QString Content(const Element& element) const {
@@ -156,12 +172,14 @@ private:
     const QString name;
     const double weeklyGrowth;
     Lines lines;
-    QStringView parent;
+    QStringView parent; ///< of the lines that are added
+    bool plain;
 };
 
 } // namespace
 
-QString BuildCreatureText(const Creature& creature, const QString& fileName, double weeklyGrowth) {
+CreatureText BuildCreatureText(const Creature& creature, const QString& fileName,
+                               double weeklyGrowth) {
     return Composition(creature, fileName, weeklyGrowth).Compose();
 }
 

@@ -4,10 +4,18 @@
 
 namespace Hesperin {
 
+struct CreatureText {
+    QString text;
+    bool plain; ///< every value consists of letters, digits, blanks, `_`, `-` and `.` alone, so
+                ///< that it can't be read as anything else
+};
+
 /// The text of a new creature file, with a line feed between lines and none behind the last.
 /// `fileName` names the shared map object and the visual that the file links to; `weeklyGrowth` is the
-/// computed one.
-QString BuildCreatureText(const Creature& creature, const QString& fileName, double weeklyGrowth);
+/// computed one. A value's `&` and `<` are escaped, in a reference `"` as well; all else stands as it
+/// is.
+CreatureText BuildCreatureText(const Creature& creature, const QString& fileName,
+                               double weeklyGrowth);
 
 /// The bytes of such a file on disk: the text as UTF-8 and one carriage return and line feed behind
 /// it.

@@ -1,4 +1,4 @@
-#include "form/main_form.h"
+#include "form/form_lists.h"
 
 #include <initializer_list>
 
@@ -37,7 +37,7 @@ void HoldMenus(MainForm& form) {
 }
 
 void HoldParameters(MainForm& form) {
-    const TabPage& page = form.Tablus.Tab(0);
+    const TabPage& page = form.Tablus.At(Page::Parameters);
     const std::initializer_list<std::pair<Frame*, Control*>> fields{
         {&form.FrameNC, &form.txtNC},
         {&form.FrameIDC, &form.txtIDC},
@@ -79,38 +79,16 @@ void HoldParameters(MainForm& form) {
 }
 
 void HoldResults(MainForm& form) {
-    Hold(form.Tablus.Tab(0), {&form.frmMM, &form.frmAM});
-    Hold(form.frmMM, {&form.lblValues, &form.FramePower, &form.FrameExperience, &form.FrameGrowth,
-                      &form.FrameCost, &form.lblValuesX, &form.FramePowerX, &form.FrameExperienceX,
-                      &form.FrameGrowthX, &form.FrameCostX, &form.lblValuesA, &form.FramePowerA,
-                      &form.FrameExperienceA, &form.FrameGrowthA, &form.FrameCostA});
-    Hold(form.frmAM, {&form.lblValuesS, &form.FramePowerS, &form.FrameExperienceS,
-                      &form.FrameGrowthS, &form.FrameCostS, &form.lblValuesD, &form.FramePowerD,
-                      &form.FrameExperienceD, &form.FrameGrowthD, &form.FrameCostD});
-    const std::initializer_list<std::pair<Frame*, Label*>> results{
-        {&form.FramePower, &form.lblPowerRolvane},
-        {&form.FrameExperience, &form.lblExpRolvane},
-        {&form.FrameGrowth, &form.lblGrowthRolvane},
-        {&form.FrameCost, &form.lblCostRolvane},
-        {&form.FramePowerX, &form.lblPowerHesperin},
-        {&form.FrameExperienceX, &form.lblExpHesperin},
-        {&form.FrameGrowthX, &form.lblGrowthHesperin},
-        {&form.FrameCostX, &form.lblCostHesperin},
-        {&form.FramePowerA, &form.lblPowerAverage},
-        {&form.FrameExperienceA, &form.lblExpAverage},
-        {&form.FrameGrowthA, &form.lblGrowthAverage},
-        {&form.FrameCostA, &form.lblCostAverage},
-        {&form.FramePowerS, &form.lblPowerS},
-        {&form.FrameExperienceS, &form.lblExpS},
-        {&form.FrameGrowthS, &form.lblGrowthS},
-        {&form.FrameCostS, &form.lblCostS},
-        {&form.FramePowerD, &form.lblPowerD},
-        {&form.FrameExperienceD, &form.lblExpD},
-        {&form.FrameGrowthD, &form.lblGrowthD},
-        {&form.FrameCostD, &form.lblCostD},
+    Hold(form.Tablus.At(Page::Parameters), {&form.frmMM, &form.frmAM});
+    const auto hold = [&form](const Frame& panel, const ResultPlace& place) {
+        (form.*place.heading).SetParent(panel);
+        (form.*place.frame).SetParent(panel);
+        (form.*place.label).SetParent(form.*place.frame);
     };
-    for (const auto& [frame, label] : results)
-        label->SetParent(*frame);
+    for (const ResultRow& row : ResultRows)
+        hold(form.frmMM, row.place);
+    for (const ResultPlace& place : AlternativeResults)
+        hold(form.frmAM, place);
 }
 
 } // namespace
@@ -121,16 +99,16 @@ MainForm::MainForm() {
                    &ComDialog});
     HoldParameters(*this);
     HoldResults(*this);
-    HoldAll(Tablus.Tab(1), Abilities);
-    HoldAll(Tablus.Tab(2), Spells);
-    HoldAll(Tablus.Tab(2), soq);
-    HoldAll(Tablus.Tab(3), Specabilities);
-    HoldAll(Tablus.Tab(3), saz);
-    Hold(Tablus.Tab(4), {&RTBData});
+    HoldAll(Tablus.At(Page::Abilities), Abilities);
+    HoldAll(Tablus.At(Page::Spells), Spells);
+    HoldAll(Tablus.At(Page::Spells), soq);
+    HoldAll(Tablus.At(Page::Specabilities), Specabilities);
+    HoldAll(Tablus.At(Page::Specabilities), saz);
+    Hold(Tablus.At(Page::File), {&RTBData});
     HoldAll(frmMain, utbN);
     HoldAll(frmMain, utbD);
 
-    Tablus.Tab(4).SetCaption(QStringLiteral("XDB"));
+    Tablus.At(Page::File).SetCaption(QStringLiteral("XDB"));
     Disable({&mnuSave, &mnuFrench, &mnuGerman, &mnuAlternativeMethod, &mnuHelp, &FrameIDC,
              &FrameShots, &txtShots, &FrameMana, &txtMana, &FrameRange, &ComboRange, &frmMM, &frmAM,
              &cmdRAS, &Specabilities(0)});

@@ -1,6 +1,8 @@
 // The main window as plain data: one member per control, under the control's own name.
 #pragma once
 
+#include "catalogue/ability_index.h"
+#include "catalogue/spell_catalogue.h"
 #include "form/captioned.h"
 #include "form/check_box.h"
 #include "form/combo_box.h"
@@ -9,7 +11,6 @@
 #include "form/multi_option.h"
 #include "form/stored_text.h"
 #include "form/tab_control.h"
-#include "form/text_buffer.h"
 #include "form/text_field.h"
 
 namespace Hesperin {
@@ -157,21 +158,23 @@ struct MainForm : ControlRegistry {
     Frame FrameCostD{*this, "FrameCostD"};
     Label lblCostD{*this, "lblCostD"};
 
-    // The check-box pages; the caption of each box is the game's token.
-    ControlArray<CheckBox, 1, 174> Abilities{*this, "Abilities"};
-    ControlArray<CheckBox, 1, 91> Spells{*this, "Spells"};
-    ControlArray<MultiOption, 1, 91> soq{*this, "soq"};
-    ControlArray<CheckBox, 0, 54> Specabilities{*this, "Specabilities"};
-    ControlArray<MultiOption, 0, 54> saz{*this, "saz"};
+    // The check-box pages; the caption of each box is the game's token. `soq` are the mastery selectors
+    // of the spells, `saz` those of the special abilities (which end in the inert one at 0).
+    ControlArray<CheckBox, 1, Ability::Count> Abilities{*this, "Abilities"};
+    ControlArray<CheckBox, 1, SpellCount> Spells{*this, "Spells"};
+    ControlArray<MultiOption, 1, SpellCount> soq{*this, "soq"};
+    ControlArray<CheckBox, 0, SpecabilityCount> Specabilities{*this, "Specabilities"};
+    ControlArray<MultiOption, 0, SpecabilityCount> saz{*this, "saz"};
 
-    // Page 4 and the work buffers of the file reader.
-    TextBuffer RTBData{*this, "RTBData"};
-    TextBuffer RTBTEMP{*this, "RTBTEMP"};
-    TextBuffer RTBSPEC{*this, "RTBSPEC"};
+    // The text on the page of the file, and the parts of it that the reader looked for a mastery in last: of
+    // a spell, of a special ability.
+    StoredText RTBData{*this, "RTBData"};
+    StoredText RTBTEMP{*this, "RTBTEMP"};
+    StoredText RTBSPEC{*this, "RTBSPEC"};
 
-    // Name and description of each ability in the language of the moment, never shown here.
-    ControlArray<StoredText, 1, 174> utbN{*this, "utbN"};
-    ControlArray<StoredText, 1, 174> utbD{*this, "utbD"};
+    // Name and description of each ability in the current language, never shown here.
+    ControlArray<StoredText, 1, Ability::Count> utbN{*this, "utbN"};
+    ControlArray<StoredText, 1, Ability::Count> utbD{*this, "utbD"};
 
     FileDialog ComDialog{*this, "ComDialog"};
 

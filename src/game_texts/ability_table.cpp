@@ -1,6 +1,6 @@
-#include "cli/ability_table.h"
+#include "game_texts/ability_table.h"
 
-#include "platform/xml_limits.h"
+#include "xml/xml_limits.h"
 
 #include <QXmlStreamReader>
 
@@ -70,9 +70,9 @@ QStringList AbilityTableLevels() {
             QStringLiteral("CombatAbilities.xdb")};
 }
 
-std::variant<AbilityTable, QString> ReadAbilityTable(const QByteArray& bytes) {
+Result<AbilityTable> ReadAbilityTable(const QByteArray& bytes) {
     if (HasEndlessMarkup(bytes, LongestMarkup))
-        return QStringLiteral("it has a tag or a document type without end");
+        return Error{Error::What::EndlessMarkup};
     QXmlStreamReader reader(bytes);
     reader.setNamespaceProcessing(false);
     reader.setEntityExpansionLimit(EntityLimit(bytes, LongestExpansion));
@@ -104,9 +104,10 @@ std::variant<AbilityTable, QString> ReadAbilityTable(const QByteArray& bytes) {
     }
     if (!reader.hasError())
         return table;
-    return QStringLiteral("it is not well-formed XML: %1 (line %2, column %3)")
-        .arg(reader.errorString(), QString::number(reader.lineNumber()),
-             QString::number(reader.columnNumber() + 1));
+    Error error{Error::What::NotWellFormed, reader.errorString()};
+    error.line = reader.lineNumber();
+    error.column = reader.columnNumber() + 1;
+    return error;
 }
 
 } // namespace Hesperin

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "text/error.h"
+
 #include <QByteArray>
 #include <QHash>
 #include <QStringList>
-
-#include <variant>
 
 namespace Hesperin {
 
@@ -25,8 +25,8 @@ struct AbilityReferences {
 using AbilityTable = QHash<QString, AbilityReferences>;
 
 /// Reads the game's table of abilities: of each item the ID, and what its first elements for a name
-/// and a description refer to. Whatever else is in there is passed over. Gives the reason when it
-/// isn't well-formed.
-std::variant<AbilityTable, QString> ReadAbilityTable(const QByteArray& bytes);
+/// and a description refer to. Whatever else is in there is passed over. Refuses one that isn't
+/// well-formed.
+Result<AbilityTable> ReadAbilityTable(const QByteArray& bytes);
 
 } // namespace Hesperin

@@ -1,9 +1,9 @@
-#include "localisation/ability_texts.h"
+#include "game_texts/ability_texts.h"
 
-#include "catalogues/ability_catalogue.h"
-#include "platform/path_lookup.h"
-#include "platform/read_file.h"
-#include "platform/text_file.h"
+#include "catalogue/ability_catalogue.h"
+#include "system/path_lookup.h"
+#include "system/read_file.h"
+#include "text/decode_text.h"
 
 #include <algorithm>
 
@@ -48,14 +48,13 @@ std::vector<PathLookup> TreesOf(const QString& languageCode, const ProgramPlaces
 
 QString LoadText(PathLookup& tree, const QStringList& levels, CodePage fallback) {
     auto content = ReadFile(tree.Spelled(levels), LargestAbilityText);
-    if (std::holds_alternative<FileObstacle>(content)) {
+    if (!content) {
         const QString otherCase = tree.Find(levels);
         if (otherCase.isEmpty())
             return {};
         content = ReadFile(otherCase, LargestAbilityText);
     }
-    const auto* bytes = std::get_if<QByteArray>(&content);
-    return bytes == nullptr ? QString() : DecodeText(*bytes, fallback);
+    return content ? DecodeText(*content, fallback) : QString();
 }
 
 QString LoadText(std::vector<PathLookup>& trees, const QStringList& levels, CodePage fallback) {
@@ -76,36 +75,23 @@ QString WithoutLineEnd(const QString& text) {
 
 } // namespace
 
-void AbilityTextFiles(SharedState& state, int index) {
+TextFiles AbilityTextFiles(int index) {
     const AbilityRow& row = AbilityCatalogue[static_cast<std::size_t>(index)];
+    for (const OddNames& odd : OddTextFiles)
+        if (odd.index == index)
+            return {QString::fromUtf16(odd.nameFile), QString::fromUtf16(odd.descFile)};
+    if (row.files == TextFileNames::Plain)
+        return {QStringLiteral("name"), QStringLiteral("description")};
     const QString stem = Stem(index);
-    switch (row.files) {
-    case TextFileNames::Stem:
-        state.AbilityNameFile = stem + QLatin1String("_name");
-        state.AbilityDescFile = stem + QLatin1String("_desc");
-        break;
-    case TextFileNames::Plain:
-        state.AbilityNameFile = QStringLiteral("name");
-        state.AbilityDescFile = QStringLiteral("description");
-        break;
-    case TextFileNames::Odd: {
-        const auto* odd =
-            std::find_if(std::begin(OddTextFiles), std::end(OddTextFiles),
-                         [index](const OddNames& names) { return names.index == index; });
-        state.AbilityNameFile = QString::fromUtf16(odd->nameFile);
-        state.AbilityDescFile = QString::fromUtf16(odd->descFile);
-        break;
-    }
-    }
+    return {stem + QLatin1String("_name"), stem + QLatin1String("_desc")};
 }
 
 std::vector<AbilityText> AbilityTexts() {
     std::vector<AbilityText> texts;
-    SharedState names;
     for (int i = 1; i <= Ability::Count; ++i) {
-        AbilityTextFiles(names, i);
-        texts.push_back({Stem(i), names.AbilityNameFile + Extension, i, true});
-        texts.push_back({Stem(i), names.AbilityDescFile + Extension, i, false});
+        const TextFiles files = AbilityTextFiles(i);
+        texts.push_back({Stem(i), files.AbilityNameFile + Extension, i, true});
+        texts.push_back({Stem(i), files.AbilityDescFile + Extension, i, false});
     }
     return texts;
 }
@@ -115,20 +101,21 @@ QStringList AbilityTextLevels() {
             QStringLiteral("Creature_abilities")};
 }
 
-void LoadAbilityTexts(Program& program) {
-    SharedState& state = program.state;
+std::array<AbilityWords, Ability::Count + 1> LoadAbilityTexts(const QString& languageCode,
+                                                              const ProgramPlaces& places) {
     const CodePage fallback =
-        state.LanguageCode == QLatin1String("RU") ? CodePage::Windows1251 : CodePage::Windows1252;
-    std::vector<PathLookup> trees = TreesOf(state.LanguageCode, program.platform.Places());
-    for (int i = 1; i <= Ability::Count; ++i) {
-        AbilityTextFiles(state, i);
-        const QString name =
-            LoadText(trees, {Stem(i), state.AbilityNameFile + Extension}, fallback);
-        const QString desc =
-            LoadText(trees, {Stem(i), state.AbilityDescFile + Extension}, fallback);
-        program.form.utbN(i).SetText(WithoutLineEnd(name));
-        program.form.utbD(i).SetText(desc);
+        languageCode == QLatin1String("RU") ? CodePage::Windows1251 : CodePage::Windows1252;
+    std::vector<PathLookup> trees = TreesOf(languageCode, places);
+    std::array<AbilityWords, Ability::Count + 1> words;
+    for (const AbilityText& text : AbilityTexts()) {
+        const QString content = LoadText(trees, {text.folder, text.file}, fallback);
+        AbilityWords& ability = words[static_cast<std::size_t>(text.ability)];
+        if (text.isName)
+            ability.name = WithoutLineEnd(content);
+        else
+            ability.description = content;
     }
+    return words;
 }
 
 } // namespace Hesperin

@@ -1,11 +1,10 @@
-#include "cli/text_source.h"
+#include "game_texts/text_source.h"
 
-#include "cli/ability_table.h"
-#include "cli/zip_archive.h"
-#include "localisation/ability_texts.h"
-#include "localisation/obstacle_text.h"
-#include "platform/path_lookup.h"
-#include "platform/read_file.h"
+#include "game_texts/ability_table.h"
+#include "system/zip_archive.h"
+#include "game_texts/ability_texts.h"
+#include "system/path_lookup.h"
+#include "system/read_file.h"
 
 #include <QFileInfo>
 
@@ -23,8 +22,7 @@ std::vector<QStringList> Beginnings(const QString& languageCode) {
 
 class FolderSource : public TextSource {
 public:
-    FolderSource(const QString& path, const QString& languageCode, const SharedState& state)
-        : TextSource(path), words(state) {
+    FolderSource(const QString& path, const QString& languageCode) : TextSource(path) {
         PathLookup top(path);
         for (const QStringList& beginning : Beginnings(languageCode))
             if (const QString root = beginning.isEmpty() ? path : top.Find(beginning);
@@ -38,35 +36,22 @@ public:
         });
     }
 
-    std::optional<std::variant<QByteArray, QString>> Read(const QStringList& levels,
-                                                          qint64 limit) override {
-        for (PathLookup& root : roots) {
-            const QString path = root.Find(levels);
-            if (path.isEmpty())
-                continue;
-            auto content = ReadFile(path, limit);
-            if (auto* bytes = std::get_if<QByteArray>(&content))
-                return std::move(*bytes);
-            const auto& obstacle = std::get<FileObstacle>(content);
-            return obstacle.kind == FileObstacle::Kind::TooLarge ? ZipArchive::TooLarge(limit)
-                                                                 : ObstacleText(words, obstacle);
-        }
+    std::optional<Result<QByteArray>> Read(const QStringList& levels, qint64 limit) override {
+        for (PathLookup& root : roots)
+            if (const QString path = root.Find(levels); !path.isEmpty())
+                return ReadFile(path, limit);
         return std::nullopt;
     }
 
 private:
     std::vector<PathLookup> roots;
-    const SharedState& words;
 };
 
 class ArchiveSource : public TextSource {
 public:
-    ArchiveSource(const QString& path, const QString& languageCode, const SharedState& state)
-        : TextSource(path) {
+    ArchiveSource(const QString& path, const QString& languageCode) : TextSource(path) {
         if (const QFileInfo place(path); !place.isFile()) { // a pipe would keep the program waiting
-            const auto kind =
-                place.exists() ? FileObstacle::Kind::NotAFile : FileObstacle::Kind::Missing;
-            obstacle = ObstacleText(state, {kind, {}});
+            noFile = Error{place.exists() ? Error::What::NotAFile : Error::What::FileMissing};
             return;
         }
         archive.emplace(path, QStringList{QStringLiteral(".txt"),
@@ -75,10 +60,9 @@ public:
             roots.append((beginning + QStringList(QString())).join(u'/'));
     }
 
-    QString Fault() const override { return archive ? archive->Fault() : obstacle; }
+    Failure Fault() const override { return archive ? archive->Fault() : noFile; }
 
-    std::optional<std::variant<QByteArray, QString>> Read(const QStringList& levels,
-                                                          qint64 limit) override {
+    std::optional<Result<QByteArray>> Read(const QStringList& levels, qint64 limit) override {
         for (const QString& root : roots)
             if (const QString path = root + levels.join(u'/'); archive->Has(path))
                 return archive->Read(path, limit);
@@ -87,17 +71,16 @@ public:
 
 private:
     std::optional<ZipArchive> archive;
-    QString obstacle;
+    Failure noFile;
     QStringList roots;
 };
 
 } // namespace
 
-std::unique_ptr<TextSource> OpenTextSource(const QString& path, const QString& languageCode,
-                                           const SharedState& state) {
+std::unique_ptr<TextSource> OpenTextSource(const QString& path, const QString& languageCode) {
     if (QFileInfo(path).isDir())
-        return std::make_unique<FolderSource>(path, languageCode, state);
-    return std::make_unique<ArchiveSource>(path, languageCode, state);
+        return std::make_unique<FolderSource>(path, languageCode);
+    return std::make_unique<ArchiveSource>(path, languageCode);
 }
 
 } // namespace Hesperin

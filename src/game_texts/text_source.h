@@ -1,12 +1,12 @@
 #pragma once
 
-#include "engine/shared_state.h"
+#include "text/error.h"
 
+#include <QByteArray>
 #include <QStringList>
 
 #include <memory>
 #include <optional>
-#include <variant>
 
 namespace Hesperin {
 
@@ -21,8 +21,8 @@ public:
     /// As the user named it.
     const QString& Name() const { return name; }
 
-    /// Why nothing can be had from it; empty when it can be read.
-    virtual QString Fault() const { return {}; }
+    /// Why nothing can be had from it; nothing when it can be read.
+    virtual Failure Fault() const { return {}; }
 
     /// Whether the texts of abilities lie in it in their own places; an archive is taken to have
     /// them.
@@ -31,8 +31,7 @@ public:
     /// The bytes of the file at `levels` below the game's data, a text or the table of abilities,
     /// or why they can't be had, as when there are more than `limit`; nothing when it isn't in
     /// here.
-    virtual std::optional<std::variant<QByteArray, QString>> Read(const QStringList& levels,
-                                                                  qint64 limit) = 0;
+    virtual std::optional<Result<QByteArray>> Read(const QStringList& levels, qint64 limit) = 0;
 
 private:
     QString name;
@@ -40,8 +39,7 @@ private:
 
 /// An unpacked game tree when `path` is a folder, else a game archive. The game's data lie in it
 /// below EN or RU as `languageCode` tells, below data, or both, or at its top. Letter case plays no
-/// part. Obstacles are told in the words of `state`.
-std::unique_ptr<TextSource> OpenTextSource(const QString& path, const QString& languageCode,
-                                           const SharedState& state);
+/// part.
+std::unique_ptr<TextSource> OpenTextSource(const QString& path, const QString& languageCode);
 
 } // namespace Hesperin

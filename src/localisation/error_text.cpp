@@ -1,35 +1,84 @@
-#include "localisation/obstacle_text.h"
+#include "localisation/error_text.h"
 
-#include "localisation/string_tables.h"
+#include "localisation/parser_words.h"
+#include "text/fill.h"
 
 namespace Hesperin {
 
 namespace {
 
-/// In the order of FileObstacle::Kind.
-constexpr QString SharedState::*Sentences[] = {
-    &SharedState::MsgFileMissing,  &SharedState::MsgFolderMissing, &SharedState::MsgIsFolder,
-    &SharedState::MsgNotAFile,     &SharedState::MsgNotAllowed,    &SharedState::MsgFileInUse,
-    &SharedState::MsgDiskFull,     &SharedState::MsgDiskReadOnly,  &SharedState::MsgNameTooLong,
-    &SharedState::MsgFileTooLarge, &SharedState::MsgSystemSays,
+using What = Error::What;
+
+// clang-format off
+/// In the order of Error::What. %1 is the value, or what was expected where there is no value.
+constexpr QString Messages::*Sentences[] = {
+    &Messages::MsgFileMissing,
+    &Messages::MsgFolderMissing,
+    &Messages::MsgIsFolder,
+    &Messages::MsgNotAFile,
+    &Messages::MsgNotAllowed,
+    &Messages::MsgFileInUse,
+    &Messages::MsgDiskFull,
+    &Messages::MsgDiskReadOnly,
+    &Messages::MsgNameTooLong,
+    &Messages::MsgFileTooLarge,
+    &Messages::MsgSystemSays,
+    &Messages::MsgNotAnArchive,
+    &Messages::MsgArchiveDamaged,
+    &Messages::MsgDamagedInArchive,
+    &Messages::MsgEncrypted,
+    &Messages::MsgNotWellFormed,
+    &Messages::MsgEndsEarly,
+    &Messages::MsgWrongRoot,
+    &Messages::MsgTextTooLong,
+    &Messages::MsgEndlessMarkup,
+    &Messages::MsgNameChanges,
 };
-static_assert(std::size(Sentences) == static_cast<std::size_t>(FileObstacle::Kind::Other) + 1);
+static_assert(std::size(Sentences) == static_cast<std::size_t>(What::NameChanges) + 1);
 
 /// In the order of SaveNote.
-constexpr QString SharedState::*NoteSentences[] = {
-    &SharedState::MsgOtherNamesKeepOld, &SharedState::MsgOwnerNotKept, &SharedState::MsgMayNotLast};
+constexpr QString Messages::*NoteSentences[] = {
+    &Messages::MsgOtherNamesKeepOld,
+    &Messages::MsgOwnerNotKept,
+    &Messages::MsgMayNotLast,
+};
 static_assert(std::size(NoteSentences) == static_cast<std::size_t>(SaveNote::MayNotLast) + 1);
+// clang-format on
+
+QString Place(const Messages& messages, const Error& error) {
+    if (error.line == 0)
+        return {};
+    return Fill(error.element.isEmpty() ? messages.MsgAtLine : messages.MsgAtLineIn,
+                {QString::number(error.line), QString::number(error.column), error.element});
+}
 
 } // namespace
 
-QString ObstacleText(const SharedState& state, const FileObstacle& obstacle) {
-    return Fill(state.*Sentences[static_cast<std::size_t>(obstacle.kind)], {obstacle.detail});
+QString ErrorReason(const Messages& messages, const Error& error) {
+    const QString value = error.what == What::NotWellFormed ? ParserWords(messages, error.value)
+                          : error.value.isEmpty()           ? error.expected
+                                                            : error.value;
+    return Fill(messages.*Sentences[static_cast<std::size_t>(error.what)], {value}) +
+           Place(messages, error);
 }
 
-QString NotesText(const SharedState& state, const std::vector<SaveNote>& notes) {
+QString ErrorText(const Messages& messages, const Error& error) {
+    const QString reason = ErrorReason(messages, error);
+    switch (error.doing) {
+    case Error::Doing::Opening:
+        return Fill(messages.MsgFileRefused, {error.file, reason});
+    case Error::Doing::Saving:
+        return Fill(messages.MsgSaveFailed, {error.file, reason});
+    case Error::Doing::Nothing:
+        break;
+    }
+    return reason;
+}
+
+QString NotesText(const Messages& messages, const std::vector<SaveNote>& notes) {
     QStringList sentences;
     for (const SaveNote note : notes)
-        sentences.append(state.*NoteSentences[static_cast<std::size_t>(note)]);
+        sentences.append(messages.*NoteSentences[static_cast<std::size_t>(note)]);
     return sentences.join(u' ');
 }
 

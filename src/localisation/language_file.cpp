@@ -1,7 +1,7 @@
 #include "localisation/language_file.h"
 
-#include "engine/languages.h"
-#include "platform/setting_file.h"
+#include "localisation/languages.h"
+#include "system/setting_file.h"
 
 #include <array>
 

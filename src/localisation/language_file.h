@@ -2,7 +2,7 @@
 // else.
 #pragma once
 
-#include "platform/program_places.h"
+#include "system/program_places.h"
 
 #include <cstdint>
 

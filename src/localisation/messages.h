@@ -1,44 +1,98 @@
-// All words of the interface that follow the language, shown letter for letter as they stand in the
-// tables.
+// The words of the program that follow the language, shown letter for letter as they stand in the table.
 #pragma once
 
-#include "engine/shared_state.h"
-#include "form/main_form.h"
+#include <QString>
 
+#include <array>
+#include <cstdint>
 #include <span>
 
 namespace Hesperin {
 
-/// A text in the four languages; null where a language has none and the text of the moment stays.
-using Texts = std::array<const char16_t*, 4>; // English, Russian, French, German
+/// The messages in the current language. A language that lacks one leaves it as it was.
+struct Messages {
+    QString LanguageCode; ///< "EN", "RU", "FR", "DE"
 
-/// A shared text string.
-struct MessageRow {
-    QString SharedState::*message;
-    Texts texts;
+    QString WarningTitle;
+    QString MsgSecondInstance;
+    QString MsgQuitQuestion;
+    QString MsgQuitTitle;
+    QString MsgValueFor;
+    QString MsgOutOfRange;
+    QString MsgCannotBeLess;
+    QString MsgZeroPower;
+    QString MsgIncreaseTier;
+    QString MsgLowerTier;
+    QString MsgTierTo;
+    QString MsgAbilityValue;
+    QString MsgAverageValue;
+    QString SumCreature;
+    QString SumPower;
+    QString SumExperience;
+    QString SumGrowth;
+    QString SumGold;
+    QString MsgEnterName;
+    QString DefaultFileName;
+    QString MsgWhatIs;
+    QString MsgAppDescription;
+    QString MsgFileRefused;
+    QString MsgFileMissing;
+    QString MsgFolderMissing;
+    QString MsgIsFolder;
+    QString MsgNotAFile;
+    QString MsgNotAllowed;
+    QString MsgFileInUse;
+    QString MsgDiskFull;
+    QString MsgDiskReadOnly;
+    QString MsgNameTooLong;
+    QString MsgFileTooLarge;
+    QString MsgSystemSays;
+    QString MsgNotWellFormed;
+    QString MsgEndsEarly;
+    QString MsgWrongRoot;
+    QString MsgTextTooLong;
+    QString MsgAtLine;
+    QString MsgAtLineIn;
+    QString MsgElementsMissing;
+    QString MsgNumbersLimited;
+    QString MsgSaveFailed;
+    QString MsgNotAnArchive;
+    QString MsgArchiveDamaged;
+    QString MsgDamagedInArchive;
+    QString MsgEncrypted;
+    QString MsgEndlessMarkup;
+    QString MsgNameChanges;
+    QString MsgSavedBut;
+    QString MsgOtherNamesKeepOld;
+    QString MsgOwnerNotKept;
+    QString MsgMayNotLast;
+    QString MsgNoCalculator;
+    QString MsgLockOfOtherHost;
+    QString MsgYes;
+    QString MsgNo;
+
+    // How a result is named for those who cannot see where it stands: what it is (%1), the figure.
+    QString FigureByRolvane;
+    QString FigureByHesperin;
+    QString FigureOnAverage;
+    QString FigureByQuintarell;
+    QString FigureByBravik;
 };
 
-/// The caption of a control.
-template <typename T>
-struct CaptionRow {
-    T MainForm::*control;
+/// A text in the four languages: English, Russian, French, German; null where a language has none.
+using Texts = std::array<const char16_t*, 4>;
+
+struct MessageRow {
+    QString Messages::*message;
     Texts texts;
 };
 
 extern const std::span<const MessageRow> MessageRows;
-extern const std::span<const CaptionRow<MenuEntry>> MenuRows;
-extern const std::span<const CaptionRow<Frame>> FrameRows;
-extern const std::span<const CaptionRow<Label>> LabelRows;
-extern const std::span<const CaptionRow<Button>> ButtonRows;
 
-extern const std::span<const Texts> PageRows;    ///< by page of Tablus
-extern const std::span<const Texts> FactionRows; ///< by entry of ComboFaction
-extern const std::span<const Texts> RangeRows;   ///< by entry of ComboRange
+/// Sets every message that the language has. `languageId`: 1 English, 2 Russian, 3 French, 4 German.
+void SetMessages(Messages& messages, std::uint8_t languageId);
 
-/// Tool tip of lblValuesA, whose caption is shorter.
-extern const Texts AverageToolTip;
-
-/// `text` with %1, %2 and so on replaced by `values` in that order.
-QString Fill(const QString& text, const QStringList& values);
+/// The messages of a language and nothing else.
+Messages MessagesIn(std::uint8_t languageId);
 
 } // namespace Hesperin

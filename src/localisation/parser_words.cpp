@@ -1,6 +1,6 @@
 #include "localisation/parser_words.h"
 
-#include "localisation/string_tables.h"
+#include "text/fill.h"
 
 #include <optional>
 
@@ -66,8 +66,8 @@ std::optional<QStringList> ValuesIn(const QString& text, const QString& pattern)
 
 } // namespace
 
-QString ParserWords(const SharedState& state, const QString& english) {
-    if (state.LanguageCode != QLatin1String("RU"))
+QString ParserWords(const Messages& messages, const QString& english) {
+    if (messages.LanguageCode != QLatin1String("RU"))
         return english;
     for (const Saying& saying : Sayings)
         if (const auto values = ValuesIn(english, QString::fromUtf16(saying.english)))

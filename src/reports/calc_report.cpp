@@ -1,126 +1,126 @@
-#include "cli/calc_report.h"
+#include "reports/calc_report.h"
 
-#include "catalogues/ability_catalogue.h"
-#include "engine/formulas.h"
-#include "engine/numbers.h"
+#include "catalogue/ability_catalogue.h"
+#include "creature_files/document.h"
+#include "localisation/captions.h"
+#include "localisation/error_text.h"
+#include "localisation/judgement_text.h"
+#include "localisation/titles.h"
+#include "reports/json.h"
+#include "reports/reading_text.h"
+#include "text/numbers.h"
 
-#include <QJsonArray>
-
-#include <array>
+#include <optional>
 
 namespace Hesperin {
 
 namespace {
 
-/// One kind of figure by both methods, as an average, and as the file has it.
+/// One kind of figure: how the two forms name it, and what the file has of it.
 struct FigureRow {
+    Figure figure;
     const char* key;
     const char* fileKey;
     const char* heading;
-    double rolvane;
-    double hesperin;
-    double average;
-    int inFile;
+    std::int16_t FileFigures::*inFile;
 };
 
-/// A run that found a zero Power computed nothing behind it.
-bool Stopped(const SharedState& state) {
-    return state.PowerRolvane == 0;
+constexpr FigureRow FigureRows[] = {
+    {Figure::Power, "power", "power", "Power", &FileFigures::FilePower},
+    {Figure::Experience, "experience", "experience", "Experience", &FileFigures::FileExperience},
+    {Figure::Growth, "growth", "growth", "Growth", &FileFigures::FileGrowth},
+    {Figure::Cost, "cost", "gold", "Gold", &FileFigures::FileGold},
+};
+
+struct MethodColumn {
+    Method method;
+    const char* key;
+    const char* heading;
+};
+
+constexpr MethodColumn MethodColumns[] = {
+    {Method::Rolvane, "rolvane", "Rolvane"},
+    {Method::Hesperin, "hesperin", "Hesperin"},
+    {Method::Average, "average", "Average"},
+};
+
+/// The result, if the calculation got so far: a zero Power stops it behind the two Powers.
+std::optional<double> Reached(const CalcReport& report, Method method, Figure figure) {
+    const Evaluation& evaluation = report.evaluation;
+    const bool beforeTheStop = figure == Figure::Power && method != Method::Average;
+    if (report.refusal || (!evaluation.figures && !beforeTheStop))
+        return std::nullopt;
+    return ResultOf(evaluation.powers, evaluation.figures.value_or(Figures()), method, figure);
 }
 
-std::array<FigureRow, 4> Rows(const SharedState& state) {
-    return {{
-        {"power", "power", "Power", state.PowerRolvane, state.PowerHesperin, state.PowerAverage,
-         state.FilePower},
-        {"experience", "experience", "Experience", static_cast<double>(state.ExpRolvane),
-         ExpHesperinOf(state.PowerHesperin, state.Tier), static_cast<double>(state.ExpAverage),
-         state.FileExperience},
-        {"growth", "growth", "Growth", static_cast<double>(state.GrowthRolvane),
-         static_cast<double>(state.GrowthHesperin), static_cast<double>(state.GrowthAverage),
-         state.FileGrowth},
-        {"cost", "gold", "Gold", state.CostRolvane, state.CostHesperin, state.CostAverage,
-         state.FileGold},
-    }};
+QJsonValue OrNull(std::optional<double> number) {
+    return number ? QJsonValue(*number) : QJsonValue();
 }
 
-QJsonValue Unless(bool stopped, double figure) {
-    return stopped ? QJsonValue() : QJsonValue(figure);
-}
-
-QJsonObject FiguresJson(const SharedState& state, bool opened) {
-    const bool stopped = !opened || Stopped(state);
+QJsonObject FiguresJson(const CalcReport& report) {
     QJsonObject figures;
-    if (!opened) {
-        for (const char* key : {"power", "experience", "growth", "cost"})
-            figures.insert(QLatin1String(key),
-                           QJsonObject{{"rolvane", {}}, {"hesperin", {}}, {"average", {}}});
-        return figures;
-    }
-    for (const FigureRow& row : Rows(state)) {
-        const bool isPower =
-            row.key == QLatin1String("power"); // the two Powers stand before the stop
-        figures.insert(QLatin1String(row.key),
-                       QJsonObject{{"rolvane", Unless(stopped && !isPower, row.rolvane)},
-                                   {"hesperin", Unless(stopped && !isPower, row.hesperin)},
-                                   {"average", Unless(stopped, row.average)}});
+    for (const FigureRow& row : FigureRows) {
+        QJsonObject methods;
+        for (const MethodColumn& column : MethodColumns)
+            methods.insert(QLatin1String(column.key),
+                           OrNull(Reached(report, column.method, row.figure)));
+        figures.insert(QLatin1String(row.key), methods);
     }
     return figures;
 }
 
-QJsonObject InFileJson(const SharedState& state, bool opened) {
+QJsonObject InFileJson(const CalcReport& report) {
     QJsonObject inFile;
-    for (const char* key : {"power", "experience", "growth", "gold"})
-        inFile.insert(QLatin1String(key), {});
-    if (opened)
-        for (const FigureRow& row : Rows(state))
-            inFile.insert(QLatin1String(row.fileKey), row.inFile);
+    for (const FigureRow& row : FigureRows)
+        inFile.insert(QLatin1String(row.fileKey),
+                      report.refusal ? QJsonValue() : QJsonValue(report.read.figures.*row.inFile));
     return inFile;
 }
 
-/// The parameters as Calculate has corrected them; null while there are none.
-QJsonObject ParametersJson(const Program& program, bool opened) {
-    const SharedState& state = program.state;
-    const auto number = [opened](std::int16_t value) { return Unless(!opened, value); };
-    const auto flag = [opened](bool value) { return opened ? QJsonValue(value) : QJsonValue(); };
-    return {
-        {"Attack", number(state.Attack)},
-        {"Defence", number(state.Defence)},
-        {"MinDam", number(state.MinDam)},
-        {"MaxDam", number(state.MaxDam)},
-        {"Health", number(state.Health)},
-        {"Speed", number(state.Speed)},
-        {"Initiative", number(state.Initiative)},
-        {"Tier", number(state.Tier)},
-        {"Upgrade", flag(state.UpgradeFactor != 1.0F)},
-        {"Shooter", flag(program.form.Abilities(Ability::Shooter).Ticked())},
+QJsonObject ParametersJson(const CalcReport& report) {
+    const Parameters& parameters = report.evaluation.validated.parameters;
+    const auto orNull = [&report](auto value) {
+        return report.refusal ? QJsonValue() : QJsonValue(value);
     };
+    QJsonObject object;
+    for (std::size_t i = 0; i < ParameterRanges.items.size(); ++i)
+        object.insert(ParameterRanges.items[i].name.toString(),
+                      orNull(parameters[static_cast<Parameter>(i)]));
+    object.insert(QStringLiteral("Upgrade"), orNull(parameters.UpgradeFactor != PlainFactor));
+    object.insert(QStringLiteral("Shooter"), orNull(parameters.Shooter));
+    return object;
 }
 
-QStringList TickedCaptions(const MainForm& form) {
-    QStringList captions;
-    for (const CheckBox& box : form.Abilities)
-        if (box.Ticked())
-            captions.append(box.Caption());
-    return captions;
+QStringList AbilityNames(const Creature& creature) {
+    QStringList names;
+    for (std::size_t i = 1; i < creature.Abilities.size(); ++i)
+        if (creature.Abilities[i])
+            names.append(QString::fromUtf16(AbilityCatalogue[i].token));
+    return names;
 }
 
-template <typename Boxes, typename Selectors>
-QJsonArray KnownJson(const Boxes& boxes, const Selectors& selectors) {
+template <typename Skills, typename Tokens, typename Take>
+void ForEachKnown(const Skills& skills, const Tokens& tokens, Take take) {
+    for (std::size_t i = 0; i < skills.size(); ++i)
+        if (skills[i].known)
+            take(QString::fromUtf16(tokens[i]), skills[i].mastery);
+}
+
+template <typename Skills, typename Tokens>
+QJsonArray KnownJson(const Skills& skills, const Tokens& tokens) {
     QJsonArray known;
-    for (const CheckBox& box : boxes)
-        if (box.Ticked())
-            known.append(QJsonObject{{"token", box.Caption()},
-                                     {"mastery", selectors(box.ArrayIndex()).Value()}});
+    ForEachKnown(skills, tokens, [&known](const QString& token, std::int16_t mastery) {
+        known.append(QJsonObject{{"token", token}, {"mastery", mastery}});
+    });
     return known;
 }
 
-template <typename Boxes, typename Selectors>
-QStringList KnownText(const Boxes& boxes, const Selectors& selectors) {
+template <typename Skills, typename Tokens>
+QStringList KnownText(const Skills& skills, const Tokens& tokens) {
     QStringList known;
-    for (const CheckBox& box : boxes)
-        if (box.Ticked())
-            known.append(box.Caption() +
-                         QStringLiteral(" (%1)").arg(selectors(box.ArrayIndex()).Value()));
+    ForEachKnown(skills, tokens, [&known](const QString& token, std::int16_t mastery) {
+        known.append(token + QStringLiteral(" (%1)").arg(mastery));
+    });
     return known;
 }
 
@@ -130,63 +130,105 @@ QString ListLine(const char* heading, const QStringList& entries) {
              entries.isEmpty() ? QStringLiteral("none") : entries.join(QLatin1String(", ")));
 }
 
+void TellReading(CalcReport& report, const Messages& messages, std::uint8_t languageId) {
+    const auto show = [&](BoxIcon icon, const QString& text) {
+        report.messages.push_back({icon, messages.WarningTitle, text});
+    };
+    const Evaluation& evaluation = report.evaluation;
+    if (const QString odd = ReadingText(messages, report.read); !odd.isEmpty())
+        show(BoxIcon::Information, odd);
+    const auto caption = [languageId](QLatin1String control) {
+        return CaptionIn(languageId, control);
+    };
+    for (const Correction& correction : evaluation.validated.corrections)
+        show(BoxIcon::Critical, CorrectionText(messages, caption, correction));
+    const std::int16_t tier = evaluation.validated.parameters.Tier;
+    if (!evaluation.advice)
+        show(BoxIcon::Critical, messages.MsgZeroPower);
+    else if (evaluation.advice->AdvisedTier != tier)
+        show(BoxIcon::Information,
+             TierAdviceText(messages, tier, evaluation.advice->AdvisedTier));
+}
+
 } // namespace
 
-QJsonObject CalcJson(const QString& file, bool opened, const Program& program,
-                     const CliPlatform& platform) {
-    const SharedState& state = program.state;
-    const MainForm& form = program.form;
-    const bool stopped = !opened || Stopped(state);
+CalcReport CalculateFile(const QString& path, std::uint8_t languageId) {
+    const Messages messages = MessagesIn(languageId);
+    CalcReport report{path, {}, {}, {}, {}, {}, {}};
+    const auto document = LoadCreatureDocument(path);
+    if (!document) {
+        report.refusal = document.Why();
+        report.messages.push_back(
+            {BoxIcon::Critical, messages.WarningTitle, ErrorText(messages, document.Why())});
+        return report;
+    }
+    report.read = ReadCreatureText(*document, EmptyCreature());
+    report.name = report.read.name.value_or(QStringLiteral("Test"));
+    report.evaluation = Evaluate(EnteredOf(report.read.creature));
+    TellReading(report, messages, languageId);
+    const Evaluation& evaluation = report.evaluation;
+    report.title = evaluation.figures
+                       ? SummaryTitle(messages, report.name, report.read.figures,
+                                      evaluation.validated.parameters.Tier, evaluation.powers,
+                                      *evaluation.figures)
+                       : FileTitle(report.name, report.read.figures);
+    return report;
+}
+
+QJsonObject CalcJson(const CalcReport& report) {
+    const bool opened = !report.refusal;
+    const Evaluation& evaluation = report.evaluation;
+    const Creature& creature = report.read.creature;
+    const auto orNull = [opened](auto value) { return opened ? QJsonValue(value) : QJsonValue(); };
     QJsonObject object{
-        {"file", file},
+        {"file", report.file},
         {"ok", opened},
-        {"name", opened ? QJsonValue(state.CreatureName) : QJsonValue()},
-        {"tier", Unless(!opened, state.Tier)},
-        {"advised_tier", Unless(stopped, state.AdvisedTier)},
-        {"figures", FiguresJson(state, opened)},
-        {"in_file", InFileJson(state, opened)},
-        {"parameters", ParametersJson(program, opened)},
+        {"name", orNull(report.name)},
+        {"tier", orNull(evaluation.validated.parameters.Tier)},
+        {"advised_tier",
+         evaluation.advice ? QJsonValue(evaluation.advice->AdvisedTier) : QJsonValue()},
+        {"figures", FiguresJson(report)},
+        {"in_file", InFileJson(report)},
+        {"parameters", ParametersJson(report)},
         {"ability_product",
-         opened ? QJsonValue(FloatText(state.AbilityProduct).toDouble()) : QJsonValue()},
-        {"abilities", opened ? QJsonArray::fromStringList(TickedCaptions(form)) : QJsonArray()},
-        {"spells", opened ? KnownJson(form.Spells, form.soq) : QJsonArray()},
-        {"specabilities", opened ? KnownJson(form.Specabilities, form.saz) : QJsonArray()},
-        {"messages", MessagesJson(platform.messages)},
-        {"title", opened ? QJsonValue(form.frmMain.Caption()) : QJsonValue()},
+         orNull(FloatText(evaluation.validated.parameters.AbilityProduct).toDouble())},
+        {"abilities", QJsonArray::fromStringList(AbilityNames(creature))},
+        {"spells", KnownJson(creature.Spells, SpellToken)},
+        {"specabilities", KnownJson(creature.Specabilities, SpecabilityToken)},
+        {"messages", MessagesJson(report.messages)},
+        {"title", orNull(report.title)},
     };
     if (!opened)
-        object.insert(QStringLiteral("error"), program.failure);
+        object.insert(QStringLiteral("error"), report.messages.front().text);
     return object;
 }
 
-QString CalcTable(const QString& file, const Program& program, const CliPlatform& platform) {
-    const SharedState& state = program.state;
-    const MainForm& form = program.form;
-    const QString upgraded = state.UpgradeFactor == 1.0F ? QString() : QStringLiteral(", upgraded");
+QString CalcTable(const CalcReport& report) {
+    const Creature& creature = report.read.creature;
+    const Parameters& parameters = report.evaluation.validated.parameters;
+    const QString upgraded =
+        parameters.UpgradeFactor == PlainFactor ? QString() : QStringLiteral(", upgraded");
     QString text = QStringLiteral("%1: %2, tier %3%4\n")
-                       .arg(file, state.CreatureName, QString::number(state.Tier), upgraded);
-    text += QStringLiteral("  %1%2%3%4%5\n")
-                .arg(QString(), -12)
-                .arg(QStringLiteral("Rolvane"), 10)
-                .arg(QStringLiteral("Hesperin"), 10)
-                .arg(QStringLiteral("Average"), 10)
-                .arg(QStringLiteral("In file"), 10);
-    const auto cell = [&state](const FigureRow& row, double figure, bool beforeStop) {
-        const bool reached = !Stopped(state) || (beforeStop && row.key == QLatin1String("power"));
-        return reached ? WholeText(figure) : QStringLiteral("-");
-    };
-    for (const FigureRow& row : Rows(state))
-        text += QStringLiteral("  %1%2%3%4%5\n")
-                    .arg(QLatin1String(row.heading), -12)
-                    .arg(cell(row, row.rolvane, true), 10)
-                    .arg(cell(row, row.hesperin, true), 10)
-                    .arg(cell(row, row.average, false), 10)
-                    .arg(row.inFile, 10);
-    text += ListLine("Abilities", TickedCaptions(form));
-    text += QStringLiteral("  Product of their values: %1\n").arg(FloatText(state.AbilityProduct));
-    text += ListLine("Spells (mastery 0 to 4)", KnownText(form.Spells, form.soq));
-    text += ListLine("Special abilities (mastery 0 to 4)", KnownText(form.Specabilities, form.saz));
-    for (const ShownMessage& message : platform.messages)
+                       .arg(report.file, report.name, QString::number(parameters.Tier), upgraded);
+    text += QStringLiteral("  %1").arg(QString(), -12);
+    for (const MethodColumn& column : MethodColumns)
+        text += QStringLiteral("%1").arg(QLatin1String(column.heading), 10);
+    text += QStringLiteral("%1\n").arg(QLatin1String("In file"), 10);
+    for (const FigureRow& row : FigureRows) {
+        text += QStringLiteral("  %1").arg(QLatin1String(row.heading), -12);
+        for (const MethodColumn& column : MethodColumns) {
+            const auto figure = Reached(report, column.method, row.figure);
+            text += QStringLiteral("%1").arg(figure ? WholeText(*figure) : QStringLiteral("-"), 10);
+        }
+        text += QStringLiteral("%1\n").arg(report.read.figures.*row.inFile, 10);
+    }
+    text += ListLine("Abilities", AbilityNames(creature));
+    text += QStringLiteral("  Product of their values: %1\n")
+                .arg(FloatText(parameters.AbilityProduct));
+    text += ListLine("Spells (mastery 0 to 4)", KnownText(creature.Spells, SpellToken));
+    text += ListLine("Special abilities (mastery 0 to 4)",
+                     KnownText(creature.Specabilities, SpecabilityToken));
+    for (const ShownMessage& message : report.messages)
         text +=
             QStringLiteral("  %1 %2\n")
                 .arg(message.icon == BoxIcon::Critical ? QLatin1String("!") : QLatin1String("i"),

@@ -1,14 +1,35 @@
 #pragma once
 
-#include "cli/json.h"
+#include "creature_files/reader.h"
+#include "localisation/message_box.h"
+#include "localisation/messages.h"
+#include "model/evaluation.h"
+#include "text/error.h"
+
+#include <QJsonObject>
+
+#include <vector>
 
 namespace Hesperin {
 
-/// What opening `file` gave, when `opened`, or why it was refused, as one object.
-QJsonObject CalcJson(const QString& file, bool opened, const Program& program,
-                     const CliPlatform& platform);
+/// What opening a creature file gives.
+struct CalcReport {
+    QString file;
+    Failure refusal; ///< why it can't be opened; nothing else is there then but the message
+    QString name;
+    ReadCreature read;
+    Evaluation evaluation;
+    QString title;
+    std::vector<ShownMessage> messages; ///< as the window would show them
+};
 
-/// What opening `file` gave, as a table for a person.
-QString CalcTable(const QString& file, const Program& program, const CliPlatform& platform);
+/// Reads and evaluates the creature file `path`. Messages are in the language of that number.
+CalcReport CalculateFile(const QString& path, std::uint8_t languageId);
+
+/// The report as one object.
+QJsonObject CalcJson(const CalcReport& report);
+
+/// The report as a table for a person.
+QString CalcTable(const CalcReport& report);
 
 } // namespace Hesperin

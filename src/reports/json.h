@@ -1,19 +1,18 @@
 #pragma once
 
-#include "cli/cli_platform.h"
-#include "engine/program.h"
+#include "localisation/message_box.h"
 
+#include <QJsonArray>
 #include <QJsonObject>
+
+#include <vector>
 
 namespace Hesperin {
 
 /// The object on one line.
 QByteArray JsonLine(const QJsonObject& object);
 
-/// The boxes shown, each with icon, title and text.
+/// Message boxes, each with icon, title and text.
 QJsonArray MessagesJson(const std::vector<ShownMessage>& messages);
-
-/// The whole state of the window and the program behind it.
-QJsonObject StateJson(const Program& program, const CliPlatform& platform);
 
 } // namespace Hesperin

@@ -1,4 +1,4 @@
-#include "platform/path_lookup.h"
+#include "system/path_lookup.h"
 
 #include <QDir>
 #include <QFileInfo>

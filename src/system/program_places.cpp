@@ -1,4 +1,4 @@
-#include "platform/program_places.h"
+#include "system/program_places.h"
 
 #include <QDir>
 #include <QStandardPaths>

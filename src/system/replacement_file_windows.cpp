@@ -1,4 +1,4 @@
-#include "platform/replacement_file.h"
+#include "system/replacement_file.h"
 
 #ifdef Q_OS_WIN
 

@@ -1,6 +1,6 @@
-#include "platform/save_file.h"
+#include "system/save_file.h"
 
-#include "platform/replacement_file.h"
+#include "system/replacement_file.h"
 
 #include <QFileInfo>
 
@@ -8,7 +8,7 @@ namespace Hesperin {
 
 namespace {
 
-using Kind = FileObstacle::Kind;
+using What = Error::What;
 
 /// The place that symbolic links lead to, which need not exist yet.
 QString BehindLinks(const QString& path) {
@@ -19,24 +19,24 @@ QString BehindLinks(const QString& path) {
     return place.filePath();
 }
 
-/// Makes the empty file beside `target`. Gives the obstacle when that can't be done.
-std::optional<FileObstacle> Create(ReplacementFile& file, const QString& target) {
+/// Makes the empty file beside `target`. Gives the error when that can't be done.
+Failure Create(ReplacementFile& file, const QString& target) {
     const QFileInfo place(target);
     if (place.isDir())
-        return FileObstacle{Kind::IsFolder, {}};
+        return Error{What::IsFolder};
     if (place.exists() && !place.isFile()) // the finished file would be moved over a device
-        return FileObstacle{Kind::NotAFile, {}};
+        return Error{What::NotAFile};
     if (place.fileName().isEmpty())
-        return FileObstacle{Kind::FolderMissing, {}};
+        return Error{What::FolderMissing};
     if (const int error = file.Refusal(); error != 0)
-        return ObstacleOf(error);
+        return ErrorOf(error);
     const int error = file.Create();
     if (error == 0)
         return std::nullopt;
-    FileObstacle obstacle = ObstacleOf(error);
-    if (obstacle.kind == Kind::Missing) // a new file always is
-        obstacle.kind = Kind::FolderMissing;
-    return obstacle;
+    Error refusal = ErrorOf(error);
+    if (refusal.what == What::FileMissing) // a new file always is
+        refusal.what = What::FolderMissing;
+    return refusal;
 }
 
 } // namespace
@@ -44,8 +44,8 @@ std::optional<FileObstacle> Create(ReplacementFile& file, const QString& target)
 SaveOutcome SaveFile(const QString& path, const QByteArray& bytes) {
     const QString target = BehindLinks(path);
     ReplacementFile file(target);
-    if (auto obstacle = Create(file, target))
-        return {std::move(obstacle), {}};
+    if (auto refusal = Create(file, target))
+        return {std::move(refusal), {}};
     SaveOutcome outcome;
     if (file.OldHasOtherNames())
         outcome.notes.push_back(SaveNote::OtherNamesKeepOld);
@@ -57,13 +57,13 @@ SaveOutcome SaveFile(const QString& path, const QByteArray& bytes) {
     if (error == 0)
         error = file.TakePlace();
     if (error != 0)
-        return {ObstacleOf(error), {}};
+        return {ErrorOf(error), {}};
     if (file.SyncFolder() != 0)
         outcome.notes.push_back(SaveNote::MayNotLast);
     return outcome;
 }
 
-std::optional<FileObstacle> SaveObstacle(const QString& path) {
+Failure SaveRefusal(const QString& path) {
     const QString target = BehindLinks(path);
     ReplacementFile file(target);
     return Create(file, target);

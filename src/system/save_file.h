@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/file_obstacle.h"
+#include "system/system_error.h"
 
 #include <QByteArray>
 
@@ -17,7 +17,7 @@ enum class SaveNote : std::uint8_t {
 };
 
 struct SaveOutcome {
-    std::optional<FileObstacle> obstacle; ///< why nothing was changed; none: the save stands
+    Failure failure; ///< why nothing was changed; none: the save stands
     std::vector<SaveNote> notes;
 };
 
@@ -27,6 +27,6 @@ struct SaveOutcome {
 SaveOutcome SaveFile(const QString& path, const QByteArray& bytes);
 
 /// Why SaveFile could not write there, found out without changing anything; none when it could.
-std::optional<FileObstacle> SaveObstacle(const QString& path);
+Failure SaveRefusal(const QString& path);
 
 } // namespace Hesperin

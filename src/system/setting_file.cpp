@@ -1,6 +1,6 @@
-#include "platform/setting_file.h"
+#include "system/setting_file.h"
 
-#include "platform/save_file.h"
+#include "system/save_file.h"
 
 #include <QDir>
 #include <QFile>
@@ -28,12 +28,12 @@ std::optional<QByteArray> ReadSetting(const ProgramPlaces& places, const QString
 
 bool SaveSetting(const ProgramPlaces& places, const QString& name, const QByteArray& value) {
     const QString users = places.settingsFolder + u'/' + name;
-    if (!places.installedForAll && !SaveFile(places.programFolder + u'/' + name, value).obstacle) {
+    if (!places.installedForAll && !SaveFile(places.programFolder + u'/' + name, value).failure) {
         QFile::remove(users); // or it would win at the next start
         return true;
     }
     QDir().mkpath(places.settingsFolder);
-    return !SaveFile(users, value).obstacle;
+    return !SaveFile(users, value).failure;
 }
 
 } // namespace Hesperin

@@ -1,7 +1,7 @@
 // The small files that remember one setting each: a short line and nothing else.
 #pragma once
 
-#include "platform/program_places.h"
+#include "system/program_places.h"
 
 #include <QByteArray>
 

@@ -1,6 +1,6 @@
-#include "platform/single_instance.h"
+#include "system/single_instance.h"
 
-#include "platform/read_file.h"
+#include "system/read_file.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -23,9 +23,8 @@ bool IsFromHere(const QString& path, const QString& host) {
     constexpr qint64 longestLock = 1 << 12;
     constexpr qsizetype lineOfNumber = 3;
     const auto content = ReadFile(path, longestLock);
-    const auto* bytes = std::get_if<QByteArray>(&content);
     const QByteArray number =
-        bytes == nullptr ? QByteArray() : bytes->split('\n').value(lineOfNumber);
+        content ? content->split('\n').value(lineOfNumber) : QByteArray();
     const QByteArray ours = QSysInfo::machineUniqueId();
     return number.isEmpty() || ours.isEmpty()
                ? host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0

@@ -1,4 +1,6 @@
-#include "cli/zip_archive.h"
+#include "system/zip_archive.h"
+
+#include "system/system_error.h"
 
 #include <minizip/unzip.h>
 
@@ -48,7 +50,7 @@ int CloseFile(voidpf, voidpf file) {
     return 0;
 }
 
-int Error(voidpf, voidpf file) {
+int HasError(voidpf, voidpf file) {
     return FileBehind(file).error() == QFileDevice::NoError ? 0 : -1;
 }
 
@@ -57,7 +59,7 @@ int Error(voidpf, voidpf file) {
 /// The toolkit opens the file: a name with any letters, on any system.
 struct ZipArchive::Reader {
     explicit Reader(const QString& path)
-        : file(path), calls{OpenFile, ReadBytes, WriteBytes, Tell, Seek, CloseFile, Error, &file},
+        : file(path), calls{OpenFile, ReadBytes, WriteBytes, Tell, Seek, CloseFile, HasError, &file},
           zip(unzOpen2_64(nullptr, &calls)) {}
     ~Reader() {
         if (zip != nullptr)
@@ -76,9 +78,9 @@ ZipArchive::ZipArchive(const QString& path, const QStringList& endings)
     if (reader->zip != nullptr)
         ReadNames(endings);
     else if (reader->file.error() != QFileDevice::NoError)
-        fault = reader->file.errorString();
+        fault = ErrorOf(reader->file.errorString());
     else
-        fault = QStringLiteral("it is no zip archive, or an empty one");
+        fault = Error{Error::What::NotAnArchive};
 }
 
 ZipArchive::~ZipArchive() = default;
@@ -113,16 +115,12 @@ void ZipArchive::ReadNames(const QStringList& endings) {
             places.insert(folded, {place.pos_in_zip_directory, place.num_of_file});
     }
     if (step != UNZ_END_OF_LIST_OF_FILE)
-        fault = QStringLiteral("its list of files is damaged");
+        fault = Error{Error::What::ArchiveDamaged};
 }
 
-QString ZipArchive::TooLarge(qint64 limit) {
-    return QStringLiteral("it has more than %1 bytes").arg(limit);
-}
-
-std::variant<QByteArray, QString> ZipArchive::Read(const QString& name, qint64 limit) {
+Result<QByteArray> ZipArchive::Read(const QString& name, qint64 limit) {
     constexpr uLong encrypted = 1;
-    const QString damaged = QStringLiteral("it is damaged in the archive");
+    const Error damaged{Error::What::DamagedInArchive};
     const Place place = places.value(Folded(name));
     const unz64_file_pos position{place.inDirectory, place.number};
     unz_file_info64 info{};
@@ -130,7 +128,7 @@ std::variant<QByteArray, QString> ZipArchive::Read(const QString& name, qint64 l
         unzGetCurrentFileInfo64(reader->zip, &info, nullptr, 0, nullptr, 0, nullptr, 0) != UNZ_OK)
         return damaged;
     if ((info.flag & encrypted) != 0)
-        return QStringLiteral("it is encrypted");
+        return Error{Error::What::Encrypted};
     if (unzOpenCurrentFile(reader->zip) != UNZ_OK)
         return damaged;
     QByteArray bytes(limit + 1, Qt::Uninitialized); // whatever size the archive tells
@@ -138,7 +136,7 @@ std::variant<QByteArray, QString> ZipArchive::Read(const QString& name, qint64 l
         unzReadCurrentFile(reader->zip, bytes.data(), static_cast<unsigned>(bytes.size()));
     const int closed = unzCloseCurrentFile(reader->zip); // compares the checksum
     if (count > limit)
-        return TooLarge(limit);
+        return Error{Error::What::FileTooLarge, {}, QString::number(limit)};
     if (count < 0 || closed != UNZ_OK)
         return damaged;
     bytes.truncate(count);

@@ -1,11 +1,12 @@
 #pragma once
 
+#include "text/error.h"
+
 #include <QByteArray>
 #include <QHash>
 #include <QStringList>
 
 #include <memory>
-#include <variant>
 
 namespace Hesperin {
 
@@ -19,17 +20,14 @@ public:
     ZipArchive(const ZipArchive&) = delete;
     ZipArchive& operator=(const ZipArchive&) = delete;
 
-    /// Why the archive can't be read; empty when it can.
-    const QString& Fault() const { return fault; }
+    /// Why the archive can't be read; nothing when it can.
+    const Failure& Fault() const { return fault; }
 
     bool Has(const QString& name) const { return places.contains(Folded(name)); }
 
-    /// What is said of a file of more than `limit` bytes.
-    static QString TooLarge(qint64 limit);
-
     /// The bytes of the file `name`, which must be there, or why they can't be had: more than
     /// `limit`, encrypted, damaged.
-    std::variant<QByteArray, QString> Read(const QString& name, qint64 limit);
+    Result<QByteArray> Read(const QString& name, qint64 limit);
 
 private:
     struct Reader;
@@ -44,7 +42,7 @@ private:
 
     std::unique_ptr<Reader> reader;
     QHash<QString, Place> places;
-    QString fault;
+    Failure fault;
 };
 
 } // namespace Hesperin

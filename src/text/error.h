@@ -25,17 +25,27 @@ struct Error {
         NameTooLong,
         FileTooLarge, ///< `expected` is the limit in bytes
         SystemSays,   ///< `value` is what the system says, in the system's language
+        NotAnArchive, ///< or an empty one
+        ArchiveDamaged,
+        DamagedInArchive,
+        Encrypted,
         // A document can't be used.
         NotWellFormed, ///< `value` is the parser's word for it, in English
         EndsEarly,     ///< it stops in the middle
         WrongRoot,     ///< `value` is the root found
         TextTooLong,   ///< `expected` is the longest text in UTF-16 units
+        EndlessMarkup, ///< a tag or a document type has no end
+        NameChanges,   ///< read back, the creature would have the name `value`
     };
+
+    /// What the program was about to do with `file`.
+    enum class Doing : std::uint8_t { Nothing, Opening, Saving };
 
     What what;
     QString value{};     ///< what stands there
     QString expected{};  ///< what should
     QString file{};      ///< empty: none, or known where the error is told
+    Doing doing = Doing::Nothing;
     qint64 line = 0;     ///< from 1; 0 when no place can be named
     qint64 column = 0;   ///< from 1
     QString element{};   ///< the innermost one that is open there

@@ -1,9 +1,9 @@
-#include "platform/xml_document.h"
+#include "xml/xml_document.h"
 
-#include "platform/code_page.h"
-#include "platform/shortened.h"
-#include "platform/text_file.h"
-#include "platform/xml_limits.h"
+#include "text/code_page.h"
+#include "text/shortened.h"
+#include "text/decode_text.h"
+#include "xml/xml_limits.h"
 
 #include <QXmlStreamReader>
 
@@ -148,9 +148,9 @@ QString EntityInAnotherFile(const QXmlStreamReader& reader, const QByteArray& by
 
 } // namespace
 
-std::variant<QString, XmlProblem> NormaliseXml(const QByteArray& bytes, QStringView root,
+Result<QString> NormaliseXml(const QByteArray& bytes, QStringView root,
                                                qsizetype longest) {
-    const XmlProblem tooLong{XmlProblem::Kind::TooLong, {}};
+    const Error tooLong{Error::What::TextTooLong, {}, QString::number(longest)};
     if (HasEndlessMarkup(bytes, longest))
         return tooLong;
     QXmlStreamReader reader;
@@ -162,19 +162,22 @@ std::variant<QString, XmlProblem> NormaliseXml(const QByteArray& bytes, QStringV
         reader.addData(bytes);
 
     Normaliser normaliser(bytes.size() + bytes.size() / 8);
-    const auto problem = [&reader, &normaliser](XmlProblem::Kind kind, QStringView detail) {
-        return XmlProblem{kind, Shortened(detail), reader.lineNumber(), reader.columnNumber() + 1,
-                          Shortened(normaliser.Innermost())};
+    const auto problem = [&reader, &normaliser](Error::What what, QStringView value) {
+        Error error{what, Shortened(value)};
+        error.line = reader.lineNumber();
+        error.column = reader.columnNumber() + 1;
+        error.element = Shortened(normaliser.Innermost());
+        return error;
     };
     const auto notWellFormed = [&problem](const QString& detail) {
-        return problem(XmlProblem::Kind::NotWellFormed, detail);
+        return problem(Error::What::NotWellFormed, detail);
     };
     bool rootSeen = false;
     while (!reader.atEnd()) {
         switch (reader.readNext()) {
         case QXmlStreamReader::StartElement:
             if (!rootSeen && reader.qualifiedName() != root)
-                return problem(XmlProblem::Kind::WrongRoot, reader.qualifiedName());
+                return problem(Error::What::WrongRoot, reader.qualifiedName());
             rootSeen = true;
             normaliser.Start(reader.qualifiedName(), reader.attributes());
             break;
@@ -199,7 +202,7 @@ std::variant<QString, XmlProblem> NormaliseXml(const QByteArray& bytes, QStringV
             return tooLong;
     }
     if (reader.error() == QXmlStreamReader::PrematureEndOfDocumentError)
-        return problem(XmlProblem::Kind::EndsEarly, {});
+        return problem(Error::What::EndsEarly, {});
     if (reader.hasError())
         return notWellFormed(reader.errorString());
     QString text = normaliser.Take();

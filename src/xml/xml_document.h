@@ -1,26 +1,10 @@
 #pragma once
 
-#include <QByteArray>
-#include <QString>
+#include "text/error.h"
 
-#include <variant>
+#include <QByteArray>
 
 namespace Hesperin {
-
-/// Why a document was refused, and where.
-struct XmlProblem {
-    enum class Kind : std::uint8_t {
-        NotWellFormed, ///< `detail` is the parser's word for it, in English
-        EndsEarly,     ///< the document stops in the middle
-        WrongRoot,     ///< `detail` is the name of the root found
-        TooLong,       ///< the normalised text is longer than allowed
-    };
-    Kind kind;
-    QString detail;
-    qint64 line = 0; ///< from 1; 0 when no place can be named
-    qint64 column = 0;
-    QString element{}; ///< the innermost one that is open there; empty outside the root
-};
 
 /// Parses a document, without validation and without following external references, and gives it
 /// back as normalised text: first line `<?xml version="1.0" encoding="UTF-8"?>`, one line feed
@@ -32,7 +16,7 @@ struct XmlProblem {
 /// Refuses a document that isn't well-formed, whose root isn't `root`, whose normalised text is
 /// longer than `longest` UTF-16 units, or that refers to an entity in another file. Time and memory
 /// stay bounded by the size of `bytes`.
-std::variant<QString, XmlProblem> NormaliseXml(const QByteArray& bytes, QStringView root,
+Result<QString> NormaliseXml(const QByteArray& bytes, QStringView root,
                                                qsizetype longest);
 
 } // namespace Hesperin

@@ -1,6 +1,6 @@
-#include "platform/xml_limits.h"
+#include "xml/xml_limits.h"
 
-#include "platform/text_file.h"
+#include "text/decode_text.h"
 
 #include <algorithm>
 

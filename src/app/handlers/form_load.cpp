@@ -1,16 +1,15 @@
-#include "ui/form_load.h"
+#include "app/handlers/form_load.h"
 
-#include "catalogues/build_catalogues.h"
-#include "catalogues/click_rules.h"
-#include "catalogues/spell_catalogue.h"
-#include "engine/clear_creature.h"
-#include "engine/numbers.h"
-#include "form/version_record.h"
-#include "localisation/ability_texts.h"
-#include "localisation/apply_language.h"
+#include "app/apply_language.h"
+#include "app/handlers/box_rules.h"
+#include "app/handlers/wire_handlers.h"
+#include "app/resets.h"
+#include "catalogue/ability_catalogue.h"
+#include "catalogue/spell_catalogue.h"
+#include "form/form_lists.h"
 #include "localisation/language_file.h"
-#include "localisation/string_tables.h"
-#include "ui/wire_handlers.h"
+#include "system/version_record.h"
+#include "text/fill.h"
 
 #include <QDir>
 
@@ -25,48 +24,37 @@ void NameLanguages(MainForm& form) {
     form.mnuGerman.SetCaption(QStringLiteral("Deutsch [German]"));
 }
 
-void AddItems(ComboBox& list, std::initializer_list<const char*> items) {
-    for (const char* item : items)
-        list.AddItem(QString::fromLatin1(item));
-}
-
-void AddNumbers(ComboBox& list, int last) {
-    for (int number = 1; number <= last; ++number)
-        list.AddItem(QString::number(number));
+/// Gives every check box the game's token as its caption, the same in every language.
+void NameBoxes(MainForm& form) {
+    const auto name = [](auto& boxes, auto tokenOf) {
+        for (CheckBox& box : boxes)
+            box.SetCaption(QString::fromUtf16(tokenOf(static_cast<std::size_t>(box.ArrayIndex()))));
+    };
+    name(form.Abilities, [](std::size_t i) { return AbilityCatalogue[i].token; });
+    name(form.Spells, [](std::size_t i) { return SpellToken[i]; });
+    name(form.Specabilities, [](std::size_t j) { return SpecabilityToken[j]; });
 }
 
 /// The lists whose entries are the same in every language.
 void FillLists(MainForm& form) {
-    for (ComboBox* element : {&form.ComboFME, &form.ComboSME})
-        AddItems(*element, {"None", "Air", "Earth", "Fire", "Water"});
-    AddItems(form.ComboAlias, {"HEAVEN", "INFERNO", "NECROMANCY", "PRESERVE", "DUNGEON", "ACADEMY",
-                               "FORTRESS", "STRONGHOLD", "NO_TYPE"});
-    AddItems(form.ComboDiapazon, {"0", "-1", "-2"});
-    AddItems(form.ComboTTC, {"10", "15"});
-    AddNumbers(form.ComboTier, 8);
-    AddNumbers(form.ComboSpeed, 9);
-    AddNumbers(form.ComboInitiative, 20);
-    form.ComboUpgrade.AddItem(ProperCase(QString::fromUtf16(TokenFalse)));
-    form.ComboUpgrade.AddItem(ProperCase(QString::fromUtf16(TokenTrue)));
+    for (std::size_t list = 0; list < ListFields.items.size(); ++list)
+        for (const QStringView entry : ListCatalogue.items[list].entries)
+            (form.*ListFields.items[list]).AddItem(entry.toString());
 }
 
+/// Like the reset of spells and special abilities, but with the inert one at 0.
 void ClearBoxes(Program& program) {
-    MainForm& form = program.form;
     program.state.AbilityCurrentValue.fill(1.0F);
-    for (int i = 1; i <= SpellCount; ++i) {
-        form.Spells(i).SetTicked(false);
-        OpenSelector(form.soq(i), false);
-    }
-    for (int j = 0; j <= SpecabilityCount; ++j) {
-        form.Specabilities(j).SetTicked(false);
-        OpenSelector(form.saz(j), false);
-    }
+    Reset_Spells(program);
+    Reset_Specabilities(program);
+    program.form.Specabilities(0).SetTicked(false);
+    OpenSelector(program.form.saz(0), false);
 }
 
-QString OtherInstanceText(const SharedState& state, const RunningInstance& other) {
+QString OtherInstanceText(const Messages& messages, const RunningInstance& other) {
     return other.otherHost.isEmpty()
-               ? state.MsgSecondInstance
-               : Fill(state.MsgLockOfOtherHost,
+               ? messages.MsgSecondInstance
+               : Fill(messages.MsgLockOfOtherHost,
                       {other.otherHost, QDir::toNativeSeparators(other.lockFile)});
 }
 
@@ -79,21 +67,23 @@ bool Form_Load(Program& program, const StartOptions& options) {
     NameBoxes(form);
 
     state.CreatureFileLoaded = false;
-    for (int page = 0; page < TabControl::PageCount; ++page)
-        form.Tablus.Tab(page).Switch(page != 2 && page != 4);
+    for (const Page page : {Page::Parameters, Page::Abilities, Page::Specabilities})
+        form.Tablus.At(page).Switch(true);
+    for (const Page page : {Page::Spells, Page::File})
+        form.Tablus.At(page).Switch(false);
     NameLanguages(form);
     form.mnuSave.SetEnabled(false);
     state.LanguageId =
         options.languageId ? *options.languageId : ReadLanguageFile(program.platform.Places());
     ApplyLanguage(program, state.LanguageId);
     if (const auto other = program.platform.OtherInstance()) {
-        program.Warn(BoxIcon::Critical, OtherInstanceText(state, *other));
+        program.Warn(BoxIcon::Critical, OtherInstanceText(state.messages, *other));
         return false;
     }
     form.frmMain.SetCaption(VersionRecord::TitleAndVersion());
     BuildCatalogues(program);
     if (options.loadAbilityTexts)
-        LoadAbilityTexts(program);
+        LoadTextsOfAbilities(program);
     ClearBoxes(program);
     FillLists(form);
     ClearCreature(program);

@@ -1,42 +1,69 @@
-#include "localisation/language_menu.h"
+#include "app/handlers/options_menu.h"
 
-#include "catalogues/build_catalogues.h"
-#include "engine/title.h"
-#include "localisation/ability_texts.h"
-#include "localisation/apply_language.h"
+#include "app/apply_language.h"
+#include "system/setting_file.h"
+#include "text/fill.h"
 
 namespace Hesperin {
 
 namespace {
 
-void SwitchLanguage(Program& program, std::uint8_t languageId) {
+constexpr QLatin1String ContrastFile("contrast.ini");
+constexpr const char* HighContrast = "HIGH";
+
+Failure SwitchLanguage(Program& program, std::uint8_t languageId) {
     program.state.LanguageId = languageId;
     ApplyLanguage(program, languageId);
     ReloadAbilityTexts(program);
+    return {};
 }
 
 } // namespace
 
-void ReloadAbilityTexts(Program& program) {
-    BuildCatalogues(program);
-    LoadAbilityTexts(program);
-    BuildTitle(program);
+Failure mnuEnglish_Click(Program& program) {
+    return SwitchLanguage(program, 1);
 }
 
-void mnuEnglish_Click(Program& program) {
-    SwitchLanguage(program, 1);
+Failure mnuRussian_Click(Program& program) {
+    return SwitchLanguage(program, 2);
 }
 
-void mnuRussian_Click(Program& program) {
-    SwitchLanguage(program, 2);
+Failure mnuFrench_Click(Program& program) {
+    return SwitchLanguage(program, 3);
 }
 
-void mnuFrench_Click(Program& program) {
-    SwitchLanguage(program, 3);
+Failure mnuGerman_Click(Program& program) {
+    return SwitchLanguage(program, 4);
 }
 
-void mnuGerman_Click(Program& program) {
-    SwitchLanguage(program, 4);
+Failure mnuAlternativeMethod_Click(Program& program) {
+    MainForm& form = program.form;
+    const bool show = !form.frmAM.Visible();
+    form.frmAM.SetVisible(show);
+    form.mnuAlternativeMethod.SetChecked(show);
+    return {};
+}
+
+Failure mnuCalculator_Click(Program& program) {
+    const QStringList names = program.platform.CalculatorNames();
+    for (const QString& name : names)
+        if (program.platform.StartProgram(name))
+            return {};
+    program.Warn(BoxIcon::Critical,
+                 Fill(program.state.messages.MsgNoCalculator, {names.join(QLatin1String(", "))}));
+    return {};
+}
+
+Failure mnuHighContrast_Click(Program& program) {
+    MenuEntry& entry = program.form.mnuHighContrast;
+    entry.SetChecked(!entry.Checked());
+    SaveSetting(program.platform.Places(), ContrastFile, entry.Checked() ? HighContrast : "GIVEN");
+    return {};
+}
+
+void RestoreHighContrast(Program& program) {
+    program.form.mnuHighContrast.SetChecked(ReadSetting(program.platform.Places(), ContrastFile) ==
+                                            QByteArray(HighContrast));
 }
 
 } // namespace Hesperin

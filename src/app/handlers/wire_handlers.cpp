@@ -1,23 +1,22 @@
-#include "ui/wire_handlers.h"
+#include "app/handlers/wire_handlers.h"
 
-#include "catalogues/click_rules.h"
-#include "catalogues/resets.h"
-#include "creature_files/file_commands.h"
-#include "engine/calculate.h"
-#include "localisation/language_menu.h"
-#include "ui/key_filters.h"
-#include "ui/list_rules.h"
-#include "ui/window_commands.h"
+#include "app/handlers/box_rules.h"
+#include "app/handlers/buttons.h"
+#include "app/handlers/file_menu.h"
+#include "app/handlers/info_menu.h"
+#include "app/handlers/key_filters.h"
+#include "app/handlers/list_rules.h"
+#include "app/handlers/options_menu.h"
 
 namespace Hesperin {
 
 namespace {
 
-/// A control and the handler of its click.
+/// A control and the handler of the user's click on it.
 template <typename T>
 struct Wire {
     T MainForm::*control;
-    void (*handler)(Program&);
+    Failure (*handler)(Program&);
 };
 
 constexpr Wire<MenuEntry> MenuWires[] = {
@@ -41,7 +40,13 @@ constexpr Wire<Button> ButtonWires[] = {
     {&MainForm::cmdResetAll, cmdResetAll_Click},
 };
 
-constexpr Wire<ComboBox> ListWires[] = {
+/// A list and the rule of a new choice in it.
+struct ListWire {
+    ComboBox MainForm::*list;
+    void (*rule)(Program&);
+};
+
+constexpr ListWire ListWires[] = {
     {&MainForm::ComboFaction, ComboFaction_Click}, {&MainForm::ComboRange, ComboRange_Click},
     {&MainForm::ComboFME, ComboFME_Click},         {&MainForm::ComboSME, ComboSME_Click},
     {&MainForm::ComboUpgrade, ComboUpgrade_Click},
@@ -50,27 +55,37 @@ constexpr Wire<ComboBox> ListWires[] = {
 template <typename T, std::size_t Count>
 void WireAll(Program& program, const Wire<T> (&wires)[Count]) {
     for (const Wire<T>& wire : wires)
-        (program.form.*wire.control).SetClick([&program, handler = wire.handler] {
-            handler(program);
+        (program.form.*wire.control).SetClickHandler([&program, handler = wire.handler] {
+            return handler(program);
         });
 }
 
 template <typename Array>
-void WireBoxes(Program& program, Array& boxes, void (*handler)(Program&, int)) {
+void WireBoxes(Program& program, Array& boxes, void (*rule)(Program&, int)) {
     for (CheckBox& box : boxes)
-        box.SetClick([&program, &box, handler] { handler(program, box.ArrayIndex()); });
+        box.SetChangeRule([&program, &box, rule] { rule(program, box.ArrayIndex()); });
 }
 
 } // namespace
 
 void WireHandlers(Program& program) {
+    MainForm& form = program.form;
     WireAll(program, MenuWires);
     WireAll(program, ButtonWires);
-    WireAll(program, ListWires);
-    WireBoxes(program, program.form.Abilities, Abilities_Click);
-    WireBoxes(program, program.form.Spells, Spells_Click);
-    WireBoxes(program, program.form.Specabilities, Specabilities_Click);
-    SetKeyFilters(program.form);
+    for (const ListWire& wire : ListWires)
+        (form.*wire.list).SetChangeRule([&program, rule = wire.rule] { rule(program); });
+    WireBoxes(program, form.Abilities, Abilities_Click);
+    WireBoxes(program, form.Spells, Spells_Click);
+    WireBoxes(program, form.Specabilities, Specabilities_Click);
+    for (CheckBox& box : form.Abilities)
+        box.SetRightClickHandler([&program, &box] {
+            Abilities_RightClick(program, box.ArrayIndex());
+            return Failure();
+        });
+    form.frmMain.SetDropHandler(
+        [&program](const QString& file) { OpenCreatureFile(program, file); });
+    form.frmMain.SetCloseHandler([&program] { return Form_Unload(program); });
+    SetKeyFilters(form);
 }
 
 } // namespace Hesperin

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "engine/program.h"
+#include "app/program.h"
 
 namespace Hesperin {
 
-/// Ties every control of the main window to its handler and its key filter. Once for a program.
+/// Ties every control of the main window to its handler, its rule and its key filter, and the window to what
+/// its user does with files and its close button. Once for a program.
 void WireHandlers(Program& program);
 
 } // namespace Hesperin
