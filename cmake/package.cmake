@@ -15,6 +15,7 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-translations-l10n)
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "gnome-calculator | kcalc | mate-calc | galculator | qalculate-gtk")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "balance calculator and creature-file editor")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "TALMIR helps to add creatures to the game Heroes of Might and Magic V in the

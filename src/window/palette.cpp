@@ -38,8 +38,7 @@ namespace {
 const ColourTable* inUse = &GivenColours;
 
 /// The widgets whose palette gives the colour of the window to nothing but their outlines.
-constexpr const char* OutlinedWidgets[] = {"QLineEdit", "QAbstractButton", "QTabBar",
-                                           "QTreeView", "QPlainTextEdit",  "QScrollBar"};
+constexpr const char* OutlinedWidgets[] = {"QLineEdit", "QAbstractButton", "QTabBar", "QScrollBar"};
 
 QColor Softened(QRgb text) {
     const ColourTable& table = Colours();

@@ -47,9 +47,13 @@ QIcon ProgramStyle::standardIcon(StandardPixmap icon, const QStyleOption* option
 
 void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                  QPainter* painter, const QWidget* widget) const {
-    const auto* menu = qstyleoption_cast<const QStyleOptionFrame*>(option);
-    if (element == PE_FrameMenu && menu != nullptr) {
-        const QStyleOptionFrame outlined = WithOutline(*menu);
+    const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+    if (element == PE_Frame && frame != nullptr) {
+        const QStyleOptionFrame outlined = WithOutline(*frame);
+        return QProxyStyle::drawPrimitive(element, &outlined, painter, widget);
+    }
+    if (element == PE_PanelMenu) {
+        const QStyleOption outlined = WithOutline(*option);
         return QProxyStyle::drawPrimitive(element, &outlined, painter, widget);
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);

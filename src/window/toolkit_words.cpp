@@ -22,6 +22,6 @@ void HaveToolkitSpeakRussian(bool russian) {
             QCoreApplication::installTranslator(words);
             return;
         }
-}
+} // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns the words
 
 } // namespace Hesperin

@@ -59,8 +59,9 @@ TEST(Language, EachColumnHasItsTextsLetterForLetter) {
                 messages += Hash(text);
         EXPECT_EQ(messages, column.messages);
         std::uint32_t captions = 0;
-        const auto words = Words(test.form);
-        for (auto word = words.begin(); word != words.end(); ++word)
+        auto words = Words(test.form);
+        words.remove("mnuHighContrast"); // this program's own too
+        for (auto word = words.cbegin(); word != words.cend(); ++word)
             if (!word.value().isEmpty())
                 captions += Hash(word.key() + '=' + word.value());
         EXPECT_EQ(captions, column.captions);
