@@ -1,5 +1,5 @@
 # Title, version and legal notice out of the program's version record, the one place where they are written.
-set(record ${PROJECT_SOURCE_DIR}/src/form/version_record.h)
+set(record ${PROJECT_SOURCE_DIR}/src/system/version_record.h)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${record})
 file(READ ${record} record)
 

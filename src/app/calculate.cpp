@@ -12,33 +12,33 @@ namespace {
 
 /// Puts the corrected value into the field that it came from.
 void Rewrite(MainForm& form, const Correction& correction) {
-    using What = Correction::What;
+    using Corrected = Correction::What;
     const QString text = QString::number(correction.to);
     switch (correction.what) {
-    case What::Mana:
+    case Corrected::Mana:
         return form.txtMana.SetText(text);
-    case What::Shots:
+    case Corrected::Shots:
         return form.txtShots.SetText(text);
-    case What::Attack:
+    case Corrected::Attack:
         return form.txtAttack.SetText(text);
-    case What::Defence:
+    case Corrected::Defence:
         return form.txtDefence.SetText(text);
-    case What::Health:
+    case Corrected::Health:
         return form.txtHealth.SetText(text);
-    case What::MinDam:
+    case Corrected::MinDam:
         return form.txtMinDam.SetText(text);
-    case What::MaxDam:
+    case Corrected::MaxDam:
         return form.txtMaxDam.SetText(text);
-    case What::DamageOrder:
+    case Corrected::DamageOrder:
         form.txtMinDam.SetText(text);
         return form.txtMaxDam.SetText(text);
-    case What::Speed:
+    case Corrected::Speed:
         return form.ComboSpeed.SetText(text);
-    case What::Initiative:
+    case Corrected::Initiative:
         return form.ComboInitiative.SetText(text);
-    case What::Tier:
+    case Corrected::Tier:
         return form.ComboTier.SetText(text);
-    case What::Count:
+    case Corrected::Count:
         break;
     }
 }

@@ -6,7 +6,7 @@ namespace Hesperin {
 
 namespace {
 
-using What = Correction::What;
+using Corrected = Correction::What;
 
 /// How a warning names the field of a value. `fixed` is the whole warning, the same in every language.
 struct Naming {
@@ -16,7 +16,7 @@ struct Naming {
 };
 
 // clang-format off
-constexpr EnumArray<What, Naming> Namings{{{
+constexpr EnumArray<Corrected, Naming> Namings{{{
     /* Mana        */ {"FrameMana",    false, nullptr},
     /* Shots       */ {"FrameShots",   false, nullptr},
     /* Attack      */ {"FrameAttack",  false, nullptr},
@@ -31,7 +31,7 @@ constexpr EnumArray<What, Naming> Namings{{{
 }}};
 // clang-format on
 
-QString NameOf(const CaptionLookup& caption, What what) {
+QString NameOf(const CaptionLookup& caption, Corrected what) {
     const Naming& naming = Namings[what];
     const QString own = caption(QLatin1String(naming.control));
     return naming.ofDamage
@@ -46,8 +46,8 @@ QString CorrectionText(const Messages& messages, const CaptionLookup& caption,
     if (const char* fixed = Namings[correction.what].fixed)
         return QString::fromLatin1(fixed);
     const QString start = messages.MsgValueFor + NameOf(caption, correction.what);
-    return correction.what == What::DamageOrder
-               ? start + messages.MsgCannotBeLess + NameOf(caption, What::MinDam) +
+    return correction.what == Corrected::DamageOrder
+               ? start + messages.MsgCannotBeLess + NameOf(caption, Corrected::MinDam) +
                      QLatin1String("'!")
                : start + messages.MsgOutOfRange;
 }

@@ -9,31 +9,31 @@ namespace Hesperin {
 
 namespace {
 
-using What = Correction::What;
+using Corrected = Correction::What;
 
 /// A number and the field that it comes from, in the order in which they are read.
 struct Row {
-    What what;
+    Corrected what;
     QStringView EnteredParameters::*entered;
     Parameter parameter;
 };
 
 constexpr Row Fields[] = {
-    {What::Attack, &EnteredParameters::Attack, Parameter::Attack},
-    {What::Defence, &EnteredParameters::Defence, Parameter::Defence},
-    {What::Health, &EnteredParameters::Health, Parameter::Health},
-    {What::MinDam, &EnteredParameters::MinDam, Parameter::MinDam},
-    {What::MaxDam, &EnteredParameters::MaxDam, Parameter::MaxDam},
+    {Corrected::Attack, &EnteredParameters::Attack, Parameter::Attack},
+    {Corrected::Defence, &EnteredParameters::Defence, Parameter::Defence},
+    {Corrected::Health, &EnteredParameters::Health, Parameter::Health},
+    {Corrected::MinDam, &EnteredParameters::MinDam, Parameter::MinDam},
+    {Corrected::MaxDam, &EnteredParameters::MaxDam, Parameter::MaxDam},
 };
 
 constexpr Row Lists[] = {
-    {What::Speed, &EnteredParameters::Speed, Parameter::Speed},
-    {What::Initiative, &EnteredParameters::Initiative, Parameter::Initiative},
-    {What::Tier, &EnteredParameters::Tier, Parameter::Tier},
+    {Corrected::Speed, &EnteredParameters::Speed, Parameter::Speed},
+    {Corrected::Initiative, &EnteredParameters::Initiative, Parameter::Initiative},
+    {Corrected::Tier, &EnteredParameters::Tier, Parameter::Tier},
 };
 
 /// The value that takes the place of `value`, if it needs one.
-std::optional<std::int16_t> Corrected(std::int16_t value, std::int16_t highest) {
+std::optional<std::int16_t> InRange(std::int16_t value, std::int16_t highest) {
     if (value <= 0)
         return std::int16_t{1};
     if (value > highest)
@@ -47,9 +47,9 @@ public:
 
     Validated Run() {
         if (entered.Caster)
-            CheckSupply(What::Mana, entered.Mana);
+            CheckSupply(Corrected::Mana, entered.Mana);
         if (entered.Shooter)
-            CheckSupply(What::Shots, entered.Shots);
+            CheckSupply(Corrected::Shots, entered.Shots);
         for (const Row& row : Fields)
             CheckNumber(row);
         CheckDamageOrder();
@@ -62,7 +62,7 @@ public:
     }
 
 private:
-    void CheckSupply(What what, QStringView text) {
+    void CheckSupply(Corrected what, QStringView text) {
         if (TextToNumber(text) <= 0)
             result.corrections.push_back({what, text.toString(), 1});
     }
@@ -71,7 +71,7 @@ private:
         const QStringView text = entered.*row.entered;
         std::int16_t& value = result.parameters[row.parameter];
         value = RoundTo16Bits(TextToNumber(text));
-        if (const auto corrected = Corrected(value, ParameterRanges[row.parameter].highest)) {
+        if (const auto corrected = InRange(value, ParameterRanges[row.parameter].highest)) {
             value = *corrected;
             result.corrections.push_back({row.what, text.toString(), value});
         }
@@ -82,7 +82,7 @@ private:
         if (parameters.MinDam <= parameters.MaxDam)
             return;
         result.corrections.push_back(
-            {What::DamageOrder, WholeText(parameters.MinDam), parameters.MaxDam});
+            {Corrected::DamageOrder, WholeText(parameters.MinDam), parameters.MaxDam});
         parameters.MinDam = parameters.MaxDam;
     }
 

@@ -8,8 +8,6 @@ namespace Hesperin {
 
 namespace {
 
-using What = Error::What;
-
 /// The place that symbolic links lead to, which need not exist yet.
 QString BehindLinks(const QString& path) {
     constexpr int longestChain = 128;
@@ -23,19 +21,19 @@ QString BehindLinks(const QString& path) {
 Failure Create(ReplacementFile& file, const QString& target) {
     const QFileInfo place(target);
     if (place.isDir())
-        return Error{What::IsFolder};
+        return Error{Error::What::IsFolder};
     if (place.exists() && !place.isFile()) // the finished file would be moved over a device
-        return Error{What::NotAFile};
+        return Error{Error::What::NotAFile};
     if (place.fileName().isEmpty())
-        return Error{What::FolderMissing};
+        return Error{Error::What::FolderMissing};
     if (const int error = file.Refusal(); error != 0)
         return ErrorOf(error);
     const int error = file.Create();
     if (error == 0)
         return std::nullopt;
     Error refusal = ErrorOf(error);
-    if (refusal.what == What::FileMissing) // a new file always is
-        refusal.what = What::FolderMissing;
+    if (refusal.what == Error::What::FileMissing) // a new file always is
+        refusal.what = Error::What::FolderMissing;
     return refusal;
 }
 

@@ -8,37 +8,37 @@ namespace Hesperin {
 
 namespace {
 
-using What = Error::What;
+using enum Error::What;
 
 struct SystemCode {
     int code;
-    What what;
+    Error::What what;
 };
 
 #ifdef Q_OS_WIN
 constexpr SystemCode Codes[] = {
-    {2, What::FileMissing},       // ERROR_FILE_NOT_FOUND
-    {3, What::FolderMissing}, // ERROR_PATH_NOT_FOUND
-    {5, What::NotAllowed},    // ERROR_ACCESS_DENIED
-    {19, What::DiskReadOnly}, // ERROR_WRITE_PROTECT
-    {32, What::InUse},        // ERROR_SHARING_VIOLATION
-    {33, What::InUse},        // ERROR_LOCK_VIOLATION
-    {112, What::DiskFull},    // ERROR_DISK_FULL
-    {206, What::NameTooLong}, // ERROR_FILENAME_EXCED_RANGE
+    {2, FileMissing},       // ERROR_FILE_NOT_FOUND
+    {3, FolderMissing}, // ERROR_PATH_NOT_FOUND
+    {5, NotAllowed},    // ERROR_ACCESS_DENIED
+    {19, DiskReadOnly}, // ERROR_WRITE_PROTECT
+    {32, InUse},        // ERROR_SHARING_VIOLATION
+    {33, InUse},        // ERROR_LOCK_VIOLATION
+    {112, DiskFull},    // ERROR_DISK_FULL
+    {206, NameTooLong}, // ERROR_FILENAME_EXCED_RANGE
 };
 #else
 constexpr SystemCode Codes[] = {
-    {ENOENT, What::FileMissing},
-    {ENOTDIR, What::FolderMissing},
-    {EISDIR, What::IsFolder},
-    {EACCES, What::NotAllowed},
-    {EPERM, What::NotAllowed},
-    {EROFS, What::DiskReadOnly},
-    {ETXTBSY, What::InUse},
-    {EBUSY, What::InUse},
-    {ENOSPC, What::DiskFull},
-    {EDQUOT, What::DiskFull},
-    {ENAMETOOLONG, What::NameTooLong},
+    {ENOENT, FileMissing},
+    {ENOTDIR, FolderMissing},
+    {EISDIR, IsFolder},
+    {EACCES, NotAllowed},
+    {EPERM, NotAllowed},
+    {EROFS, DiskReadOnly},
+    {ETXTBSY, InUse},
+    {EBUSY, InUse},
+    {ENOSPC, DiskFull},
+    {EDQUOT, DiskFull},
+    {ENAMETOOLONG, NameTooLong},
 };
 #endif
 
@@ -48,7 +48,7 @@ Error ErrorOf(int systemCode) {
     for (const SystemCode& row : Codes)
         if (row.code == systemCode)
             return {row.what};
-    return {What::SystemSays, qt_error_string(systemCode)};
+    return {SystemSays, qt_error_string(systemCode)};
 }
 
 Error ErrorOf(const QString& systemWords) {
@@ -56,7 +56,7 @@ Error ErrorOf(const QString& systemWords) {
     for (const SystemCode& row : Codes)
         if (systemWords == qt_error_string(row.code))
             return {row.what};
-    return {What::SystemSays, systemWords};
+    return {SystemSays, systemWords};
 }
 
 } // namespace Hesperin

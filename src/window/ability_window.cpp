@@ -1,6 +1,6 @@
 #include "window/ability_window.h"
 
-#include "catalogues/ability_catalogue.h"
+#include "catalogue/ability_catalogue.h"
 #include "window/faces.h"
 #include "window/palette.h"
 #include "window/units.h"

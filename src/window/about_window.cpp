@@ -1,6 +1,6 @@
 #include "window/about_window.h"
 
-#include "form/version_record.h"
+#include "system/version_record.h"
 #include "window/faces.h"
 #include "window/palette.h"
 #include "window/units.h"
@@ -59,7 +59,7 @@ QFont FittingWrapped(QFont face, const QString& text, QSize room) {
 
 AboutWindow::AboutWindow(Program& owner, QWidget* mainWindow)
     : SecondaryWindowView(owner, mainWindow, "frmAbout"), pictures(DrawPictures()) {
-    const SharedState& state = program.state;
+    const Messages& messages = program.state.messages;
     const QString product = QString::fromUtf16(VersionRecord::ProductName);
     setWindowTitle(program.form.mnuAbout.Caption());
     setAccessibleDescription(QStringLiteral("A golden dragon carries a balance on its wings."));
@@ -78,9 +78,9 @@ AboutWindow::AboutWindow(Program& owner, QWidget* mainWindow)
         VersionRecord::TitleAndVersion() + QLatin1String(" - ") +
             QString::fromUtf16(VersionRecord::LegalNotice),
         PixelRect(720, 120, 7575, 495), HeadingFace(), Qt::AlignCenter);
-    add("utbWhatis", state.MsgWhatIs + product + u'?', PixelRect(4080, 720, 4215, 375),
+    add("utbWhatis", messages.MsgWhatIs + product + u'?', PixelRect(4080, 720, 4215, 375),
         HeadingFace(), Qt::AlignCenter);
-    add("utbAbout", product + state.MsgAppDescription, PixelRect(4080, 1200, 4215, 3735),
+    add("utbAbout", product + messages.MsgAppDescription, PixelRect(4080, 1200, 4215, 3735),
         FigureFace(), Qt::AlignLeft | Qt::AlignTop);
     AddButton("cmdQuit", program.form.mnuQuit.Caption(), PixelRect(1080, 4560, 1815, 375));
     ShowCentred(AboutClient);

@@ -1,6 +1,5 @@
 #include "window/box_pages.h"
 
-#include "ui/window_commands.h"
 #include "window/box_view.h"
 #include "window/selector_view.h"
 #include "window/units.h"
@@ -40,11 +39,10 @@ const Column& ColumnOf(std::span<const Column> columns, int place) {
     return columns[static_cast<std::size_t>(place / RowsPerColumn)];
 }
 
-void AddBox(CheckBox& box, QWidget& page, std::span<const Column> columns, int place, int top,
-            ClickOperation rightClick = {}) {
+void AddBox(CheckBox& box, QWidget& page, std::span<const Column> columns, int place, int top) {
     const Column& column = ColumnOf(columns, place);
     const QRect rect = PlaceOf(place, column.boxLeft, column.boxWidth, BoxHeight, top);
-    new BoxView(box, &page, rect.intersected(page.rect()), std::move(rightClick));
+    new BoxView(box, &page, rect.intersected(page.rect()));
 }
 
 void AddSelector(MultiOption& selector, const CheckBox& box, QWidget& page,
@@ -56,28 +54,25 @@ void AddSelector(MultiOption& selector, const CheckBox& box, QWidget& page,
 
 } // namespace
 
-void BuildAbilitiesPage(Program& program, QWidget& page, int top) {
-    for (CheckBox& box : program.form.Abilities) {
-        const auto index = static_cast<std::int16_t>(box.ArrayIndex());
-        AddBox(box, page, AbilityColumns, index - 1, top,
-               [&program, index] { Abilities_RightClick(program, index); });
-    }
+void BuildAbilitiesPage(MainForm& form, QWidget& page, int top) {
+    for (CheckBox& box : form.Abilities)
+        AddBox(box, page, AbilityColumns, box.ArrayIndex() - 1, top);
 }
 
-void BuildSpellsPage(Program& program, QWidget& page, int top) {
-    for (CheckBox& box : program.form.Spells) {
+void BuildSpellsPage(MainForm& form, QWidget& page, int top) {
+    for (CheckBox& box : form.Spells) {
         const int index = box.ArrayIndex();
-        AddSelector(program.form.soq(index), box, page, SpellColumns, index - 1, top);
+        AddSelector(form.soq(index), box, page, SpellColumns, index - 1, top);
         AddBox(box, page, SpellColumns, index - 1, top);
     }
 }
 
-void BuildSpecabilitiesPage(Program& program, QWidget& page, int top) {
-    constexpr int lastPlace = 54; // the inert one stands under all others
-    for (CheckBox& box : program.form.Specabilities) {
+void BuildSpecabilitiesPage(MainForm& form, QWidget& page, int top) {
+    constexpr int lastPlace = SpecabilityCount; // the inert one stands under all others
+    for (CheckBox& box : form.Specabilities) {
         const int index = box.ArrayIndex();
         const int place = index == 0 ? lastPlace : index - 1;
-        AddSelector(program.form.saz(index), box, page, SpecabilityColumns, place, top);
+        AddSelector(form.saz(index), box, page, SpecabilityColumns, place, top);
         AddBox(box, page, SpecabilityColumns, place, top);
     }
 }

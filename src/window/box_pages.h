@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/program.h"
+#include "form/main_form.h"
 
 class QWidget;
 
@@ -9,8 +9,8 @@ namespace Hesperin {
 // The pages of check boxes, each in columns of 35 rows. `page` begins `top` pixels below the top of
 // the tab control.
 
-void BuildAbilitiesPage(Program& program, QWidget& page, int top);
-void BuildSpellsPage(Program& program, QWidget& page, int top);
-void BuildSpecabilitiesPage(Program& program, QWidget& page, int top);
+void BuildAbilitiesPage(MainForm& form, QWidget& page, int top);
+void BuildSpellsPage(MainForm& form, QWidget& page, int top);
+void BuildSpecabilitiesPage(MainForm& form, QWidget& page, int top);
 
 } // namespace Hesperin

@@ -6,8 +6,7 @@
 
 namespace Hesperin {
 
-BoxView::BoxView(CheckBox& box, QWidget* parent, const QRect& place, ClickOperation rightClick)
-    : View(box, parent), rightClicked(std::move(rightClick)) {
+BoxView::BoxView(CheckBox& box, QWidget* parent, const QRect& place) : View(box, parent) {
     constexpr int indicator = 22; // with its gap to the caption
     setGeometry(place);
     setText(control.Caption());
@@ -25,8 +24,8 @@ void BoxView::Sync() {
 }
 
 void BoxView::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::RightButton && rightClicked)
-        rightClicked();
+    if (event->button() == Qt::RightButton)
+        control.RightClick();
     else
         QCheckBox::mousePressEvent(event);
 }

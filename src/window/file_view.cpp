@@ -6,7 +6,7 @@
 
 namespace Hesperin {
 
-FileView::FileView(TextBuffer& buffer, QWidget* parent) : View(buffer, parent) {
+FileView::FileView(StoredText& buffer, QWidget* parent) : View(buffer, parent) {
     constexpr int tabWidth = 24;
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "form/text_buffer.h"
+#include "form/stored_text.h"
 #include "window/view.h"
 
 #include <QPlainTextEdit>
@@ -8,9 +8,9 @@
 namespace Hesperin {
 
 /// The text of the creature file last read or written: read-only, to be looked at and copied.
-class FileView : public View<QPlainTextEdit, TextBuffer> {
+class FileView : public View<QPlainTextEdit, StoredText> {
 public:
-    FileView(TextBuffer& buffer, QWidget* parent);
+    FileView(StoredText& buffer, QWidget* parent);
 
 protected:
     void Sync() override;

@@ -1,8 +1,7 @@
 #include "window/main_window.h"
 
-#include "creature_files/file_commands.h"
-#include "localisation/ability_texts.h"
-#include "ui/window_commands.h"
+#include "app/apply_language.h"
+#include "app/handlers/options_menu.h"
 #include "window/button_row.h"
 #include "window/palette.h"
 #include "window/tab_view.h"
@@ -59,7 +58,7 @@ MainWindow::MainWindow(Program& owner, QSize available) : program(owner) {
     opening.setSingleShot(true);
     pictured.setSingleShot(true);
     connect(&pictured, &QTimer::timeout, this, [this] { FinishStart(); });
-    connect(&opening, &QTimer::timeout, this, [this] { OpenCreatureFile(program, fileToOpen); });
+    connect(&opening, &QTimer::timeout, this, [this] { program.form.frmMain.Drop(fileToOpen); });
 
     const int barExtent = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     const WindowFit fit = FitWindow(available, menuBar()->sizeHint().height(), barExtent);
@@ -103,7 +102,7 @@ void MainWindow::FinishStart() {
     const auto* russian = findChild<QAction*>(program.form.mnuRussian.Name());
     connect(russian, &QAction::toggled, this, HaveToolkitSpeakRussian);
     HaveToolkitSpeakRussian(russian->isChecked());
-    LoadAbilityTexts(program);
+    LoadTextsOfAbilities(program);
     BuildShortcuts();
 }
 
@@ -126,7 +125,7 @@ void MainWindow::BuildShortcuts() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (ending || Form_Unload(program))
+    if (ending || program.form.frmMain.Close())
         event->accept();
     else
         event->ignore();

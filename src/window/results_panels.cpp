@@ -1,54 +1,33 @@
 #include "window/results_panels.h"
 
-#include "localisation/string_tables.h"
+#include "form/form_lists.h"
+#include "text/fill.h"
 #include "window/faces.h"
 #include "window/frame_view.h"
 #include "window/label_view.h"
 #include "window/palette.h"
 #include "window/units.h"
 
-#include <span>
-
 namespace Hesperin {
 
 namespace {
 
-/// A heading and four frames in a square: Power, Experience, Growth, Cost.
-struct Group {
-    Label MainForm::*heading;
-    Frame MainForm::*frames[4];
-    Label MainForm::*figures[4];
+/// How the results of a method look, and how one is named for those who can't see where it stands.
+struct MethodLook {
     Colour colour;
-    QString SharedState::*figureName;
+    QString Messages::*figureName;
 };
 
-// clang-format off
-constexpr Group MainMethod[] = {
-    {&MainForm::lblValues,
-     {&MainForm::FramePower,      &MainForm::FrameExperience,  &MainForm::FrameGrowth,       &MainForm::FrameCost},
-     {&MainForm::lblPowerRolvane, &MainForm::lblExpRolvane,    &MainForm::lblGrowthRolvane,  &MainForm::lblCostRolvane},
-     &ColourTable::Rolvane, &SharedState::FigureByRolvane},
-    {&MainForm::lblValuesX,
-     {&MainForm::FramePowerX,      &MainForm::FrameExperienceX, &MainForm::FrameGrowthX,      &MainForm::FrameCostX},
-     {&MainForm::lblPowerHesperin, &MainForm::lblExpHesperin,   &MainForm::lblGrowthHesperin, &MainForm::lblCostHesperin},
-     &ColourTable::Hesperin, &SharedState::FigureByHesperin},
-    {&MainForm::lblValuesA,
-     {&MainForm::FramePowerA,     &MainForm::FrameExperienceA, &MainForm::FrameGrowthA,      &MainForm::FrameCostA},
-     {&MainForm::lblPowerAverage, &MainForm::lblExpAverage,    &MainForm::lblGrowthAverage,  &MainForm::lblCostAverage},
-     &ColourTable::Average, &SharedState::FigureOnAverage},
-};
+constexpr EnumArray<Method, MethodLook> MethodLooks{{{
+    {&ColourTable::Rolvane, &Messages::FigureByRolvane},
+    {&ColourTable::Hesperin, &Messages::FigureByHesperin},
+    {&ColourTable::Average, &Messages::FigureOnAverage},
+}}};
 
-constexpr Group AlternativeMethod[] = {
-    {&MainForm::lblValuesS,
-     {&MainForm::FramePowerS, &MainForm::FrameExperienceS, &MainForm::FrameGrowthS, &MainForm::FrameCostS},
-     {&MainForm::lblPowerS,   &MainForm::lblExpS,          &MainForm::lblGrowthS,   &MainForm::lblCostS},
-     &ColourTable::Alternative, &SharedState::FigureByQuintarell},
-    {&MainForm::lblValuesD,
-     {&MainForm::FramePowerD, &MainForm::FrameExperienceD, &MainForm::FrameGrowthD, &MainForm::FrameCostD},
-     {&MainForm::lblPowerD,   &MainForm::lblExpD,          &MainForm::lblGrowthD,   &MainForm::lblCostD},
-     &ColourTable::Alternative, &SharedState::FigureByBravik},
+constexpr MethodLook AlternativeLooks[] = {
+    {&ColourTable::Alternative, &Messages::FigureByQuintarell},
+    {&ColourTable::Alternative, &Messages::FigureByBravik},
 };
-// clang-format on
 
 // Pixels inside a panel.
 constexpr int FirstGroupTop = 20;
@@ -83,39 +62,50 @@ private:
     const QString& nameText; ///< in the current language
 };
 
-void BuildGroup(Program& program, FrameView& panel, const Group& group, int top) {
-    MainForm& form = program.form;
-    new LabelView(form.*group.heading, &panel,
-                  {PanelMargin, top, panel.width() - 2 * PanelMargin, HeadingHeight}, HeadingFace(),
-                  group.colour, Qt::AlignCenter);
-    const int width = (panel.width() - 2 * PanelMargin - FrameGap) / 2;
-    for (int place = 0; place < 4; ++place) {
-        const QRect rect(PanelMargin + (place % 2) * (width + FrameGap),
-                         top + HeadingHeight + (place / 2) * (FigureHeight + FrameGap), width,
-                         FigureHeight);
-        auto* frame = new FrameView(form.*group.frames[place], &panel, CaptionFace(), rect);
-        new FigureView(form.*group.figures[place], *frame, rect.size(), group.colour,
-                       program.state.*group.figureName);
-    }
-}
+/// One panel, into which results are put in groups of four: a heading, and Power, Experience, Growth and
+/// Cost in a square below it.
+class Panel {
+public:
+    Panel(Program& owner, Frame& frame, QWidget& page, const QRect& place)
+        : program(owner), view(new FrameView(frame, &page, HeadingFace(), place)) {}
 
-void BuildPanel(Program& program, Frame& frame, QWidget& page, const QRect& place,
-                std::span<const Group> groups) {
-    auto* panel = new FrameView(frame, &page, HeadingFace(), place);
-    int top = FirstGroupTop;
-    for (const Group& group : groups) {
-        BuildGroup(program, *panel, group, top);
-        top += GroupPitch;
-    }
-} // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): the page owns the panel
+    void Add(const ResultPlace& place, const MethodLook& look) {
+        MainForm& form = program.form;
+        const int top = FirstGroupTop + (count / GroupSize) * GroupPitch;
+        const int inGroup = count++ % GroupSize;
+        if (inGroup == 0)
+            new LabelView(form.*place.heading, view,
+                          {PanelMargin, top, view->width() - 2 * PanelMargin, HeadingHeight},
+                          HeadingFace(), look.colour, Qt::AlignCenter);
+        const int width = (view->width() - 2 * PanelMargin - FrameGap) / 2;
+        const QRect rect(PanelMargin + (inGroup % 2) * (width + FrameGap),
+                         top + HeadingHeight + (inGroup / 2) * (FigureHeight + FrameGap), width,
+                         FigureHeight);
+        auto* frame = new FrameView(form.*place.frame, view, CaptionFace(), rect);
+        new FigureView(form.*place.label, *frame, rect.size(), look.colour,
+                       program.state.messages.*look.figureName);
+    } // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): the panel owns what is in it
+
+private:
+    static constexpr int GroupSize = static_cast<int>(Figure::Count);
+
+    Program& program;
+    FrameView* view; // the page owns it
+    int count = 0;
+};
 
 } // namespace
 
 void BuildResultPanels(Program& program, QWidget& page, int top) {
     const QRect mainPlace = PixelRect(12360, 480, 2730, 5330).translated(0, -top);
     const QRect alternativePlace = PixelRect(9480, 480, 2730, 3625).translated(0, -top);
-    BuildPanel(program, program.form.frmMM, page, mainPlace, MainMethod);
-    BuildPanel(program, program.form.frmAM, page, alternativePlace, AlternativeMethod);
+    Panel mainMethod(program, program.form.frmMM, page, mainPlace);
+    for (const ResultRow& row : ResultRows)
+        mainMethod.Add(row.place, MethodLooks[row.method]);
+    Panel alternative(program, program.form.frmAM, page, alternativePlace);
+    for (std::size_t i = 0; i < std::size(AlternativeResults); ++i)
+        alternative.Add(AlternativeResults[i],
+                        AlternativeLooks[i / static_cast<std::size_t>(Figure::Count)]);
 }
 
 } // namespace Hesperin

@@ -1,6 +1,6 @@
 #include "window/start_arguments.h"
 
-#include "form/version_record.h"
+#include "system/version_record.h"
 
 namespace Hesperin {
 

@@ -1,6 +1,6 @@
 #include "window/status_window.h"
 
-#include "form/version_record.h"
+#include "system/version_record.h"
 #include "window/faces.h"
 #include "window/palette.h"
 #include "window/units.h"

@@ -99,26 +99,29 @@ void TabView::BuildPage(int page) {
         return;
     QWidget& widget = *stack->widget(page);
     widget.resize(stack->size());
-    switch (page) {
-    case 0:
+    switch (static_cast<Page>(page)) {
+    case Page::Parameters:
         BuildParametersPage(program.form, widget, BarHeight);
         BuildResultPanels(program, widget, BarHeight);
         break;
-    case 1:
-        BuildAbilitiesPage(program, widget, BarHeight);
+    case Page::Abilities:
+        BuildAbilitiesPage(program.form, widget, BarHeight);
         break;
-    case 2:
-        BuildSpellsPage(program, widget, BarHeight);
+    case Page::Spells:
+        BuildSpellsPage(program.form, widget, BarHeight);
         break;
-    case 3:
-        BuildSpecabilitiesPage(program, widget, BarHeight);
+    case Page::Specabilities:
+        BuildSpecabilitiesPage(program.form, widget, BarHeight);
         break;
-    default:
+    case Page::File:
         (new FileView(program.form.RTBData, &widget))
             ->setGeometry(PixelRect(120, 480, 15045, 8595)
                               .translated(0, -BarHeight)
                               .intersected(widget.rect())
                               .intersected({QPoint(), scroll->maximumViewportSize()}));
+        break;
+    case Page::Count:
+        break;
     }
     QueueForTabKey(*bar, widget);
 }

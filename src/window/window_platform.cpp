@@ -1,8 +1,8 @@
 #include "window/window_platform.h"
 
-#include "localisation/obstacle_text.h"
-#include "localisation/string_tables.h"
-#include "platform/save_file.h"
+#include "localisation/error_text.h"
+#include "text/fill.h"
+#include "system/save_file.h"
 #include "window/ability_window.h"
 #include "window/about_window.h"
 #include "window/main_window.h"
@@ -70,8 +70,8 @@ bool WindowPlatform::AskYesNo(const QString& title, const QString& text) {
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::No);
     if (program != nullptr) {
-        box.button(QMessageBox::Yes)->setText(program->state.MsgYes);
-        box.button(QMessageBox::No)->setText(program->state.MsgNo);
+        box.button(QMessageBox::Yes)->setText(program->state.messages.MsgYes);
+        box.button(QMessageBox::No)->setText(program->state.messages.MsgNo);
     }
     return box.exec() == QMessageBox::Yes;
 }
@@ -90,14 +90,14 @@ bool WindowPlatform::ShowSaveDialog(FileDialog& dialog) {
     Prepare(shown, dialog, QFileDialog::AcceptSave);
     while (shown.exec() == QDialog::Accepted) {
         const QString path = shown.selectedFiles().value(0);
-        const auto obstacle = SaveObstacle(path);
-        if (!obstacle) {
+        auto refusal = SaveRefusal(path);
+        if (!refusal) {
             dialog.FileName = path;
             return true;
         }
-        ShowMessage(
-            BoxIcon::Critical, program->state.WarningTitle,
-            Fill(program->state.MsgSaveFailed, {path, ObstacleText(program->state, *obstacle)}));
+        refusal->file = path;
+        refusal->doing = Error::Doing::Saving;
+        program->Refuse(*refusal);
     }
     return false;
 }

@@ -1,6 +1,6 @@
 #include "window/windowed_program.h"
 
-#include "ui/form_load.h"
+#include "app/handlers/form_load.h"
 #include "window/palette.h"
 #include "window/program_style.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/program.h"
+#include "app/program.h"
 #include "window/early_start.h"
 #include "window/main_window.h"
 
