@@ -6,13 +6,13 @@
 
 #include "cli/cli_platform.h"
 #include "creature_files/document.h"
-#include "creature_files/file_commands.h"
+#include "app/handlers/file_menu.h"
 #include "creature_files/writer.h"
-#include "engine/calculate.h"
-#include "engine/formulas.h"
-#include "localisation/ability_texts.h"
-#include "localisation/language_menu.h"
-#include "ui/form_load.h"
+#include "app/calculate.h"
+#include "model/formulas.h"
+#include "game_texts/ability_texts.h"
+#include "app/handlers/options_menu.h"
+#include "app/handlers/form_load.h"
 
 #include <QCoreApplication>
 #include <QFile>

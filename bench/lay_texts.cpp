@@ -1,6 +1,6 @@
 #include "lay_texts.h"
 
-#include "localisation/ability_texts.h"
+#include "game_texts/ability_texts.h"
 
 #include <QDir>
 #include <QFile>

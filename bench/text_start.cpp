@@ -1,7 +1,7 @@
 // An otherwise empty window that writes what the first picture has most of, the captions and what
 // stands in fields and lists, in their faces, with no control at all: what any window that shows
 // these texts pays. Run by the start benchmark.
-#include "ui/form_load.h"
+#include "app/handlers/form_load.h"
 #include "window/early_start.h"
 #include "window/faces.h"
 

@@ -3,7 +3,7 @@
 #include "fuzz_program.h"
 
 #include "creature_files/document.h"
-#include "creature_files/file_commands.h"
+#include "app/handlers/file_menu.h"
 #include "creature_files/writer.h"
 
 using namespace Hesperin;

@@ -1,8 +1,8 @@
 #include "fuzz_program.h"
 
-#include "cli/json.h"
+#include "cli/state_json.h"
 #include "support/invariants.h"
-#include "ui/form_load.h"
+#include "app/handlers/form_load.h"
 
 #include <QJsonArray>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cli/cli_platform.h"
-#include "engine/program.h"
+#include "app/program.h"
 
 #include <QCoreApplication>
 

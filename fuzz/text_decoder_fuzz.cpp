@@ -1,7 +1,7 @@
 // The decoder of the game's text files takes any bytes.
 #include "fuzz_program.h"
 
-#include "platform/text_file.h"
+#include "text/decode_text.h"
 
 using namespace Hesperin;
 

@@ -1,12 +1,12 @@
 // Sequences of what a user can do, three bytes an action: what must hold holds after each.
 #include "fuzz_program.h"
 
-#include "catalogues/links.h"
+#include "catalogue/links.h"
 #include "creature_files/document.h"
-#include "creature_files/file_commands.h"
+#include "app/handlers/file_menu.h"
 #include "creature_files/writer.h"
-#include "engine/calculate.h"
-#include "engine/numbers.h"
+#include "app/calculate.h"
+#include "text/numbers.h"
 
 #include <algorithm>
 #include <array>
@@ -133,9 +133,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     Calculate(fuzzed.program);
     const SharedState& state = fuzzed.program.state;
-    Require(state.MinDam >= 1 && state.MinDam <= state.MaxDam && state.MaxDam <= 95,
+    Require(state.parameters.MinDam >= 1 && state.parameters.MinDam <= state.parameters.MaxDam && state.parameters.MaxDam <= 95,
             "the damage is in its range");
-    Require(state.PowerRolvane >= 1 && state.AdvisedTier >= 1 && state.AdvisedTier <= 8,
+    Require(state.powers.PowerRolvane >= 1 && state.advice.AdvisedTier >= 1 && state.advice.AdvisedTier <= 8,
             "the figures are there");
     RequireReadBack(fuzzed.program);
     return 0;

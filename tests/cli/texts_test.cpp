@@ -1,6 +1,6 @@
 #include "cli/run_cli.h"
 
-#include "localisation/ability_texts.h"
+#include "game_texts/ability_texts.h"
 
 #include <gtest/gtest.h>
 #include <minizip/zip.h>

@@ -1,8 +1,8 @@
-#include "cli/calc_report.h"
+#include "reports/calc_report.h"
 #include "cli/run_cli.h"
 #include "creature_files/creature_xml.h"
 #include "support/test_program.h"
-#include "ui/form_load.h"
+#include "app/handlers/form_load.h"
 
 #include <gtest/gtest.h>
 
@@ -162,8 +162,8 @@ TEST(Calc, AZeroPowerLeavesOutWhatWasNotReached) {
     CliPlatform platform;
     Program program(platform);
     Form_Load(program, {English, false});
-    program.state.PowerHesperin = 11;
-    program.state.PowerAverage = program.state.CostAverage = program.state.AdvisedTier = 7; // of the creature before
+    program.state.powers.PowerHesperin = 11;
+    program.state.figures.PowerAverage = program.state.figures.CostAverage = program.state.advice.AdvisedTier = 7; // of the creature before
     const QJsonObject object = CalcJson("a.xdb", true, program, platform);
     const QJsonObject none{{"rolvane", QJsonValue()}, {"hesperin", QJsonValue()}, {"average", QJsonValue()}};
     const QJsonObject power{{"rolvane", 0}, {"hesperin", 11}, {"average", QJsonValue()}};

@@ -1,5 +1,5 @@
 #include "creature_files/creature_xml.h"
-#include "creature_files/file_commands.h"
+#include "app/handlers/file_menu.h"
 #include "support/test_program.h"
 
 #include <gtest/gtest.h>
@@ -41,10 +41,10 @@ TEST(Reader, FillsEveryFieldFromItsOwnElement) {
         EXPECT_EQ(test.Shown(control), shown) << control;
     EXPECT_EQ(test.Ticked("Abilities"), QStringList{"FLESH_AND_BLOOD"});
     EXPECT_EQ(test.Ticked("Spells") + test.Ticked("Specabilities"), QStringList());
-    EXPECT_EQ(test.state.FileExperience, 61);
-    EXPECT_EQ(test.state.FilePower, 905);
-    EXPECT_EQ(test.state.FileGrowth, 7);
-    EXPECT_EQ(test.state.FileGold, 420);
+    EXPECT_EQ(test.state.file.FileExperience, 61);
+    EXPECT_EQ(test.state.file.FilePower, 905);
+    EXPECT_EQ(test.state.file.FileGrowth, 7);
+    EXPECT_EQ(test.state.file.FileGold, 420);
     EXPECT_EQ(test.state.CreatureName, "Bog_wyrm");
     EXPECT_TRUE(test.state.CreatureFileLoaded);
     EXPECT_EQ(test.state.UpgradeFactor, 1.6F);

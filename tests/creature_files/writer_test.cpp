@@ -32,8 +32,8 @@ TEST(Writer, WritesTheWholeFileInCatalogueOrder) {
     form.ComboSME.Select(4);
     form.ComboRange.Select(2);
     form.ComboTTC.Select(1);
-    test.state.GrowthRolvane = 18;
-    test.state.GrowthHesperin = 15;
+    test.state.figures.GrowthRolvane = 18;
+    test.state.figures.GrowthHesperin = 15;
 
     EXPECT_EQ(CreatureFileBytes(BuildCreatureText(test.program, "Swamp_drake").text),
               "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"

@@ -1,8 +1,8 @@
 // Takes pictures of every page and window in both languages, to be looked at and for the guide:
 //   talmir-pictures FOLDER
-#include "creature_files/file_commands.h"
+#include "app/handlers/file_menu.h"
 #include "support/scripted_platform.h"
-#include "ui/form_load.h"
+#include "app/handlers/form_load.h"
 #include "window/ability_window.h"
 #include "window/about_window.h"
 #include "window/faces.h"
@@ -56,7 +56,7 @@ public:
         program.state.AbilityInfoIndex = 68;
         Take(*new AbilityWindow(program, window.get()), "ability");
         Take(*new AboutWindow(program, window.get()), "about");
-        Take(*new StatusWindow(program, window.get(), program.state.MsgNoCalculator), "status");
+        Take(*new StatusWindow(program, window.get(), program.state.messages.MsgNoCalculator), "status");
     }
 
 private:

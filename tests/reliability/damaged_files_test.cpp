@@ -1,7 +1,7 @@
 // A creature file may hold anything: it is opened in order, or refused with a reason and nothing changed.
 #include "creature_files/creature_xml.h"
-#include "creature_files/file_commands.h"
-#include "creature_files/window_snapshot.h"
+#include "app/handlers/file_menu.h"
+#include "app/window_snapshot.h"
 #include "creature_files/writer.h"
 #include "reliability/damage.h"
 #include "support/invariants.h"

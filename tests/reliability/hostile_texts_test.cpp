@@ -2,7 +2,7 @@
 #include "support/peak_memory.h"
 #include "support/test_program.h"
 #include "support/without_rights.h"
-#include "ui/form_load.h"
+#include "app/handlers/form_load.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "support/invariants.h"
 
-#include "catalogues/links.h"
+#include "catalogue/links.h"
 
 #include <algorithm>
 
@@ -24,7 +24,7 @@ QString BrokenInvariant(const Program& program) {
     for (const MultiOption& selector : form.soq)
         if (selector.Value() < 0 || selector.Value() > 4)
             return "a mastery is 0 to 4";
-    if (program.state.Tier < 0 || program.state.Tier > 8)
+    if (program.state.parameters.Tier < 1 || program.state.parameters.Tier > 8)
         return "the tier fits the tables";
     return form.Specabilities(0).Ticked() ? "the inert box stays unticked" : "";
 }

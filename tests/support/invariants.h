@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/program.h"
+#include "app/program.h"
 
 namespace Hesperin {
 

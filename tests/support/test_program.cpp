@@ -1,7 +1,7 @@
 #include "support/test_program.h"
 
-#include "form/result_labels.h"
-#include "ui/form_load.h"
+#include "form/form_lists.h"
+#include "app/handlers/form_load.h"
 
 #include <QDir>
 
@@ -36,8 +36,11 @@ void TestProgram::FillInCreature() {
 
 QString TestProgram::Results() const {
     QStringList captions;
-    for (const auto label : ResultLabels)
-        captions.append((form.*label).Caption());
+    for (const Method method : {Method::Rolvane, Method::Hesperin, Method::Average})
+        for (const Figure figure : {Figure::Power, Figure::Cost, Figure::Experience, Figure::Growth})
+            for (const ResultRow& row : ResultRows)
+                if (row.method == method && row.figure == figure)
+                    captions.append((form.*row.place.label).Caption());
     return captions.join(' ');
 }
 

@@ -1,5 +1,5 @@
 // No text is cut off and none is lost on its ground, in either language.
-#include "form/result_labels.h"
+#include "form/form_lists.h"
 #include "window/agreement.h"
 #include "window/palette.h"
 

@@ -1,9 +1,9 @@
-#include "catalogues/ability_catalogue.h"
-#include "catalogues/links.h"
-#include "catalogues/spell_catalogue.h"
+#include "catalogue/ability_catalogue.h"
+#include "catalogue/links.h"
+#include "catalogue/spell_catalogue.h"
 #include "creature_files/creature_xml.h"
-#include "creature_files/file_commands.h"
-#include "creature_files/window_snapshot.h"
+#include "app/handlers/file_menu.h"
+#include "app/window_snapshot.h"
 
 #include <gtest/gtest.h>
 
@@ -232,7 +232,7 @@ TEST(SaveAndOpen, GivesTheCreatureBack) {
             else if (control == &saved.form.txtShots && !saved.form.Abilities(Ability::Shooter).Ticked())
                 shown = "0";
             else if (control == &saved.form.txtGrowthf)
-                shown = QString::number(std::max(1, (saved.state.GrowthRolvane + saved.state.GrowthHesperin) / 2));
+                shown = QString::number(std::max(1, (saved.state.figures.GrowthRolvane + saved.state.figures.GrowthHesperin) / 2));
             EXPECT_EQ(opened.form.Find(control->Name())->Shown(), shown) << control->Name().toStdString();
         }
         std::set<int> abilities;

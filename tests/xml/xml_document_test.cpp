@@ -1,4 +1,4 @@
-#include "platform/xml_document.h"
+#include "xml/xml_document.h"
 #include "support/test_program.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "form/text_buffer.h"
+#include "text/text_buffer.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
-#include "platform/files.h"
+#include "system/files.h"
 
-#include "platform/code_page.h"
-#include "platform/path_lookup.h"
-#include "platform/read_file.h"
-#include "platform/single_instance.h"
-#include "platform/text_file.h"
+#include "text/code_page.h"
+#include "system/path_lookup.h"
+#include "system/read_file.h"
+#include "system/single_instance.h"
+#include "text/decode_text.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

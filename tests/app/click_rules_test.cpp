@@ -1,4 +1,4 @@
-#include "localisation/language_menu.h"
+#include "app/handlers/options_menu.h"
 #include "support/test_program.h"
 
 #include <gtest/gtest.h>

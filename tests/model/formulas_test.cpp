@@ -1,4 +1,4 @@
-#include "engine/formulas.h"
+#include "model/formulas.h"
 
 #include <gtest/gtest.h>
 

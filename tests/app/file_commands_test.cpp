@@ -1,7 +1,7 @@
 #include "creature_files/creature_xml.h"
-#include "creature_files/file_commands.h"
-#include "creature_files/window_snapshot.h"
-#include "platform/xml_document.h"
+#include "app/handlers/file_menu.h"
+#include "app/window_snapshot.h"
+#include "xml/xml_document.h"
 
 #include <gtest/gtest.h>
 
@@ -197,7 +197,7 @@ TEST(Open, TellsInOneBoxWhatWasMissingOrLimitedBeforeCalculateWarns) {
     const QString text = test.platform.boxes[0].text;
     for (const QString& name : names)
         EXPECT_EQ(text.count(name), 1) << name.toStdString();
-    EXPECT_EQ(test.state.FilePower + test.state.FileExperience + test.state.FileGrowth + test.state.FileGold, 0);
+    EXPECT_EQ(test.state.file.FilePower + test.state.file.FileExperience + test.state.file.FileGrowth + test.state.file.FileGold, 0);
     EXPECT_EQ(test.state.CreatureName, "Test");
     EXPECT_EQ(test.form.txtNC.Text(), "");
     EXPECT_FALSE(test.form.mnuSave.Enabled());
@@ -212,8 +212,8 @@ TEST(Open, NamesElementsWhoseClosingTagComesFirstAndLimitedNumbers) {
                                            "Outside the range -32768 to 32767, so limited: "
                                            "Exp 99999 %1 (32767), Gold -40000.7 (-32768).");
     EXPECT_EQ(test.form.ComboSpeed.Text(), "5");
-    EXPECT_EQ(test.state.FileExperience, 32767);
-    EXPECT_EQ(test.state.FileGold, -32768);
+    EXPECT_EQ(test.state.file.FileExperience, 32767);
+    EXPECT_EQ(test.state.file.FileGold, -32768);
 }
 
 TEST(Open, TakesTheNameAsTheReferenceHasIt) {

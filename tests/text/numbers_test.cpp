@@ -1,4 +1,4 @@
-#include "engine/numbers.h"
+#include "text/numbers.h"
 
 #include "support/test_program.h"
 

@@ -1,6 +1,6 @@
 // Texts that a key filter would have kept out, but a paste doesn't.
-#include "creature_files/file_commands.h"
-#include "engine/numbers.h"
+#include "app/handlers/file_menu.h"
+#include "text/numbers.h"
 #include "support/test_program.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "localisation/ability_texts.h"
+#include "game_texts/ability_texts.h"
 
-#include "localisation/language_menu.h"
+#include "app/handlers/options_menu.h"
 #include "support/test_program.h"
 
 #include <gtest/gtest.h>
@@ -78,7 +78,7 @@ TEST(AbilityTexts, AreDecodedByTheirBytes) {
     for (const auto& row : cases) {
         SCOPED_TRACE(row.what);
         TestProgram test;
-        test.state.LanguageCode = row.language;
+        test.state.messages.LanguageCode = row.language;
         WriteText(test, row.language, "Bash/Bash_name", row.bytes);
         WriteText(test, row.language, "Bash/Bash_desc", row.bytes);
         LoadAbilityTexts(test.program);

@@ -1,6 +1,6 @@
 #include "support/test_program.h"
-#include "ui/form_load.h"
-#include "ui/window_commands.h"
+#include "app/handlers/form_load.h"
+#include "app/handlers/options_menu.h"
 
 #include <gtest/gtest.h>
 

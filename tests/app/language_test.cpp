@@ -1,6 +1,6 @@
-#include "localisation/apply_language.h"
-#include "localisation/language_menu.h"
-#include "localisation/string_tables.h"
+#include "app/apply_language.h"
+#include "app/handlers/options_menu.h"
+#include "localisation/captions.h"
 #include "support/test_program.h"
 
 #include <gtest/gtest.h>
@@ -100,7 +100,7 @@ TEST(Language, ASwitchReplacesEveryTextThatTheLanguageHasAndNoOther) {
             row.switchTo(test.program);
             EXPECT_EQ(Words(test.form), words);
             EXPECT_EQ(Messages(test.state), messages);
-            EXPECT_EQ(test.state.LanguageCode, row.code);
+            EXPECT_EQ(test.state.messages.LanguageCode, row.code);
             EXPECT_EQ(test.state.LanguageId, number);
             for (const auto& other : languages)
                 EXPECT_EQ((test.form.*other.entry).Checked(), &other == &row);

@@ -1,7 +1,7 @@
-#include "engine/calculate.h"
+#include "app/calculate.h"
 
 #include "support/test_program.h"
-#include "ui/form_load.h"
+#include "app/handlers/form_load.h"
 
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@ QStringList Warnings(TestProgram& test) {
     QStringList texts;
     for (const ScriptedPlatform::Box& box : test.platform.boxes)
         if (box.icon == BoxIcon::Critical) {
-            EXPECT_EQ(box.title, test.state.WarningTitle);
+            EXPECT_EQ(box.title, test.state.messages.WarningTitle);
             texts.append(box.text);
         }
     return texts;
@@ -168,12 +168,12 @@ TEST(Calculate, AZeroPowerStopsTheRunAndLeavesTheRestUntouched) {
     EXPECT_EQ(Warnings(test), QStringList{"Value for 'Power by Rolvane' is zero!"});
     EXPECT_EQ(test.Results(), "0 54 11 18 11 63 13 15 137 58 12 16"); // all but the Powers as before
     EXPECT_EQ(test.form.cmdCalc.ToolTip(), "Average value for all abilities is 0.0058");
-    EXPECT_EQ(test.state.Tier, 5);
+    EXPECT_EQ(test.state.parameters.Tier, 5);
     EXPECT_EQ(test.form.frmMain.Caption(), title);
     EXPECT_TRUE(test.form.mnuSave.Enabled());
-    EXPECT_EQ(test.state.GrowthNumerator, before.GrowthNumerator);
-    EXPECT_EQ(test.state.CostHesperin, before.CostHesperin);
-    EXPECT_EQ(test.state.TierReferencePower, before.TierReferencePower);
+    EXPECT_EQ(test.state.figures.GrowthNumerator, before.GrowthNumerator);
+    EXPECT_EQ(test.state.figures.CostHesperin, before.CostHesperin);
+    EXPECT_EQ(test.state.advice.TierReferencePower, before.TierReferencePower);
 }
 
 } // namespace

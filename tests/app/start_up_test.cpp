@@ -1,5 +1,5 @@
 #include "support/test_program.h"
-#include "ui/form_load.h"
+#include "app/handlers/form_load.h"
 
 #include <gtest/gtest.h>
 

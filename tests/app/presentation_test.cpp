@@ -1,6 +1,6 @@
-#include "engine/calculate.h"
-#include "engine/clear_creature.h"
-#include "engine/tier_advice.h"
+#include "app/calculate.h"
+#include "app/resets.h"
+#include "model/advice.h"
 #include "support/test_program.h"
 
 #include <gtest/gtest.h>
@@ -30,7 +30,7 @@ TEST(AbilityProduct, IsAThirtyTwoBitFloatFormedInIndexOrder) {
         for (const int ability : row.abilities)
             test.form.Abilities(ability).SetTicked(true);
         Calculate(test.program);
-        EXPECT_EQ(test.state.AbilityProduct, row.product);
+        EXPECT_EQ(test.state.parameters.AbilityProduct, row.product);
         EXPECT_EQ(test.form.cmdCalc.ToolTip(), QString("Average value for all abilities is ") + row.text);
     }
 }
@@ -48,10 +48,10 @@ TEST(Calculate, FillsLabelsAndTitleAndSwitchesTheExponents) {
               "TALMIR v0.0.0.44 [Creature: Test, Power=0{137}, Experience=0{12}, Growth=0{16}, "
               "Gold=0{58}]");
     EXPECT_EQ(test.Results(), "129 54 11 18 146 63 13 15 137 58 12 16");
-    EXPECT_EQ(test.state.GrowthNumerator, 2400);
+    EXPECT_EQ(test.state.figures.GrowthNumerator, 2400);
     const auto exponents = [&] {
         const SharedState& state = test.state;
-        return std::vector{state.ExponentOffence, state.ExponentDefence, state.ExponentSpeed, state.ExponentInitiative};
+        return std::vector{state.exponents.ExponentOffence, state.exponents.ExponentDefence, state.exponents.ExponentSpeed, state.exponents.ExponentInitiative};
     };
     EXPECT_EQ(exponents(), (std::vector<FixedPoint>{4000, 6000, 4000, 6000}));
     test.form.Abilities(Ability::Shooter).SetTicked(true);
@@ -89,13 +89,13 @@ TEST(TierAdvice, ComparesWithTheReferenceOfThePlainOrUpgradedCreature) {
     for (std::int16_t tier = 1; tier <= 8; ++tier)
         for (const bool isUpgraded : {false, true}) {
             test.form.ComboUpgrade.Select(isUpgraded ? 1 : 0);
-            test.state.Tier = tier;
-            test.state.PowerAverage = 600; // tier 4
+            test.state.parameters.Tier = tier;
+            test.state.figures.PowerAverage = 600; // tier 4
             const QStringList advice = test.BoxesOf([&] { AdviseOnTier(test.program); });
             const std::int16_t reference = (isUpgraded ? upgraded : plain)[tier - 1];
-            EXPECT_EQ(test.state.TierReferencePower, reference);
-            EXPECT_EQ(test.state.PowerRatio, static_cast<float>(600.0 / reference));
-            EXPECT_EQ(test.state.AdvisedTier, 4);
+            EXPECT_EQ(test.state.advice.TierReferencePower, reference);
+            EXPECT_EQ(test.state.advice.PowerRatio, static_cast<float>(600.0 / reference));
+            EXPECT_EQ(test.state.advice.AdvisedTier, 4);
             const QString text =
                 QString("It is recommended to %1 tier from %2 to 4").arg(tier < 4 ? "increase" : "lower").arg(tier);
             EXPECT_EQ(advice, tier == 4 ? QStringList() : QStringList{text});
@@ -106,7 +106,7 @@ TEST(ClearCreature, EmptiesFieldsAndLabelsAndKeepsTicksAndResults) {
     TestProgram test;
     test.FillInCreature();
     Calculate(test.program);
-    const double power = test.state.PowerRolvane;
+    const double power = test.state.powers.PowerRolvane;
     test.form.Abilities(17).SetTicked(true);
     const TestProgram fresh; // the first values stand in the tests of the start
     for (Control* control : test.form.Controls()) {
@@ -126,7 +126,7 @@ TEST(ClearCreature, EmptiesFieldsAndLabelsAndKeepsTicksAndResults) {
     EXPECT_EQ(test.form.cmdCalc.ToolTip(), "");
     EXPECT_EQ(test.state.UpgradeFactor, 1.0F);
     EXPECT_EQ(test.state.CreatureName, "Test");
-    EXPECT_EQ(test.state.PowerRolvane, power);
+    EXPECT_EQ(test.state.powers.PowerRolvane, power);
     EXPECT_TRUE(test.form.Abilities(17).Ticked());
 }
 

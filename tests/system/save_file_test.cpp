@@ -1,7 +1,7 @@
-#include "platform/save_file.h"
+#include "system/save_file.h"
 
-#include "platform/files.h"
-#include "platform/read_file.h"
+#include "system/files.h"
+#include "system/read_file.h"
 #include "support/without_rights.h"
 
 #include <cerrno>

@@ -1,4 +1,4 @@
-#include "catalogues/ability_catalogue.h"
+#include "catalogue/ability_catalogue.h"
 #include "support/test_program.h"
 
 #include <gtest/gtest.h>

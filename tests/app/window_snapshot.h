@@ -57,9 +57,9 @@ inline QStringList Snapshot(const TestProgram& test) {
         lines.append(QString::number(state.*field, 'g', 17));
     for (const float value : state.AbilityCurrentValue)
         lines.append(QString::number(static_cast<double>(value)));
-    lines.append({QString::number(static_cast<double>(state.AbilityProduct)),
+    lines.append({QString::number(static_cast<double>(state.parameters.AbilityProduct)),
                   QString::number(static_cast<double>(state.UpgradeFactor)),
-                  QString::number(static_cast<double>(state.PowerRatio)), state.CreatureName,
+                  QString::number(static_cast<double>(state.advice.PowerRatio)), state.CreatureName,
                   QString::number(state.CreatureFileLoaded), QString::number(state.LanguageId)});
     lines.append(test.platform.focus);
     lines.append(test.platform.status);

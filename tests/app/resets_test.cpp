@@ -1,5 +1,5 @@
-#include "catalogues/links.h"
-#include "engine/calculate.h"
+#include "catalogue/links.h"
+#include "app/calculate.h"
 #include "support/test_program.h"
 
 #include <gtest/gtest.h>
@@ -153,7 +153,7 @@ TEST(RandomPlay, BoxesCountersAndSelectorsStayInStep) {
         if (step % 10 == 0) {
             ExpectInvariants(test);
             Calculate(test.program);
-            EXPECT_EQ(test.state.AbilityProduct, ExpectedProduct(form));
+            EXPECT_EQ(test.state.parameters.AbilityProduct, ExpectedProduct(form));
             ASSERT_FALSE(HasFailure()) << "after step " << step;
         }
     }
