@@ -6,13 +6,11 @@
 #include "reports/calc_report.h"
 #include "reports/json.h"
 
-#include <QFileInfo>
-
 namespace Hesperin {
 
 namespace {
 
-const QString JsonOption = QStringLiteral("json");
+const QString JsonOfCalc = QStringLiteral("json");
 
 void DescribeCalc(QCommandLineParser& parser) {
     parser.addPositionalArgument(
@@ -20,26 +18,18 @@ void DescribeCalc(QCommandLineParser& parser) {
         QStringLiteral("Creature files (.xdb); a folder stands for all below it."),
         QStringLiteral("FILE..."));
     parser.addOption(
-        {JsonOption, QStringLiteral("One JSON object a line and file instead of a table.")});
-}
-
-/// Folders replaced by the creature files below them.
-QStringList FilesOf(const QStringList& paths) {
-    QStringList files;
-    for (const QString& path : paths)
-        files += QFileInfo(path).isDir() ? CreatureFilesBelow(path) : QStringList(path);
-    return files;
+        {JsonOfCalc, QStringLiteral("One JSON object a line and file instead of a table.")});
 }
 
 int Calc(const QCommandLineParser& parser) {
     const QStringList paths = parser.positionalArguments();
-    const bool json = parser.isSet(JsonOption);
+    const bool json = parser.isSet(JsonOfCalc);
     if (paths.isEmpty()) {
         Complain(QStringLiteral("talmir-cli calc: at least one FILE is expected"));
         return WrongUsage;
     }
     bool allOpened = true;
-    for (const QString& file : FilesOf(paths)) {
+    for (const QString& file : CreatureFilesAt(paths)) {
         const CalcReport report = CalculateFile(file, English);
         allOpened = allOpened && !report.refusal;
         if (json)

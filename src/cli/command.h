@@ -21,6 +21,7 @@ struct Command {
 
 extern const Command CalcCommand;
 extern const Command RunCommand;
+extern const Command SetCommand;
 extern const Command TextsCommand;
 
 } // namespace Hesperin

@@ -21,6 +21,10 @@ void PrintLine(const QByteArray& utf8) {
     Write(stdout, utf8);
 }
 
+void PrintBytes(const QByteArray& bytes) {
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stdout);
+}
+
 void Complain(const QString& line) {
     std::fflush(stdout); // so that both streams tell the same story in a terminal
     Write(stderr, line.toUtf8());

@@ -8,6 +8,9 @@ namespace Hesperin {
 void PrintLine(const QString& line);
 void PrintLine(const QByteArray& utf8);
 
+/// The bytes as they are.
+void PrintBytes(const QByteArray& bytes);
+
 /// Complaints, the same way on standard error.
 void Complain(const QString& line);
 

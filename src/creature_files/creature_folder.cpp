@@ -4,6 +4,7 @@
 #include "system/read_file.h"
 
 #include <QDirIterator>
+#include <QFileInfo>
 #include <QXmlStreamReader>
 
 #include <algorithm>
@@ -32,6 +33,13 @@ QStringList CreatureFilesBelow(const QString& folder) {
             paths.append(path);
     std::sort(paths.begin(), paths.end());
     return paths;
+}
+
+QStringList CreatureFilesAt(const QStringList& paths) {
+    QStringList files;
+    for (const QString& path : paths)
+        files += QFileInfo(path).isDir() ? CreatureFilesBelow(path) : QStringList(path);
+    return files;
 }
 
 } // namespace Hesperin

@@ -9,4 +9,7 @@ namespace Hesperin {
 /// enough to tell. Links to folders are not followed.
 QStringList CreatureFilesBelow(const QString& folder);
 
+/// The paths, with each folder replaced by the creature files below it.
+QStringList CreatureFilesAt(const QStringList& paths);
+
 } // namespace Hesperin

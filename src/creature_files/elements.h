@@ -26,8 +26,7 @@ enum class Says : std::uint8_t {
     Shared,      ///< a reference to the shared object that bears the creature's name
     Visual,      ///< a reference to the creature's looks; not read
     Abilities,   ///< the abilities that no other element stands for
-    FixedNumber, ///< `text` in every file of ours; not read. The same for the three that follow
-    FixedFlag,
+    FixedFlag,   ///< `text` in every file of ours; not read. The same for the two that follow
     FixedWord,
     FixedEmpty, ///< no content at all
 };

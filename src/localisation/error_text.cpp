@@ -10,7 +10,8 @@ namespace {
 using What = Error::What;
 
 // clang-format off
-/// In the order of Error::What. %1 is the value, or what was expected where there is no value.
+/// In the order of Error::What. %1 is the value, or what was expected where there is no value; %2 what was
+/// expected, %3 the element.
 constexpr QString Messages::*Sentences[] = {
     &Messages::MsgFileMissing,
     &Messages::MsgFolderMissing,
@@ -33,8 +34,25 @@ constexpr QString Messages::*Sentences[] = {
     &Messages::MsgTextTooLong,
     &Messages::MsgEndlessMarkup,
     &Messages::MsgNameChanges,
+    &Messages::MsgEncodingUnknown,
+    &Messages::MsgElementUnknown,
+    &Messages::MsgElementTwice,
+    &Messages::MsgHoldsElements,
+    &Messages::MsgFromEntity,
+    &Messages::MsgNoWholeNumber,
+    &Messages::MsgBelowZero,
+    &Messages::MsgNoFlag,
+    &Messages::MsgWordUnknown,
+    &Messages::MsgTownUnknown,
+    &Messages::MsgNoList,
+    &Messages::MsgNoFigure,
+    &Messages::MsgNoPower,
+    &Messages::MsgNoScale,
+    &Messages::MsgCantBeSpelled,
+    &Messages::MsgUnsafeEdit,
+    &Messages::MsgConflict,
 };
-static_assert(std::size(Sentences) == static_cast<std::size_t>(What::NameChanges) + 1);
+static_assert(std::size(Sentences) == static_cast<std::size_t>(What::Conflict) + 1);
 
 /// In the order of SaveNote.
 constexpr QString Messages::*NoteSentences[] = {
@@ -48,6 +66,8 @@ static_assert(std::size(NoteSentences) == static_cast<std::size_t>(SaveNote::May
 QString Place(const Messages& messages, const Error& error) {
     if (error.line == 0)
         return {};
+    if (error.column == 0)
+        return Fill(messages.MsgAtLineAlone, {QString::number(error.line)});
     return Fill(error.element.isEmpty() ? messages.MsgAtLine : messages.MsgAtLineIn,
                 {QString::number(error.line), QString::number(error.column), error.element});
 }
@@ -58,7 +78,7 @@ QString ErrorReason(const Messages& messages, const Error& error) {
     const QString value = error.what == What::NotWellFormed ? ParserWords(messages, error.value)
                           : error.value.isEmpty()           ? error.expected
                                                             : error.value;
-    return Fill(messages.*Sentences[static_cast<std::size_t>(error.what)], {value}) +
+    return Fill(messages.*Sentences[static_cast<std::size_t>(error.what)], {value, error.expected, error.element}) +
            Place(messages, error);
 }
 

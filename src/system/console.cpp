@@ -11,6 +11,7 @@
 #include <cstdlib>
 #else
 #include <fcntl.h>
+#include <unistd.h>
 #endif
 
 namespace Hesperin {
@@ -28,6 +29,14 @@ void PrepareConsole() {
     for (int number = input; number <= complaints; ++number)
         if (fcntl(number, F_GETFD) < 0) // opening takes the lowest free number
             open("/dev/null", number == input ? O_WRONLY : O_RDONLY);
+#endif
+}
+
+bool ComplaintsGoToATerminal() {
+#ifdef Q_OS_WIN
+    return _isatty(_fileno(stderr)) != 0;
+#else
+    return isatty(STDERR_FILENO) == 1;
 #endif
 }
 

@@ -7,4 +7,7 @@ namespace Hesperin {
 /// fails at every use instead of becoming the next file that is opened.
 void PrepareConsole();
 
+/// Whether standard error is shown to a person as it is written.
+bool ComplaintsGoToATerminal();
+
 } // namespace Hesperin

@@ -39,7 +39,7 @@ Failure Create(ReplacementFile& file, const QString& target) {
 
 } // namespace
 
-SaveOutcome SaveFile(const QString& path, const QByteArray& bytes) {
+SaveOutcome SaveFileOfMany(const QString& path, const QByteArray& bytes) {
     const QString target = BehindLinks(path);
     ReplacementFile file(target);
     if (auto refusal = Create(file, target))
@@ -56,9 +56,18 @@ SaveOutcome SaveFile(const QString& path, const QByteArray& bytes) {
         error = file.TakePlace();
     if (error != 0)
         return {ErrorOf(error), {}};
-    if (file.SyncFolder() != 0)
+    return outcome;
+}
+
+SaveOutcome SaveFile(const QString& path, const QByteArray& bytes) {
+    SaveOutcome outcome = SaveFileOfMany(path, bytes);
+    if (!outcome.failure && !SyncFolder(QFileInfo(BehindLinks(path)).path()))
         outcome.notes.push_back(SaveNote::MayNotLast);
     return outcome;
+}
+
+bool SyncFolder(const QString& folder) {
+    return ReplacementFile(folder + QLatin1String("/any")).SyncFolder() == 0;
 }
 
 Failure SaveRefusal(const QString& path) {

@@ -26,6 +26,13 @@ struct SaveOutcome {
 /// the target is replaced. Refuses a place that holds anything but a file: a folder, a device.
 SaveOutcome SaveFile(const QString& path, const QByteArray& bytes);
 
+/// The same for one of many files: SyncFolder is to be called for its folder when all are saved. Until then a
+/// power cut may bring the old file back, whole.
+SaveOutcome SaveFileOfMany(const QString& path, const QByteArray& bytes);
+
+/// Waits until the files saved in that folder last. False where the system can't say so.
+bool SyncFolder(const QString& folder);
+
 /// Why SaveFile could not write there, found out without changing anything; none when it could.
 Failure SaveRefusal(const QString& path);
 

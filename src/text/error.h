@@ -36,6 +36,24 @@ struct Error {
         TextTooLong,   ///< `expected` is the longest text in UTF-16 units
         EndlessMarkup, ///< a tag or a document type has no end
         NameChanges,   ///< read back, the creature would have the name `value`
+        EncodingUnknown, ///< `value` is its name
+        // An edit in place can't be done.
+        ElementUnknown,  ///< `value` is its name, `expected` the nearest known one
+        ElementTwice,    ///< `value` is its name, the line the second one's
+        HoldsElements,   ///< `value` is the element
+        FromEntity,      ///< the content of the element `value` comes out of an entity
+        NoWholeNumber,   ///< `value` stands in or for the element `element`
+        BelowZero,       ///< `element` would become `value`
+        NoFlag,          ///< `value` for the element `element`: true or false was expected
+        WordUnknown,     ///< `value` for the element `element`, `expected` the nearest known one
+        TownUnknown,     ///< `value` is no town of the game, `expected` the nearest; taken all the same
+        NoList,          ///< `value` holds no list of items
+        NoFigure,        ///< `element` has no computed figure `value`
+        NoPower,         ///< Power is 0, so that there are no figures
+        NoScale,         ///< tier `value` has no scale for `element`
+        CantBeSpelled,   ///< `value` has a character that no document can hold
+        UnsafeEdit,      ///< the edited file would not be what was asked for
+        Conflict,        ///< `element` stands as `value` in the file, and not as it was opened
     };
 
     /// What the program was about to do with `file`.

@@ -57,6 +57,7 @@ QString Fault(const QString& file, const QString& include) {
                                                    {"<windows.h>", "system/console.cpp"},
                                                    {"<io.h>", "system/console.cpp"},
                                                    {"<fcntl.h>", "system/console.cpp"},
+                                                   {"<unistd.h>", "system/console.cpp"},
                                                    {"<windows.h>", "system/replacement_file_windows.cpp"},
                                                    {"<fcntl.h>", "system/replacement_file_unix.cpp"},
                                                    {"<sys/stat.h>", "system/replacement_file_unix.cpp"},

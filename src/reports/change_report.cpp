@@ -1,0 +1,60 @@
+#include "reports/change_report.h"
+
+#include "localisation/error_text.h"
+#include "reports/line_diff.h"
+
+#include <QJsonArray>
+
+namespace Hesperin {
+
+namespace {
+
+QString ChangeLine(const FileChange& change) {
+    if (change.old && change.now)
+        return QStringLiteral("  %1: %2 -> %3\n").arg(change.element, *change.old, *change.now);
+    if (!EditedFile::IsList(change.element))
+        return QStringLiteral("  %1: (lacking) -> %2\n").arg(change.element, change.now.value_or(QString()));
+    return change.now ? QStringLiteral("  %1: + %2\n").arg(change.element, *change.now)
+                      : QStringLiteral("  %1: - %2\n").arg(change.element, change.old.value_or(QString()));
+}
+
+} // namespace
+
+QString ChangeText(const Messages& messages, const ChangeReport& report) {
+    if (report.changes.empty())
+        return {};
+    QString text = report.file + u'\n';
+    for (const FileChange& change : report.changes)
+        text += ChangeLine(change);
+    for (const Error& note : report.notes)
+        text += QLatin1String("  i ") + ErrorReason(messages, note) + u'\n';
+    text.chop(1);
+    return text;
+}
+
+QJsonObject ChangeJson(const Messages& messages, const ChangeReport& report) {
+    const auto orNull = [](const std::optional<QString>& value) {
+        return value ? QJsonValue(*value) : QJsonValue();
+    };
+    QJsonArray changes;
+    for (const FileChange& change : report.changes)
+        changes.append(QJsonObject{{"element", change.element},
+                                   {"old", orNull(change.old)},
+                                   {"new", orNull(change.now)}});
+    QJsonObject object{{"file", report.file},
+                       {"ok", !report.error},
+                       {"changes", changes},
+                       {"written", report.written}};
+    if (report.error)
+        object.insert(QStringLiteral("error"), ErrorReason(messages, *report.error));
+    return object;
+}
+
+QByteArray ChangeDiff(const ChangeReport& report) {
+    if (report.changes.empty())
+        return {};
+    const QByteArray name = report.file.toUtf8();
+    return "--- " + name + "\n+++ " + name + '\n' + LineDiff(report.before, report.after);
+}
+
+} // namespace Hesperin

@@ -1,0 +1,61 @@
+#include "text/decimal.h"
+
+#include <QString>
+
+#include <algorithm>
+
+namespace Hesperin {
+
+namespace {
+
+constexpr qsizetype MostDigits = 12;
+
+__extension__ using Wide = __int128; // two numbers of 12 digits, multiplied
+
+Wide TenTo(int places) {
+    Wide power = 1;
+    for (int i = 0; i < places; ++i)
+        power *= 10;
+    return power;
+}
+
+/// `number` of 10^-`places`, to the nearest whole one.
+std::int64_t Rounded(Wide number, int places) {
+    const Wide one = TenTo(places);
+    const Wide half = number < 0 ? -one / 2 : one / 2;
+    return static_cast<std::int64_t>((number + half) / one);
+}
+
+} // namespace
+
+std::optional<Decimal> ReadDecimal(QStringView text) {
+    const bool signedText = text.startsWith(u'-') || text.startsWith(u'+');
+    const QStringView digits = text.sliced(signedText ? 1 : 0);
+    const qsizetype stop = digits.indexOf(u'.');
+    const QString all = QString(digits.toString()).remove(stop < 0 ? digits.size() : stop, 1);
+    const bool onlyDigits = std::all_of(all.begin(), all.end(), [](QChar digit) {
+        return digit >= u'0' && digit <= u'9';
+    });
+    if (all.isEmpty() || all.size() > MostDigits || !onlyDigits)
+        return std::nullopt;
+    const std::int64_t units = all.toLongLong();
+    return Decimal{text.startsWith(u'-') ? -units : units,
+                   stop < 0 ? 0 : static_cast<int>(digits.size() - stop - 1)};
+}
+
+std::optional<std::int64_t> ReadWhole(QStringView text) {
+    const auto number = ReadDecimal(text);
+    if (!number || text.contains(u'.'))
+        return std::nullopt;
+    return number->units;
+}
+
+std::int64_t Sum(std::int64_t whole, const Decimal& number, int sign) {
+    return Rounded(Wide{whole} * TenTo(number.places) + sign * Wide{number.units}, number.places);
+}
+
+std::int64_t Product(std::int64_t whole, const Decimal& factor) {
+    return Rounded(Wide{whole} * factor.units, factor.places);
+}
+
+} // namespace Hesperin

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QStringView>
+
+#include <cstdint>
+#include <optional>
+
+namespace Hesperin {
+
+/// A decimal number as it is written, exact: `units` of 10^-`places`.
+struct Decimal {
+    std::int64_t units = 0;
+    int places = 0;
+};
+
+/// An optional sign and digits with an optional full stop and fraction, at most 12 digits in all; none for
+/// anything else.
+std::optional<Decimal> ReadDecimal(QStringView text);
+
+/// The whole number that `text` is, an optional sign and at most 12 digits; none for anything else.
+std::optional<std::int64_t> ReadWhole(QStringView text);
+
+/// The nearest whole number, halves away from zero. `whole` has at most 12 digits.
+std::int64_t Sum(std::int64_t whole, const Decimal& number, int sign);
+std::int64_t Product(std::int64_t whole, const Decimal& factor);
+
+} // namespace Hesperin
