@@ -10,8 +10,8 @@ namespace Hesperin {
 /// value does nothing.
 void ApplyLanguage(Program& program, std::int16_t languageId);
 
-/// Zeroes the charge counter and the flag of the box rules. The catalogues themselves are constants.
-/// Runs at start-up and after each change of language; ticks stay as they are.
+/// Zeroes the charge counter and the flag of the box rules. The catalogues themselves are
+/// constants. Runs at start-up and after each change of language; ticks stay as they are.
 void BuildCatalogues(Program& program);
 
 /// Loads name and description of every ability in the current language into utbN and utbD.

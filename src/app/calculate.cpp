@@ -89,8 +89,8 @@ void Calculate(Program& program) {
 
     state.advice = *evaluation.advice;
     if (state.advice.AdvisedTier != state.parameters.Tier)
-        program.Warn(BoxIcon::Information,
-                     TierAdviceText(state.messages, state.parameters.Tier, state.advice.AdvisedTier));
+        program.Warn(BoxIcon::Information, TierAdviceText(state.messages, state.parameters.Tier,
+                                                          state.advice.AdvisedTier));
     form.mnuSave.SetEnabled(!form.txtNC.Text().isEmpty());
     form.frmMain.SetCaption(SummaryTitle(state));
 }

@@ -102,7 +102,8 @@ void ShowCurrentValue(Program& program, int i) {
 
 void SwitchCasterFields(MainForm& form, bool caster) {
     form.Tablus.At(Page::Spells).Switch(caster);
-    for (Control* control : std::initializer_list<Control*>{&form.cmdRAS, &form.FrameMana, &form.txtMana})
+    for (Control* control :
+         std::initializer_list<Control*>{&form.cmdRAS, &form.FrameMana, &form.txtMana})
         control->SetEnabled(caster);
 }
 

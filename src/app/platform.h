@@ -24,6 +24,10 @@ public:
     /// A modal question box with Yes and No; true for Yes.
     virtual bool AskYesNo(const QString& title, const QString& text) = 0;
 
+    /// A modal question box with buttons of its own. Gives the place of the one pressed; `cancel`
+    /// also when the box was closed otherwise.
+    virtual int Ask(const Question& question) = 0;
+
     /// Shows the open dialog with these settings. True: `dialog.FileName` is what the user chose.
     /// False: cancelled, and nothing changed.
     virtual bool ShowOpenDialog(FileDialog& dialog) = 0;
@@ -52,6 +56,9 @@ public:
 
     /// Folder for this program's settings of the user, which need not exist yet.
     virtual QString SettingsFolder() const = 0;
+
+    /// Folder for what this program keeps for the user, which need not exist yet.
+    virtual QString DataFolder() const = 0;
 
     ProgramPlaces Places() const { return {ProgramFolder(), SettingsFolder()}; }
 

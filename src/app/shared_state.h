@@ -1,5 +1,5 @@
-// The one creature that the program works on: what is computed and remembered about it. The widths are part
-// of the results.
+// The one creature that the program works on: what is computed and remembered about it. The widths
+// are part of the results.
 #pragma once
 
 #include "creature_files/reader.h"
@@ -18,8 +18,8 @@ struct SharedState {
 
     float UpgradeFactor = PlainFactor; ///< follows ComboUpgrade at once
 
-    // Of the last calculation. A run that a zero Power stopped leaves the figures and the advice as they
-    // were.
+    // Of the last calculation. A run that a zero Power stopped leaves the figures and the advice as
+    // they were.
     Parameters parameters; ///< as validated
     Exponents exponents;
     Powers powers;
@@ -30,6 +30,18 @@ struct SharedState {
     QString CreatureName;
     bool CreatureFileLoaded = false;
     FileFigures file;
+
+    /// The file that was opened or saved last: what an update in place starts from. None after New
+    /// and Reset all.
+    struct Baseline {
+        QString path;
+        QByteArray bytes;  ///< of the file
+        Creature creature; ///< as the window then showed it
+    };
+    std::optional<Baseline> baseline;
+
+    /// Files of which this run has kept a copy before it replaced them.
+    QStringList backedUp;
 
     /// The ability whose information window was asked for last, 1 to 174.
     std::int16_t AbilityInfoIndex = 0;

@@ -10,7 +10,7 @@ constexpr QStringView Numbers[] = {u"1",  u"2",  u"3",  u"4",  u"5",  u"6",  u"7
 
 constexpr QStringView Truths[] = {u"False", u"True"};
 constexpr QStringView Elements[] = {u"None", u"Air", u"Earth", u"Fire", u"Water"};
-constexpr QStringView Towns[] = {u"HEAVEN",  u"INFERNO", u"NECROMANCY", u"PRESERVE", u"DUNGEON",
+constexpr QStringView Towns[] = {u"HEAVEN",  u"INFERNO",  u"NECROMANCY", u"PRESERVE", u"DUNGEON",
                                  u"ACADEMY", u"FORTRESS", u"STRONGHOLD", u"NO_TYPE"};
 constexpr QStringView RangeNumbers[] = {u"0", u"-1", u"-2"};
 constexpr QStringView Times[] = {u"10", u"15"};

@@ -1,5 +1,5 @@
-// What is entered of a creature beside its name and its ticked boxes: numbers in fields and choices in
-// lists, with their ranges, entries and initial values.
+// What is entered of a creature beside its name and its ticked boxes: numbers in fields and choices
+// in lists, with their ranges, entries and initial values.
 #pragma once
 
 #include "catalogue/enum_array.h"
@@ -48,7 +48,8 @@ inline constexpr EnumArray<Parameter, ParameterRange> ParameterRanges{{{
 inline constexpr float PlainFactor = 1.0F;
 inline constexpr float UpgradedFactor = 1.6F;
 
-/// The fields that take whole numbers. The second half goes into the creature's file and into no formula.
+/// The fields that take whole numbers. The second half goes into the creature's file and into no
+/// formula.
 enum class NumberField : std::uint8_t {
     Shots,
     Mana,
@@ -78,9 +79,9 @@ enum class ListField : std::uint8_t {
     SecondElement,
     Speed,
     Initiative,
-    Faction, ///< in the user's language
-    Alias,   ///< the game's word for the faction
-    Range,   ///< in the user's language
+    Faction,  ///< in the user's language
+    Alias,    ///< the game's word for the faction
+    Range,    ///< in the user's language
     Diapazon, ///< the game's number for the range
     TimeToCommand,
     Count

@@ -13,6 +13,12 @@ bool CliPlatform::AskYesNo(const QString& title, const QString& text) {
     return true;
 }
 
+int CliPlatform::Ask(const Question& question) {
+    if (!question.ofDialog)
+        messages.push_back({BoxIcon::Question, question.title, question.text});
+    return question.answerOfScript;
+}
+
 QString CliPlatform::ProgramFolder() const {
     return QCoreApplication::applicationDirPath();
 }

@@ -13,6 +13,7 @@ class CliPlatform : public Platform {
 public:
     void ShowMessage(BoxIcon icon, const QString& title, const QString& text) override;
     bool AskYesNo(const QString& title, const QString& text) override;
+    int Ask(const Question& question) override;
     bool ShowOpenDialog(FileDialog& dialog) override { return Answer(dialog); }
     bool ShowSaveDialog(FileDialog& dialog) override { return Answer(dialog); }
     void SetFocus(Control& control) override { focus = control.Name(); }
@@ -23,6 +24,7 @@ public:
     QStringList CalculatorNames() const override { return {}; }
     QString ProgramFolder() const override;
     QString SettingsFolder() const override { return SettingsFolderOfUser(); }
+    QString DataFolder() const override { return DataFolderOfUser(); }
     void EndProcess() override {}
 
     /// What the next file dialog gives; none: it is cancelled.

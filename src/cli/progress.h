@@ -4,8 +4,8 @@
 
 namespace Hesperin {
 
-/// Tells on standard error how far a run over many files has come, where that is a terminal and the run takes
-/// longer than half a second.
+/// Tells on standard error how far a run over many files has come, where that is a terminal and the
+/// run takes longer than half a second.
 class Progress {
 public:
     explicit Progress(qsizetype count);

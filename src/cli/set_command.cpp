@@ -55,13 +55,15 @@ void DescribeSet(QCommandLineParser& parser) {
     parser.addOption({WriteOption, QStringLiteral("Writes the files that change.")});
     parser.addOption({DiffOption, QStringLiteral("Prints the changed lines as diff -u does.")});
     parser.addOption({JsonOption, QStringLiteral("One JSON object a line and file.")});
-    parser.addOption({AnyWordOption, QStringLiteral("Adds also items that the game doesn't know.")});
+    parser.addOption(
+        {AnyWordOption, QStringLiteral("Adds also items that the game doesn't know.")});
     parser.addOption({ScaleOption,
                       QStringLiteral("Divides computed figures by the scale of the mod there."),
                       QStringLiteral("PATH")});
 }
 
-/// Splits the arguments into changes and paths: all up to the first without "=" are changes, or all in front of
+/// Splits the arguments into changes and paths: all up to the first without "=" are changes, or all
+/// in front of
 /// "--" where there is one.
 qsizetype CountChanges(const QStringList& arguments) {
     const QStringList all = QCoreApplication::arguments();
@@ -150,16 +152,18 @@ private:
 
     QString Summary() const {
         const auto count = [](std::size_t number, const char* one) {
-            return QStringLiteral("%1 %2%3")
-                .arg(number)
-                .arg(QLatin1String(one), number == 1 ? QLatin1String() : QLatin1String("s"));
+            return QStringLiteral("%1 %2%3").arg(number).arg(
+                QLatin1String(one), number == 1 ? QLatin1String() : QLatin1String("s"));
         };
-        const QString what = count(changes, "change") + QLatin1String(" in ") +
-                             count(changedFiles, "file");
-        const QString done = write ? what + QLatin1String(" written")
-                                   : what + QLatin1String("; --write writes them");
-        return failed == 0 ? done : done + QLatin1String(", ") + count(failed, "file") +
-                                        QLatin1String(" failed");
+        QString text = changes == 0
+                           ? QStringLiteral("Nothing changes.")
+                           : count(changes, "change") + QLatin1String(" in ") +
+                                 count(changedFiles, "file") +
+                                 (write ? QLatin1String(" written.")
+                                        : QLatin1String("; nothing is written without --write."));
+        if (failed > 0)
+            text += u' ' + count(failed, "file") + QLatin1String(" failed.");
+        return text;
     }
 
     const FileChanger changer;

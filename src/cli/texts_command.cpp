@@ -95,8 +95,7 @@ AbilityTable FindTable(const TextSources& sources, const Messages& messages) {
     auto table = ReadAbilityTable(file.bytes);
     if (table)
         return std::move(*table);
-    Complain(
-        QStringLiteral("%1: %2: %3").arg(file.from, name, ErrorReason(messages, table.Why())));
+    Complain(QStringLiteral("%1: %2: %3").arg(file.from, name, ErrorReason(messages, table.Why())));
     return {};
 }
 
@@ -143,8 +142,9 @@ std::vector<FoundFile> FindAll(const std::vector<AbilityText>& texts, const Text
     std::vector<FoundFile> all;
     std::optional<AbilityTable> table;
     for (const AbilityText& text : texts) {
-        FoundFile found = Find(AbilityTextLevels() + QStringList{text.folder, text.file},
-                               LargestAbilityText, text.folder + u'/' + text.file, sources, messages);
+        FoundFile found =
+            Find(AbilityTextLevels() + QStringList{text.folder, text.file}, LargestAbilityText,
+                 text.folder + u'/' + text.file, sources, messages);
         if (found.from.isEmpty()) {
             if (!table)
                 table = FindTable(sources, messages);

@@ -60,9 +60,8 @@ Failure CheckItem(const Change& change, const ListItem& item) {
     }
     if (auto failure = CheckWord(change, item.word, KnownWords(change.name)))
         return failure;
-    return item.mastery.isEmpty()
-               ? Failure()
-               : CheckWord(change, item.mastery, ListOf(MasteryTokens(), 0));
+    return item.mastery.isEmpty() ? Failure()
+                                  : CheckWord(change, item.mastery, ListOf(MasteryTokens(), 0));
 }
 
 Failure ApplyToList(const Change& change, bool anyWord, EditedFile& file) {
@@ -112,9 +111,10 @@ Failure Reckon(const Change& change, EditedFile& file) {
             error.value = content->value_or(QString());
         return error;
     }
-    const std::int64_t result = change.does == Change::Does::Multiply
-                                    ? Product(*whole, *number)
-                                    : Sum(*whole, *number, change.does == Change::Does::Add ? 1 : -1);
+    const std::int64_t result =
+        change.does == Change::Does::Multiply
+            ? Product(*whole, *number)
+            : Sum(*whole, *number, change.does == Change::Does::Add ? 1 : -1);
     if (result < 0) {
         Error error = Refusal(Error::What::BelowZero, change);
         error.value = QString::number(result);

@@ -13,8 +13,8 @@ struct Change {
     QString operand;
 };
 
-/// The change that `text` says: name, "=", "+=", "-=" or "*=", operand. The first "=" ends the name. None when
-/// there is no "=" or no name.
+/// The change that `text` says: name, "=", "+=", "-=" or "*=", operand. The first "=" ends the
+/// name. None when there is no "=" or no name.
 std::optional<Change> ReadChange(const QString& text);
 
 /// A figure that an element is to get when all other changes have been made.
@@ -27,8 +27,8 @@ struct ComputedChange {
 /// The figure that the change asks for ("Power=average"); none for any other change.
 std::optional<ComputedChange> ReadComputed(const Change& change);
 
-/// Makes the change. `anyWord`: items need not be in the catalogue. Gives what is told of a change that was
-/// made (a town that the game doesn't know) in `notes`.
+/// Makes the change. `anyWord`: items need not be in the catalogue. Gives what is told of a change
+/// that was made (a town that the game doesn't know) in `notes`.
 Failure Apply(const Change& change, bool anyWord, EditedFile& file, std::vector<Error>& notes);
 
 /// Whether an element of the format takes a whole number, or true or false.

@@ -9,14 +9,19 @@ Result<QString> NormaliseCreature(const QByteArray& bytes) {
     return NormaliseXml(bytes, u"Creature", LongestCreatureText);
 }
 
-Result<QString> LoadCreatureDocument(const QString& path) {
-    const auto bytes = ReadFile(path, LargestCreatureFile);
-    auto document = bytes ? NormaliseCreature(*bytes) : Result<QString>(bytes.Why());
-    if (!document) {
-        document.Why().file = path;
-        document.Why().doing = Error::Doing::Opening;
-    }
-    return document;
+Result<CreatureDocument> LoadCreatureDocument(const QString& path) {
+    const auto refused = [&path](Error error) {
+        error.file = path;
+        error.doing = Error::Doing::Opening;
+        return error;
+    };
+    auto bytes = ReadFile(path, LargestCreatureFile);
+    if (!bytes)
+        return refused(bytes.Why());
+    auto text = NormaliseCreature(*bytes);
+    if (!text)
+        return refused(text.Why());
+    return CreatureDocument{std::move(*bytes), std::move(*text)};
 }
 
 } // namespace Hesperin

@@ -15,7 +15,12 @@ inline constexpr qsizetype LongestCreatureText = 32767;
 /// The normalised text of a creature document given as the bytes of its file.
 Result<QString> NormaliseCreature(const QByteArray& bytes);
 
-/// The normalised text of the creature file `path`. The error names it.
-Result<QString> LoadCreatureDocument(const QString& path);
+struct CreatureDocument {
+    QByteArray bytes; ///< of the file
+    QString text;     ///< normalised
+};
+
+/// The creature file `path`. The error names it.
+Result<CreatureDocument> LoadCreatureDocument(const QString& path);
 
 } // namespace Hesperin

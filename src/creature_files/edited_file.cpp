@@ -141,8 +141,9 @@ Result<QString> EditedFile::CurrentValue(const Target& target) const {
     const ElementPlace& place = elements[static_cast<std::size_t>(target.element)];
     for (const AttributePlace& attribute : AttributesOf(document.Text(), place.startTag))
         if (attribute.name == target.attribute) {
-            const auto value = Resolved(QStringView(document.Text())
-                                            .sliced(attribute.value.start, attribute.value.Length()));
+            const auto value =
+                Resolved(QStringView(document.Text())
+                             .sliced(attribute.value.start, attribute.value.Length()));
             return value ? Result(*value) : Error{Error::What::FromEntity, target.path};
         }
     return QString();

@@ -35,8 +35,9 @@ public:
     /// Refuses what the reader of creature files refuses, and an encoding that can't be written.
     static Result<EditedFile> Open(const QByteArray& bytes);
 
-    /// The content of an element or attribute as it stands after the changes so far, white space around it
-    /// left out; none when the format knows it and the file lacks it. `name`: a path below Creature
+    /// The content of an element or attribute as it stands after the changes so far, white space
+    /// around it left out; none when the format knows it and the file lacks it. `name`: a path
+    /// below Creature
     /// ("Cost/Gold"), or a last name that occurs once, behind it "@" and the name of an attribute.
     Result<std::optional<QString>> Content(const QString& name) const;
 
@@ -49,8 +50,8 @@ public:
     /// The items of the list Abilities, KnownSpells or Upgrades after the changes so far.
     Result<std::vector<ListItem>> Items(const QString& list) const;
 
-    /// Adds an item as the last one. One that is there, letter case not counting, stays, in KnownSpells with
-    /// the mastery given.
+    /// Adds an item as the last one. One that is there, letter case not counting, stays, in
+    /// KnownSpells with the mastery given.
     Failure AddItem(const QString& list, const ListItem& item);
 
     /// Takes away every item of that word, and of that mastery where one is given.
@@ -62,9 +63,13 @@ public:
     /// The edits behind the changes.
     Result<std::vector<Edit>> Edits() const;
 
-    /// The bytes with all changes in them. They have been read again: well-formed, and other than the old
-    /// ones in the changes alone (else Error::What::UnsafeEdit).
+    /// The bytes with all changes in them. They have been read again: well-formed, and other than
+    /// the old ones in the changes alone (else Error::What::UnsafeEdit).
     Result<QByteArray> Write() const;
+
+    /// The contents of all elements and attributes of a creature file, each as "path=content", in
+    /// the order of the file. Lists of items, which are empty or not, don't count by themselves.
+    static Result<QStringList> ContentsOf(const QByteArray& bytes);
 
     /// Whether `name` is one of the three lists of items.
     static bool IsList(const QString& name);
@@ -81,7 +86,7 @@ private:
     };
 
     struct ItemState {
-        int element = None;         ///< None: a new one
+        int element = None;          ///< None: a new one
         std::optional<ListItem> was; ///< in the file
         std::optional<ListItem> now; ///< none: it goes
     };
@@ -127,11 +132,11 @@ private:
     QByteArray bytes;
     DocumentText document;
     std::vector<ElementPlace> elements;
-    std::map<int, QString> contents;                     ///< new ones, by element
+    std::map<int, QString> contents;                       ///< new ones, by element
     std::map<std::pair<int, QString>, QString> attributes; ///< new ones
-    std::map<const Element*, QString> missing;           ///< contents of elements that are added
-    std::map<QString, ListState> lists;                  ///< those that were looked at for a change
-    QStringList order;                                   ///< paths and lists as they were changed
+    std::map<const Element*, QString> missing;             ///< contents of elements that are added
+    std::map<QString, ListState> lists; ///< those that were looked at for a change
+    QStringList order;                  ///< paths and lists as they were changed
 };
 
 } // namespace Hesperin

@@ -1,5 +1,5 @@
-// The elements of a creature file, each with what it says of a creature: the one list of them. Its order is
-// that of the writer.
+// The elements of a creature file, each with what it says of a creature: the one list of them. Its
+// order is that of the writer.
 #pragma once
 
 #include "catalogue/parameters.h"

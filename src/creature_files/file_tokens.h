@@ -2,8 +2,8 @@
 // at its first use, for the life of the process.
 #pragma once
 
-#include "catalogue/spell_catalogue.h"
 #include "catalogue/ability_index.h"
+#include "catalogue/spell_catalogue.h"
 
 #include <QString>
 

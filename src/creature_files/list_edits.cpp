@@ -169,8 +169,7 @@ QString EditedFile::ItemMarkup(const ListItem& item, const ListState& list,
     }
     return separator + QLatin1String("<Item>") + inner + QLatin1String("<Spell>") +
            spelled(item.word) + QLatin1String("</Spell>") + inner + QLatin1String("<Mastery>") +
-           spelled(item.mastery) + QLatin1String("</Mastery>") + closing +
-           QLatin1String("</Item>");
+           spelled(item.mastery) + QLatin1String("</Mastery>") + closing + QLatin1String("</Item>");
 }
 
 /// An item goes with its whole line where it has one to itself.
@@ -182,11 +181,11 @@ void EditedFile::RemoveItem(const ElementPlace& item, const ElementPlace& list,
     qsizetype after = span.end;
     while (after < list.content.end && (text[after] == u' ' || text[after] == u'\t'))
         ++after;
-    const bool endsLine =
-        after == list.content.end || text[after] == u'\n' || text[after] == u'\r';
+    const bool endsLine = after == list.content.end || text[after] == u'\n' || text[after] == u'\r';
     const bool beginsLine = indent.contains(u'\n');
     if (beginsLine == endsLine)
-        span = {span.start - indent.size(), endsLine && after < list.content.end ? after : span.end};
+        span = {span.start - indent.size(),
+                endsLine && after < list.content.end ? after : span.end};
     else if (beginsLine) // what follows on the line takes its place
         span.end = after;
     else

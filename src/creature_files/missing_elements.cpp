@@ -1,4 +1,5 @@
-// The elements of the format that a file lacks and an edit in place adds; and the check of what came out.
+// The elements of the format that a file lacks and an edit in place adds; and the check of what
+// came out.
 #include "creature_files/edited_file.h"
 
 #include "creature_files/document.h"
@@ -8,8 +9,8 @@
 
 namespace Hesperin {
 
-/// Puts the markup behind the nearest element before `format` in the writer's order, within the same
-/// parent; as the first child where there is none.
+/// Puts the markup behind the nearest element before `format` in the writer's order, within the
+/// same parent; as the first child where there is none.
 void EditedFile::AddElement(const Element& format, const QString& markup,
                             std::vector<Edit>& edits) const {
     constexpr int root = 0;
@@ -20,7 +21,7 @@ void EditedFile::AddElement(const Element& format, const QString& markup,
             break;
         // A group stands among its parent's children where its elements stand in the format.
         const bool inside = element.parent == format.parent;
-        const QStringView name = inside ? element.name
+        const QStringView name = inside                    ? element.name
                                  : format.parent.isEmpty() ? element.parent
                                                            : QStringView();
         const int known = name.isEmpty() ? None : ChildOf(parent, name);
@@ -53,8 +54,8 @@ void EditedFile::AddMissingEdits(std::vector<Edit>& edits) const {
             continue;
         const auto markupOf = [](const Element& element, const QString& content) {
             const QString name = element.name.toString();
-            return u'<' + name + u'>' + Escaped(content, Escape::Content) +
-                   QLatin1String("</") + name + u'>';
+            return u'<' + name + u'>' + Escaped(content, Escape::Content) + QLatin1String("</") +
+                   name + u'>';
         };
         constexpr int root = 0;
         if (format.parent.isEmpty() || ChildOf(root, format.parent) != None) {
@@ -86,8 +87,7 @@ void EditedFile::AddMissingEdits(std::vector<Edit>& edits) const {
             AddElement(Elements.front(), markup, edits);
         } else {
             const QStringView name = before->parent.isEmpty() ? before->name : before->parent;
-            const ElementPlace& anchor =
-                elements[static_cast<std::size_t>(ChildOf(root, name))];
+            const ElementPlace& anchor = elements[static_cast<std::size_t>(ChildOf(root, name))];
             Replace({anchor.end, anchor.end}, IndentBefore(anchor.startTag.start) + markup, edits);
         }
     }
@@ -108,11 +108,7 @@ void EditedFile::AddMissingList(const QString& list, const ListState& state,
             AddElement(format, markup, edits);
 }
 
-namespace {
-
-/// The contents of all elements and attributes of a document, each as "path=content", sorted. Lists of
-/// items, which are empty or not, don't count by themselves.
-Result<QStringList> ContentsOf(const QByteArray& bytes) {
+Result<QStringList> EditedFile::ContentsOf(const QByteArray& bytes) {
     const auto decoded = NormaliseCreature(bytes);
     if (!decoded)
         return decoded.Why();
@@ -128,23 +124,21 @@ Result<QStringList> ContentsOf(const QByteArray& bytes) {
                                  : paths[element.parent] + u'/' + element.name.toString();
         paths.append(path);
         for (const AttributePlace& attribute : AttributesOf(text, element.startTag))
-            contents.append(path + u'@' + attribute.name.toString() + u'=' +
-                            text.sliced(attribute.value.start, attribute.value.Length()).toString());
-        const bool counts = element.children == 0 && !EditedFile::IsList(path);
+            contents.append(
+                path + u'@' + attribute.name.toString() + u'=' +
+                text.sliced(attribute.value.start, attribute.value.Length()).toString());
+        const bool counts = element.children == 0 && !IsList(path);
         if (counts && element.parent >= 0)
             contents.append(path + u'=' +
                             Resolved(text.sliced(element.content.start, element.content.Length()))
                                 .value_or(QString())
                                 .trimmed());
     }
-    contents.sort();
     return contents;
 }
 
-} // namespace
-
 Failure EditedFile::Check(const QByteArray& edited) const {
-    const auto after = ContentsOf(edited);
+    auto after = ContentsOf(edited);
     auto before = ContentsOf(bytes);
     if (!after || !before)
         return after ? before.Why() : after.Why();
@@ -163,9 +157,9 @@ Failure EditedFile::Check(const QByteArray& edited) const {
                 if (!value)
                     return std::optional<QString>();
                 return std::optional(
-                    isAttribute ? Escaped(*value, Escape::Attribute)
-                                      .replace(u'>', QLatin1String("&gt;"))
-                                : value->trimmed());
+                    isAttribute
+                        ? Escaped(*value, Escape::Attribute).replace(u'>', QLatin1String("&gt;"))
+                        : value->trimmed());
             };
             replace(change.element, spelled(change.old), spelled(change.now));
             continue;
@@ -182,6 +176,7 @@ Failure EditedFile::Check(const QByteArray& edited) const {
                 part(change.now, 1));
     }
     before->sort();
+    after->sort();
     if (allFound && *before == *after)
         return {};
     return Error{Error::What::UnsafeEdit};

@@ -144,8 +144,7 @@ private:
 
     void ReadSize(const Element& element, const Tags& tags) {
         constexpr std::int16_t sizeOfLargeCreatures = 2;
-        creature.Set(Ability::LargeCreature,
-                     Number(element, tags) == sizeOfLargeCreatures);
+        creature.Set(Ability::LargeCreature, Number(element, tags) == sizeOfLargeCreatures);
     }
 
     /// The list that shows, in the user's language, what `list` holds in the game's words.
@@ -155,8 +154,8 @@ private:
                                              : ListField::Count;
     }
 
-    /// Chooses the first entry that the text behind the opening tag begins with. An element of magic that
-    /// stands in both lists stays in the first.
+    /// Chooses the first entry that the text behind the opening tag begins with. An element of
+    /// magic that stands in both lists stays in the first.
     void ReadEntry(const Element& element, const Tags& tags) {
         NoteIfMissing(element, tags);
         const auto entries = ListCatalogue[element.list].entries;
@@ -166,7 +165,8 @@ private:
                 continue;
             const bool twice = element.list == ListField::SecondElement && index > 0 &&
                                creature.Choices[ListField::FirstElement].text == entries[index];
-            creature.Choose(element.list, twice ? std::int16_t{0} : static_cast<std::int16_t>(index));
+            creature.Choose(element.list,
+                            twice ? std::int16_t{0} : static_cast<std::int16_t>(index));
             if (const ListField twin = TwinOf(element.list); twin != ListField::Count)
                 creature.Choose(twin, static_cast<std::int16_t>(index));
             return;
@@ -229,7 +229,8 @@ private:
         }
     }
 
-    /// The first nature in the order of the abilities; a creature without any is of flesh and blood.
+    /// The first nature in the order of the abilities; a creature without any is of flesh and
+    /// blood.
     void KeepOneNature() {
         bool found = false;
         for (const int nature : NatureGroup) {

@@ -23,13 +23,13 @@ struct ReadCreature {
     FileFigures figures;
     QStringList missing; ///< names of elements, in the order of reading
     std::vector<LimitedNumber> limited;
-    QString spellExcerpt;       ///< the part of the file that the last spell's mastery was looked for in
+    QString spellExcerpt; ///< the part of the file that the last spell's mastery was looked for in
     QString specabilityExcerpt; ///< the same for the last special ability
 };
 
-/// Reads the normalised text of a creature file over `cleared`, a creature without any tick: what the file
-/// lacks keeps its state. Ticks follow the same rules as a user's: linked boxes, one nature, and the
-/// charge counter counts on from that of `cleared`.
+/// Reads the normalised text of a creature file over `cleared`, a creature without any tick: what
+/// the file lacks keeps its state. Ticks follow the same rules as a user's: linked boxes, one
+/// nature, and the charge counter counts on from that of `cleared`.
 ReadCreature ReadCreatureText(const QString& text, const Creature& cleared);
 
 } // namespace Hesperin

@@ -53,7 +53,8 @@ std::int16_t FindToken(ScanPositions& positions, const TextBuffer& buffer, QStri
     return Find(buffer, token, positions.TokenPosition);
 }
 
-std::int16_t FindSpecabilityToken(ScanPositions& positions, const TextBuffer& buffer, QStringView token) {
+std::int16_t FindSpecabilityToken(ScanPositions& positions, const TextBuffer& buffer,
+                                  QStringView token) {
     return Find(buffer, token, positions.SpecabilityTokenPosition);
 }
 

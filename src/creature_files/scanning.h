@@ -42,8 +42,8 @@ std::int16_t FindSpecabilityToken(ScanPositions& positions, const TextBuffer& bu
                                   QStringView token);
 
 /// The mastery level, 0 to 4, by the word behind "MASTERY_" at the first occurrence of `token`,
-/// which begins with it; -1 when the token or its word isn't there. The buffer holds an excerpt of the
-/// file, the window that begins at a spell's token.
+/// which begins with it; -1 when the token or its word isn't there. The buffer holds an excerpt of
+/// the file, the window that begins at a spell's token.
 std::int16_t MasteryInSpellWindow(const TextBuffer& buffer, QStringView token);
 
 /// The same for the excerpt that begins at a special ability.

@@ -109,28 +109,12 @@ private:
 
     QString Content(const Element& element) const {
         switch (element.says) {
-        case Says::Number:
-            return creature.Numbers[element.field];
-        case Says::Supply:
-            return TextOrDefault(creature.Numbers[element.field], QStringLiteral("0"));
-        case Says::ListNumber:
-            return creature.Choices[element.list].text;
-        case Says::ListEntry:
-            return element.text.toString() + creature.Choices[element.list].text.toUpper();
-        case Says::ListFlag:
-            return creature.Choices[element.list].text.toLower();
-        case Says::Flyer:
-            return FlagText(creature.Has(Ability::Flyer));
-        case Says::Size:
-            return QString::number(creature.Has(Ability::LargeCreature) ? 2 : 1);
         case Says::Charges:
             return QString::number(Charged() ? creature.SpellPoints1Count : 0);
-        case Says::Inferno:
-            return QString::number(creature.Choices[ListField::Alias].text == u"INFERNO" ? 1 : 0);
         case Says::Growth:
             return WholeText(weeklyGrowth);
         default:
-            return element.text.toString();
+            return ContentFor(element, creature);
         }
     }
 
@@ -152,7 +136,8 @@ private:
             return;
         lines.Add(2, u"<Item>");
         lines.AddElement(3, u"Spell", token);
-        lines.AddElement(3, u"Mastery", MasteryTokens().at(static_cast<std::size_t>(skill.mastery)));
+        lines.AddElement(3, u"Mastery",
+                         MasteryTokens().at(static_cast<std::size_t>(skill.mastery)));
         lines.Add(2, u"</Item>");
     }
 
@@ -181,6 +166,32 @@ private:
 CreatureText BuildCreatureText(const Creature& creature, const QString& fileName,
                                double weeklyGrowth) {
     return Composition(creature, fileName, weeklyGrowth).Compose();
+}
+
+QString ContentFor(const Element& element, const Creature& creature) {
+    switch (element.says) {
+    case Says::Number:
+    case Says::Growth:
+        return creature.Numbers[element.field];
+    case Says::Supply:
+        return TextOrDefault(creature.Numbers[element.field], QStringLiteral("0"));
+    case Says::ListNumber:
+        return creature.Choices[element.list].text;
+    case Says::ListEntry:
+        return element.text.toString() + creature.Choices[element.list].text.toUpper();
+    case Says::ListFlag:
+        return creature.Choices[element.list].text.toLower();
+    case Says::Flyer:
+        return FlagText(creature.Has(Ability::Flyer));
+    case Says::Size:
+        return QString::number(creature.Has(Ability::LargeCreature) ? 2 : 1);
+    case Says::Charges:
+        return QString::number(ChargesOf(creature));
+    case Says::Inferno:
+        return QString::number(creature.Choices[ListField::Alias].text == u"INFERNO" ? 1 : 0);
+    default:
+        return element.text.toString();
+    }
 }
 
 QByteArray CreatureFileBytes(const QString& text) {

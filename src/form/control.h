@@ -114,8 +114,8 @@ private:
     ControlView* view = nullptr;
 };
 
-/// What runs, nested inside the setter, when the state of a box or the choice in a list has really changed,
-/// whether the user or a program step changed it.
+/// What runs, nested inside the setter, when the state of a box or the choice in a list has really
+/// changed, whether the user or a program step changed it.
 using ChangeRule = std::function<void()>;
 
 /// What the user's click has done. Gives what could not be done; the user has been told.

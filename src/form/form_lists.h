@@ -41,7 +41,8 @@ inline constexpr EnumArray<ListField, ComboBox MainForm::*> ListFields{{{
     &MainForm::ComboTTC,
 }}};
 
-/// A label that shows a figure, in the frame that names the figure, under the heading that names the method.
+/// A label that shows a figure, in the frame that names the figure, under the heading that names
+/// the method.
 struct ResultPlace {
     Label MainForm::*heading;
     Frame MainForm::*frame;

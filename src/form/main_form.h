@@ -26,6 +26,7 @@ struct MainForm : ControlRegistry {
     MenuEntry mnuNew{*this, "mnuNew", "Ctrl+N"};
     MenuEntry mnuOpen{*this, "mnuOpen", "Ctrl+O"};
     MenuEntry mnuSave{*this, "mnuSave", "Ctrl+S"};
+    MenuEntry mnuUpdate{*this, "mnuUpdate", "Ctrl+U"};
     MenuEntry mnuQuit{*this, "mnuQuit", "Ctrl+Q"};
     MenuEntry mnuOptions{*this, "mnuOptions"};
     MenuEntry mnuLanguage{*this, "mnuLanguage"};
@@ -158,16 +159,17 @@ struct MainForm : ControlRegistry {
     Frame FrameCostD{*this, "FrameCostD"};
     Label lblCostD{*this, "lblCostD"};
 
-    // The check-box pages; the caption of each box is the game's token. `soq` are the mastery selectors
-    // of the spells, `saz` those of the special abilities (which end in the inert one at 0).
+    // The check-box pages; the caption of each box is the game's token. `soq` are the mastery
+    // selectors of the spells, `saz` those of the special abilities (which end in the inert one at
+    // 0).
     ControlArray<CheckBox, 1, Ability::Count> Abilities{*this, "Abilities"};
     ControlArray<CheckBox, 1, SpellCount> Spells{*this, "Spells"};
     ControlArray<MultiOption, 1, SpellCount> soq{*this, "soq"};
     ControlArray<CheckBox, 0, SpecabilityCount> Specabilities{*this, "Specabilities"};
     ControlArray<MultiOption, 0, SpecabilityCount> saz{*this, "saz"};
 
-    // The text on the page of the file, and the parts of it that the reader looked for a mastery in last: of
-    // a spell, of a special ability.
+    // The text on the page of the file, and the parts of it that the reader looked for a mastery in
+    // last: of a spell, of a special ability.
     StoredText RTBData{*this, "RTBData"};
     StoredText RTBTEMP{*this, "RTBTEMP"};
     StoredText RTBSPEC{*this, "RTBSPEC"};

@@ -43,9 +43,10 @@ struct AbilityWords {
     QString description;
 };
 
-/// Name and description of every ability, from 1, from the language's text trees in the user's folder and
-/// beside the program; a text that lies in both is taken from the user's. A missing or unreadable file
-/// gives an empty text; one line end at the end of a name is dropped. `languageCode`: "EN", "RU", ...
+/// Name and description of every ability, from 1, from the language's text trees in the user's
+/// folder and beside the program; a text that lies in both is taken from the user's. A missing or
+/// unreadable file gives an empty text; one line end at the end of a name is dropped.
+/// `languageCode`: "EN", "RU", ...
 std::array<AbilityWords, Ability::Count + 1> LoadAbilityTexts(const QString& languageCode,
                                                               const ProgramPlaces& places);
 

@@ -1,10 +1,10 @@
 #include "game_texts/text_source.h"
 
 #include "game_texts/ability_table.h"
-#include "system/zip_archive.h"
 #include "game_texts/ability_texts.h"
 #include "system/path_lookup.h"
 #include "system/read_file.h"
+#include "system/zip_archive.h"
 
 #include <QFileInfo>
 

@@ -14,6 +14,7 @@ constexpr CaptionRow Captions[] = {
     {"mnuNew",                        {u"New",                u"Создать",              u"Nouveau",      u"Neue"}},
     {"mnuOpen",                       {u"Open...",            u"Открыть...",           u"Ouvrir...",    u"Цffnen..."}},
     {"mnuSave",                       {u"Save",               u"Сохранить",            u"Sauvegarder",  u"Speichern"}},
+    {"mnuUpdate",                     {u"Update",             u"Обновить",             nullptr,         nullptr}},
     {"mnuQuit",                       {u"Quit",               u"Выход",                u"Quitter",      u"Beenden"}},
     {"mnuOptions",                    {u"Options",            u"Опции",                u"Options",      u"Optionen"}},
     {"mnuCalculator",                 {u"Calculator",         u"Калькулятор",          u"Calculatrice", u"Rechner"}},

@@ -19,7 +19,8 @@ extern const std::span<const Texts> RangeRows;   ///< by entry of ComboRange
 /// Tool tip of lblValuesA, whose caption is shorter.
 extern const Texts AverageToolTip;
 
-/// The captions of the control of that name in all languages; null when they don't follow the language.
+/// The captions of the control of that name in all languages; null when they don't follow the
+/// language.
 const Texts* CaptionsOf(QLatin1String control);
 
 /// The caption in one language, 1 to 4; empty when there is none.

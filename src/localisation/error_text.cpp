@@ -50,7 +50,7 @@ constexpr QString Messages::*Sentences[] = {
     &Messages::MsgNoScale,
     &Messages::MsgCantBeSpelled,
     &Messages::MsgUnsafeEdit,
-    &Messages::MsgConflict,
+    &Messages::MsgUpdateConflicts,
 };
 static_assert(std::size(Sentences) == static_cast<std::size_t>(What::Conflict) + 1);
 
@@ -78,7 +78,8 @@ QString ErrorReason(const Messages& messages, const Error& error) {
     const QString value = error.what == What::NotWellFormed ? ParserWords(messages, error.value)
                           : error.value.isEmpty()           ? error.expected
                                                             : error.value;
-    return Fill(messages.*Sentences[static_cast<std::size_t>(error.what)], {value, error.expected, error.element}) +
+    return Fill(messages.*Sentences[static_cast<std::size_t>(error.what)],
+                {value, error.expected, error.element}) +
            Place(messages, error);
 }
 

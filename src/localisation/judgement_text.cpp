@@ -8,7 +8,8 @@ namespace {
 
 using Corrected = Correction::What;
 
-/// How a warning names the field of a value. `fixed` is the whole warning, the same in every language.
+/// How a warning names the field of a value. `fixed` is the whole warning, the same in every
+/// language.
 struct Naming {
     const char* control; ///< whose caption names it, behind ...
     bool ofDamage;       ///< ... "Min damage" out of the captions "min" and "Damage"

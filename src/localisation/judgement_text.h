@@ -11,8 +11,8 @@ namespace Hesperin {
 /// Caption of the control of that name.
 using CaptionLookup = std::function<QString(QLatin1String control)>;
 
-/// The warning of a corrected value, which names the field by its caption. Those of speed, initiative and
-/// tier are the same in every language.
+/// The warning of a corrected value, which names the field by its caption. Those of speed,
+/// initiative and tier are the same in every language.
 QString CorrectionText(const Messages& messages, const CaptionLookup& caption,
                        const Correction& correction);
 

@@ -1,4 +1,5 @@
-// The words of the program that follow the language, shown letter for letter as they stand in the table.
+// The words of the program that follow the language, shown letter for letter as they stand in the
+// table.
 #pragma once
 
 #include <QString>
@@ -78,7 +79,6 @@ struct Messages {
     QString MsgNoScale;
     QString MsgCantBeSpelled;
     QString MsgUnsafeEdit;
-    QString MsgConflict;
     QString MsgAtLineAlone;
     QString MsgSavedBut;
     QString MsgOtherNamesKeepOld;
@@ -86,6 +86,23 @@ struct Messages {
     QString MsgMayNotLast;
     QString MsgNoCalculator;
     QString MsgLockOfOtherHost;
+    QString MsgUpdateChanges;
+    QString MsgUpdateLeftAlone;
+    QString MsgUpdateName;
+    QString MsgUpdateNothing;
+    QString MsgUpdateConflict;
+    QString MsgUpdateConflicts;
+    QString MsgReplace;
+    QString MsgReplaceLoses;
+    QString MsgReplaceChanged;
+    QString MsgReplaceCopy;
+    QString MsgNoCopy;
+    QString MsgReplaceTitle;
+    QString MsgUpdateTitle;
+    QString MsgWrite;
+    QString MsgReplaceIt;
+    QString MsgUpdateIt;
+    QString MsgCancel;
     QString MsgYes;
     QString MsgNo;
 
@@ -107,7 +124,8 @@ struct MessageRow {
 
 extern const std::span<const MessageRow> MessageRows;
 
-/// Sets every message that the language has. `languageId`: 1 English, 2 Russian, 3 French, 4 German.
+/// Sets every message that the language has. `languageId`: 1 English, 2 Russian, 3 French, 4
+/// German.
 void SetMessages(Messages& messages, std::uint8_t languageId);
 
 /// The messages of a language and nothing else.

@@ -1,4 +1,5 @@
-// The titles that the main window can bear beside the program's own (VersionRecord::TitleAndVersion).
+// The titles that the main window can bear beside the program's own
+// (VersionRecord::TitleAndVersion).
 #pragma once
 
 #include "localisation/messages.h"
@@ -9,8 +10,8 @@ namespace Hesperin {
 /// The figures of an open file alone, the same words in every language.
 QString FileTitle(const QString& name, const FileFigures& file);
 
-/// Each figure of the open file beside the computed average in braces. The averages are formed anew from
-/// the results of the two methods, so that Experience follows the current Power and tier.
+/// Each figure of the open file beside the computed average in braces. The averages are formed anew
+/// from the results of the two methods, so that Experience follows the current Power and tier.
 QString SummaryTitle(const Messages& messages, const QString& name, const FileFigures& file,
                      std::int16_t tier, const Powers& powers, const Figures& figures);
 

@@ -13,9 +13,8 @@ std::int16_t AdviseTier(double power) {
 
 Advice AdviseOn(const Parameters& parameters, double powerAverage) {
     const auto tier = static_cast<std::size_t>(parameters.Tier);
-    const std::int16_t reference = parameters.UpgradeFactor == PlainFactor
-                                       ? TierPower[tier]
-                                       : TierPowerUpgraded[tier];
+    const std::int16_t reference =
+        parameters.UpgradeFactor == PlainFactor ? TierPower[tier] : TierPowerUpgraded[tier];
     return {reference, static_cast<float>(powerAverage / reference), AdviseTier(powerAverage)};
 }
 

@@ -6,9 +6,8 @@ namespace Hesperin {
 
 void Creature::Choose(ListField list, std::int16_t index) {
     const auto entries = ListCatalogue[list].entries;
-    Choices[list] = {index, entries.empty()
-                                ? QString()
-                                : entries[static_cast<std::size_t>(index)].toString()};
+    Choices[list] = {index, entries.empty() ? QString()
+                                            : entries[static_cast<std::size_t>(index)].toString()};
 }
 
 Creature EmptyCreature() {

@@ -1,5 +1,5 @@
-// A creature as it was entered: the texts of its fields, its choices and its ticks. What the window edits,
-// files are read into and histories are made of.
+// A creature as it was entered: the texts of its fields, its choices and its ticks. What the window
+// edits, files are read into and histories are made of.
 #pragma once
 
 #include "catalogue/ability_index.h"
@@ -35,9 +35,10 @@ struct Creature {
     QString Id; ///< in the project TCX
     EnumArray<NumberField, QString> Numbers;
     EnumArray<ListField, Choice> Choices;
-    std::array<bool, Ability::Count + 1> Abilities{};           ///< from 1
-    std::array<Skill, SpellCount + 1> Spells{};                 ///< from 1
-    std::array<Skill, SpecabilityCount + 1> Specabilities{};    ///< from 1; the inert one at 0 never is
+    std::array<bool, Ability::Count + 1> Abilities{}; ///< from 1
+    std::array<Skill, SpellCount + 1> Spells{};       ///< from 1
+    std::array<Skill, SpecabilityCount + 1>
+        Specabilities{};                      ///< from 1; the inert one at 0 never is
     std::int16_t SpellPoints1Count = 0;       ///< charge counter of the click rules
     std::int16_t SpecabilityFlag = FlagFalse; ///< sense of the last click rule that wrote it
 
@@ -61,8 +62,8 @@ struct FileFigures {
 /// A creature of which nothing has been entered yet: initial choices, the number fields at 0.
 Creature EmptyCreature();
 
-/// 2 for each linked pair and 1 for each one-sided ability and special ability that the creature has: what
-/// the charge counter is as long as no change of language has set it to 0 in between.
+/// 2 for each linked pair and 1 for each one-sided ability and special ability that the creature
+/// has: what the charge counter is as long as no change of language has set it to 0 in between.
 std::int16_t ChargesOf(const Creature& creature);
 
 } // namespace Hesperin

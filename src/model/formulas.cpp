@@ -64,9 +64,9 @@ Powers ComputePowers(const Parameters& parameters) {
     Powers powers{};
     powers.OffenceScore = std::pow(1.035, parameters.Attack) * (damageSum / 2.0);
     powers.DefenceScore = std::pow(1.028, parameters.Defence) * parameters.Health;
-    powers.PowerHesperin = WholeValue(
-        std::sqrt(damageSum * static_cast<double>(DamageScale) * (parameters.Attack * 0.05 + 1) *
-                  parameters.Health * (parameters.Defence * 0.05 + 1) * parameters.Initiative * product));
+    powers.PowerHesperin = WholeValue(std::sqrt(
+        damageSum * static_cast<double>(DamageScale) * (parameters.Attack * 0.05 + 1) *
+        parameters.Health * (parameters.Defence * 0.05 + 1) * parameters.Initiative * product));
     powers.PowerRolvane = WholeValue(
         std::pow(powers.OffenceScore, Widen(exponents.ExponentOffence)) *
         std::pow(powers.DefenceScore / 4, Widen(exponents.ExponentDefence)) *

@@ -31,7 +31,8 @@ private:
     static std::int16_t Parameters::*Member(Parameter which);
 };
 
-/// The texts and ticks that validation looks at, wherever they are kept. The views must outlive its use.
+/// The texts and ticks that validation looks at, wherever they are kept. The views must outlive its
+/// use.
 struct EnteredParameters {
     QStringView Attack;
     QStringView Defence;
@@ -41,7 +42,7 @@ struct EnteredParameters {
     QStringView Speed;
     QStringView Initiative;
     QStringView Tier;
-    QStringView Mana; ///< counts for a caster only
+    QStringView Mana;  ///< counts for a caster only
     QStringView Shots; ///< counts for a shooter only
     bool Caster = false;
     bool Shooter = false;
@@ -78,18 +79,20 @@ struct Validated {
     std::vector<Correction> corrections;
 };
 
-/// A value of 0 or below becomes 1, one above its range the end of the range; a minimum damage above the
-/// maximum becomes the maximum. An empty field reads as 0. Mana and shots need only be above 0.
+/// A value of 0 or below becomes 1, one above its range the end of the range; a minimum damage
+/// above the maximum becomes the maximum. An empty field reads as 0. Mana and shots need only be
+/// above 0.
 Validated Validate(const EnteredParameters& entered);
 
 /// The parameters of a creature, with the product of its abilities' values.
 EnteredParameters EnteredOf(const Creature& creature);
 
-/// The upgrade factor behind the entry chosen in the list Upgrade: 1.0 for "False", 1.6 for any other text.
+/// The upgrade factor behind the entry chosen in the list Upgrade: 1.0 for "False", 1.6 for any
+/// other text.
 float UpgradeFactorOf(QStringView entry);
 
-/// Product of 174 values in the order of their abilities. It is a 32-bit float throughout, so the order is
-/// part of the result.
+/// Product of 174 values in the order of their abilities. It is a 32-bit float throughout, so the
+/// order is part of the result.
 float ProductOf(const std::array<float, Ability::Count + 1>& values);
 
 } // namespace Hesperin

@@ -146,8 +146,7 @@ void TellReading(CalcReport& report, const Messages& messages, std::uint8_t lang
     if (!evaluation.advice)
         show(BoxIcon::Critical, messages.MsgZeroPower);
     else if (evaluation.advice->AdvisedTier != tier)
-        show(BoxIcon::Information,
-             TierAdviceText(messages, tier, evaluation.advice->AdvisedTier));
+        show(BoxIcon::Information, TierAdviceText(messages, tier, evaluation.advice->AdvisedTier));
 }
 
 } // namespace
@@ -162,16 +161,15 @@ CalcReport CalculateFile(const QString& path, std::uint8_t languageId) {
             {BoxIcon::Critical, messages.WarningTitle, ErrorText(messages, document.Why())});
         return report;
     }
-    report.read = ReadCreatureText(*document, EmptyCreature());
+    report.read = ReadCreatureText(document->text, EmptyCreature());
     report.name = report.read.name.value_or(QStringLiteral("Test"));
     report.evaluation = Evaluate(EnteredOf(report.read.creature));
     TellReading(report, messages, languageId);
     const Evaluation& evaluation = report.evaluation;
-    report.title = evaluation.figures
-                       ? SummaryTitle(messages, report.name, report.read.figures,
-                                      evaluation.validated.parameters.Tier, evaluation.powers,
-                                      *evaluation.figures)
-                       : FileTitle(report.name, report.read.figures);
+    report.title = evaluation.figures ? SummaryTitle(messages, report.name, report.read.figures,
+                                                     evaluation.validated.parameters.Tier,
+                                                     evaluation.powers, *evaluation.figures)
+                                      : FileTitle(report.name, report.read.figures);
     return report;
 }
 
@@ -223,8 +221,8 @@ QString CalcTable(const CalcReport& report) {
         text += QStringLiteral("%1\n").arg(report.read.figures.*row.inFile, 10);
     }
     text += ListLine("Abilities", AbilityNames(creature));
-    text += QStringLiteral("  Product of their values: %1\n")
-                .arg(FloatText(parameters.AbilityProduct));
+    text +=
+        QStringLiteral("  Product of their values: %1\n").arg(FloatText(parameters.AbilityProduct));
     text += ListLine("Spells (mastery 0 to 4)", KnownText(creature.Spells, SpellToken));
     text += ListLine("Special abilities (mastery 0 to 4)",
                      KnownText(creature.Specabilities, SpecabilityToken));

@@ -13,9 +13,11 @@ QString ChangeLine(const FileChange& change) {
     if (change.old && change.now)
         return QStringLiteral("  %1: %2 -> %3\n").arg(change.element, *change.old, *change.now);
     if (!EditedFile::IsList(change.element))
-        return QStringLiteral("  %1: (lacking) -> %2\n").arg(change.element, change.now.value_or(QString()));
-    return change.now ? QStringLiteral("  %1: + %2\n").arg(change.element, *change.now)
-                      : QStringLiteral("  %1: - %2\n").arg(change.element, change.old.value_or(QString()));
+        return QStringLiteral("  %1: (lacking) -> %2\n")
+            .arg(change.element, change.now.value_or(QString()));
+    return change.now
+               ? QStringLiteral("  %1: + %2\n").arg(change.element, *change.now)
+               : QStringLiteral("  %1: - %2\n").arg(change.element, change.old.value_or(QString()));
 }
 
 } // namespace
@@ -38,9 +40,8 @@ QJsonObject ChangeJson(const Messages& messages, const ChangeReport& report) {
     };
     QJsonArray changes;
     for (const FileChange& change : report.changes)
-        changes.append(QJsonObject{{"element", change.element},
-                                   {"old", orNull(change.old)},
-                                   {"new", orNull(change.now)}});
+        changes.append(QJsonObject{
+            {"element", change.element}, {"old", orNull(change.old)}, {"new", orNull(change.now)}});
     QJsonObject object{{"file", report.file},
                        {"ok", !report.error},
                        {"changes", changes},

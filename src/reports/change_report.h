@@ -23,8 +23,8 @@ QString ChangeText(const Messages& messages, const ChangeReport& report);
 
 QJsonObject ChangeJson(const Messages& messages, const ChangeReport& report);
 
-/// The changed lines with three lines around them, as `diff -u` gives them, in the file's own bytes; empty when
-/// nothing changes.
+/// The changed lines with three lines around them, as `diff -u` gives them, in the file's own
+/// bytes; empty when nothing changes.
 QByteArray ChangeDiff(const ChangeReport& report);
 
 } // namespace Hesperin

@@ -106,8 +106,8 @@ QByteArray LineDiff(const QByteArray& before, const QByteArray& after) {
             if (!step.line.endsWith('\n'))
                 body += "\n\\ No newline at end of file\n";
         }
-        diff += "@@ -" + Range(inFirst - leading, first) + " +" + Range(inSecond - leading, second) +
-                " @@\n" + body;
+        diff += "@@ -" + Range(inFirst - leading, first) + " +" +
+                Range(inSecond - leading, second) + " @@\n" + body;
         inFirst += first - leading;
         inSecond += second - leading;
         at = stop;

@@ -43,7 +43,7 @@ ModScale ScaleOf(const QStringList& paths) {
         const auto document = LoadCreatureDocument(file);
         if (!document)
             continue;
-        const ReadCreature read = ReadCreatureText(*document, EmptyCreature());
+        const ReadCreature read = ReadCreatureText(document->text, EmptyCreature());
         const Evaluation evaluation = Evaluate(EnteredOf(read.creature));
         if (!evaluation.figures)
             continue;

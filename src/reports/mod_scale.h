@@ -10,9 +10,9 @@
 
 namespace Hesperin {
 
-/// How the figures of a mod's files stand to the computed ones: the scale of a figure in a tier is the median of
-/// computed average to the file's figure over the mod's creatures of that tier (their own CreatureTier) where
-/// both are above 0.
+/// How the figures of a mod's files stand to the computed ones: the scale of a figure in a tier is
+/// the median of computed average to the file's figure over the mod's creatures of that tier (their
+/// own CreatureTier) where both are above 0.
 class ModScale {
 public:
     void Add(std::int16_t tier, Figure figure, double average, double inFile);
@@ -28,11 +28,12 @@ private:
 
     const std::vector<double>* RatiosOf(std::int16_t tier, Figure figure) const;
 
-    std::array<std::array<std::vector<double>, Tiers>, static_cast<std::size_t>(Figure::Count)> ratios;
+    std::array<std::array<std::vector<double>, Tiers>, static_cast<std::size_t>(Figure::Count)>
+        ratios;
 };
 
-/// The scale of the creature files named and of those below the folders named; what can't be read has no part
-/// in it.
+/// The scale of the creature files named and of those below the folders named; what can't be read
+/// has no part in it.
 ModScale ScaleOf(const QStringList& paths);
 
 } // namespace Hesperin

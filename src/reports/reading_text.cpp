@@ -11,8 +11,7 @@ QString ReadingText(const Messages& messages, const ReadCreature& read) {
                            .arg(number.element, number.text, QString::number(number.value)));
     QStringList lines;
     if (!read.missing.isEmpty())
-        lines.append(
-            Fill(messages.MsgElementsMissing, {read.missing.join(QLatin1String(", "))}));
+        lines.append(Fill(messages.MsgElementsMissing, {read.missing.join(QLatin1String(", "))}));
     if (!limited.isEmpty())
         lines.append(Fill(messages.MsgNumbersLimited, {limited.join(QLatin1String(", "))}));
     return lines.join(u'\n');

@@ -20,4 +20,9 @@ QString SettingsFolderOfUser() {
            QLatin1String("/talmir");
 }
 
+QString DataFolderOfUser() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+           QLatin1String("/talmir");
+}
+
 } // namespace Hesperin

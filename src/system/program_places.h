@@ -11,6 +11,9 @@ bool IsSystemFolder(const QString& folder);
 /// Folder for this program's settings of the user, which need not exist yet.
 QString SettingsFolderOfUser();
 
+/// Folder for what this program keeps for the user, which need not exist yet.
+QString DataFolderOfUser();
+
 /// Where the program keeps the language and the ability texts: in its own folder, or where that
 /// can't be written, in the user's. What lies in the user's wins.
 struct ProgramPlaces {

@@ -26,8 +26,8 @@ struct SaveOutcome {
 /// the target is replaced. Refuses a place that holds anything but a file: a folder, a device.
 SaveOutcome SaveFile(const QString& path, const QByteArray& bytes);
 
-/// The same for one of many files: SyncFolder is to be called for its folder when all are saved. Until then a
-/// power cut may bring the old file back, whole.
+/// The same for one of many files: SyncFolder is to be called for its folder when all are saved.
+/// Until then a power cut may bring the old file back, whole.
 SaveOutcome SaveFileOfMany(const QString& path, const QByteArray& bytes);
 
 /// Waits until the files saved in that folder last. False where the system can't say so.

@@ -23,8 +23,7 @@ bool IsFromHere(const QString& path, const QString& host) {
     constexpr qint64 longestLock = 1 << 12;
     constexpr qsizetype lineOfNumber = 3;
     const auto content = ReadFile(path, longestLock);
-    const QByteArray number =
-        content ? content->split('\n').value(lineOfNumber) : QByteArray();
+    const QByteArray number = content ? content->split('\n').value(lineOfNumber) : QByteArray();
     const QByteArray ours = QSysInfo::machineUniqueId();
     return number.isEmpty() || ours.isEmpty()
                ? host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0

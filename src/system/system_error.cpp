@@ -17,7 +17,7 @@ struct SystemCode {
 
 #ifdef Q_OS_WIN
 constexpr SystemCode Codes[] = {
-    {2, FileMissing},       // ERROR_FILE_NOT_FOUND
+    {2, FileMissing},   // ERROR_FILE_NOT_FOUND
     {3, FolderMissing}, // ERROR_PATH_NOT_FOUND
     {5, NotAllowed},    // ERROR_ACCESS_DENIED
     {19, DiskReadOnly}, // ERROR_WRITE_PROTECT

@@ -59,7 +59,8 @@ int HasError(voidpf, voidpf file) {
 /// The toolkit opens the file: a name with any letters, on any system.
 struct ZipArchive::Reader {
     explicit Reader(const QString& path)
-        : file(path), calls{OpenFile, ReadBytes, WriteBytes, Tell, Seek, CloseFile, HasError, &file},
+        : file(path), calls{OpenFile, ReadBytes, WriteBytes, Tell,
+                            Seek,     CloseFile, HasError,   &file},
           zip(unzOpen2_64(nullptr, &calls)) {}
     ~Reader() {
         if (zip != nullptr)

@@ -33,9 +33,8 @@ std::optional<Decimal> ReadDecimal(QStringView text) {
     const QStringView digits = text.sliced(signedText ? 1 : 0);
     const qsizetype stop = digits.indexOf(u'.');
     const QString all = QString(digits.toString()).remove(stop < 0 ? digits.size() : stop, 1);
-    const bool onlyDigits = std::all_of(all.begin(), all.end(), [](QChar digit) {
-        return digit >= u'0' && digit <= u'9';
-    });
+    const bool onlyDigits = std::all_of(all.begin(), all.end(),
+                                        [](QChar digit) { return digit >= u'0' && digit <= u'9'; });
     if (all.isEmpty() || all.size() > MostDigits || !onlyDigits)
         return std::nullopt;
     const std::int64_t units = all.toLongLong();

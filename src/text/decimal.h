@@ -13,8 +13,8 @@ struct Decimal {
     int places = 0;
 };
 
-/// An optional sign and digits with an optional full stop and fraction, at most 12 digits in all; none for
-/// anything else.
+/// An optional sign and digits with an optional full stop and fraction, at most 12 digits in all;
+/// none for anything else.
 std::optional<Decimal> ReadDecimal(QStringView text);
 
 /// The whole number that `text` is, an optional sign and at most 12 digits; none for anything else.

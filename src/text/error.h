@@ -1,5 +1,5 @@
-// What went wrong, as a value. It travels up as it is, over one channel, and becomes words in the current
-// language where a person reads it.
+// What went wrong, as a value. It travels up as it is, over one channel, and becomes words in the
+// current language where a person reads it.
 #pragma once
 
 #include <QString>
@@ -30,43 +30,43 @@ struct Error {
         DamagedInArchive,
         Encrypted,
         // A document can't be used.
-        NotWellFormed, ///< `value` is the parser's word for it, in English
-        EndsEarly,     ///< it stops in the middle
-        WrongRoot,     ///< `value` is the root found
-        TextTooLong,   ///< `expected` is the longest text in UTF-16 units
-        EndlessMarkup, ///< a tag or a document type has no end
-        NameChanges,   ///< read back, the creature would have the name `value`
+        NotWellFormed,   ///< `value` is the parser's word for it, in English
+        EndsEarly,       ///< it stops in the middle
+        WrongRoot,       ///< `value` is the root found
+        TextTooLong,     ///< `expected` is the longest text in UTF-16 units
+        EndlessMarkup,   ///< a tag or a document type has no end
+        NameChanges,     ///< read back, the creature would have the name `value`
         EncodingUnknown, ///< `value` is its name
         // An edit in place can't be done.
-        ElementUnknown,  ///< `value` is its name, `expected` the nearest known one
-        ElementTwice,    ///< `value` is its name, the line the second one's
-        HoldsElements,   ///< `value` is the element
-        FromEntity,      ///< the content of the element `value` comes out of an entity
-        NoWholeNumber,   ///< `value` stands in or for the element `element`
-        BelowZero,       ///< `element` would become `value`
-        NoFlag,          ///< `value` for the element `element`: true or false was expected
-        WordUnknown,     ///< `value` for the element `element`, `expected` the nearest known one
-        TownUnknown,     ///< `value` is no town of the game, `expected` the nearest; taken all the same
-        NoList,          ///< `value` holds no list of items
-        NoFigure,        ///< `element` has no computed figure `value`
-        NoPower,         ///< Power is 0, so that there are no figures
-        NoScale,         ///< tier `value` has no scale for `element`
-        CantBeSpelled,   ///< `value` has a character that no document can hold
-        UnsafeEdit,      ///< the edited file would not be what was asked for
-        Conflict,        ///< `element` stands as `value` in the file, and not as it was opened
+        ElementUnknown, ///< `value` is its name, `expected` the nearest known one
+        ElementTwice,   ///< `value` is its name, the line the second one's
+        HoldsElements,  ///< `value` is the element
+        FromEntity,     ///< the content of the element `value` comes out of an entity
+        NoWholeNumber,  ///< `value` stands in or for the element `element`
+        BelowZero,      ///< `element` would become `value`
+        NoFlag,         ///< `value` for the element `element`: true or false was expected
+        WordUnknown,    ///< `value` for the element `element`, `expected` the nearest known one
+        TownUnknown, ///< `value` is no town of the game, `expected` the nearest; taken all the same
+        NoList,      ///< `value` holds no list of items
+        NoFigure,    ///< `element` has no computed figure `value`
+        NoPower,     ///< Power is 0, so that there are no figures
+        NoScale,     ///< tier `value` has no scale for `element`
+        CantBeSpelled, ///< `value` has a character that no document can hold
+        UnsafeEdit,    ///< the edited file would not be what was asked for
+        Conflict,      ///< someone else has changed the same in the file: `value` says what
     };
 
     /// What the program was about to do with `file`.
     enum class Doing : std::uint8_t { Nothing, Opening, Saving };
 
     What what;
-    QString value{};     ///< what stands there
-    QString expected{};  ///< what should
-    QString file{};      ///< empty: none, or known where the error is told
+    QString value{};    ///< what stands there
+    QString expected{}; ///< what should
+    QString file{};     ///< empty: none, or known where the error is told
     Doing doing = Doing::Nothing;
-    qint64 line = 0;     ///< from 1; 0 when no place can be named
-    qint64 column = 0;   ///< from 1
-    QString element{};   ///< the innermost one that is open there
+    qint64 line = 0;   ///< from 1; 0 when no place can be named
+    qint64 column = 0; ///< from 1
+    QString element{}; ///< the innermost one that is open there
 
     bool operator==(const Error&) const = default;
 };

@@ -5,7 +5,8 @@
 
 namespace Hesperin {
 
-/// `text` with %1, %2 and so on replaced by `values` in that order; what a value holds is not replaced again.
+/// `text` with %1, %2 and so on replaced by `values` in that order; what a value holds is not
+/// replaced again.
 QString Fill(const QString& text, const QStringList& values);
 
 } // namespace Hesperin

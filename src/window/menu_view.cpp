@@ -28,6 +28,7 @@ const std::vector<MenuPlan>& Plan() {
             {&MainForm::mnuNew,               u"NС"},
             {&MainForm::mnuOpen,              u"OО"},
             {&MainForm::mnuSave,              u"Sх"},
+            {&MainForm::mnuUpdate,            u"Uб"},
             {nullptr},
             {&MainForm::mnuQuit,              u"QВ"},
         }},

@@ -1,8 +1,8 @@
 #include "window/window_platform.h"
 
 #include "localisation/error_text.h"
-#include "text/fill.h"
 #include "system/save_file.h"
+#include "text/fill.h"
 #include "window/ability_window.h"
 #include "window/about_window.h"
 #include "window/main_window.h"
@@ -13,6 +13,7 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QProcess>
+#include <QPushButton>
 #include <QStandardPaths>
 
 namespace Hesperin {
@@ -76,6 +77,20 @@ bool WindowPlatform::AskYesNo(const QString& title, const QString& text) {
     return box.exec() == QMessageBox::Yes;
 }
 
+int WindowPlatform::Ask(const Question& question) {
+    QMessageBox box(QMessageBox::Question, question.title, question.text, QMessageBox::NoButton,
+                    window);
+    box.setTextFormat(Qt::PlainText);
+    QList<QAbstractButton*> buttons;
+    for (const QString& caption : question.buttons)
+        buttons.append(box.addButton(caption, QMessageBox::ActionRole));
+    box.setDefaultButton(qobject_cast<QPushButton*>(buttons[question.standard]));
+    box.setEscapeButton(buttons[question.cancel]);
+    box.exec();
+    const qsizetype pressed = buttons.indexOf(box.clickedButton());
+    return pressed < 0 ? question.cancel : static_cast<int>(pressed);
+}
+
 bool WindowPlatform::ShowOpenDialog(FileDialog& dialog) {
     QFileDialog shown(window);
     Prepare(shown, dialog, QFileDialog::AcceptOpen);
@@ -86,7 +101,8 @@ bool WindowPlatform::ShowOpenDialog(FileDialog& dialog) {
 }
 
 bool WindowPlatform::ShowSaveDialog(FileDialog& dialog) {
-    QFileDialog shown(window); // asks by itself before it replaces a file
+    QFileDialog shown(window);
+    shown.setOption(QFileDialog::DontConfirmOverwrite); // the program asks, and tells more
     Prepare(shown, dialog, QFileDialog::AcceptSave);
     while (shown.exec() == QDialog::Accepted) {
         const QString path = shown.selectedFiles().value(0);

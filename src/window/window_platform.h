@@ -19,6 +19,7 @@ public:
 
     void ShowMessage(BoxIcon icon, const QString& title, const QString& text) override;
     bool AskYesNo(const QString& title, const QString& text) override;
+    int Ask(const Question& question) override;
     bool ShowOpenDialog(FileDialog& dialog) override;
     bool ShowSaveDialog(FileDialog& dialog) override;
     void SetFocus(Control& control) override;
@@ -29,6 +30,7 @@ public:
     QStringList CalculatorNames() const override;
     QString ProgramFolder() const override;
     QString SettingsFolder() const override { return SettingsFolderOfUser(); }
+    QString DataFolder() const override { return DataFolderOfUser(); }
     void EndProcess() override;
 
 private:

@@ -67,9 +67,9 @@ Result<DocumentText> DocumentText::Decode(const QByteArray& bytes) {
         break;
     case Encoding::Utf16Le:
     case Encoding::Utf16Be:
-        document.text = QStringDecoder(*encoding == Encoding::Utf16Le ? QStringConverter::Utf16LE
-                                                                      : QStringConverter::Utf16BE)(
-            content);
+        document.text =
+            QStringDecoder(*encoding == Encoding::Utf16Le ? QStringConverter::Utf16LE
+                                                          : QStringConverter::Utf16BE)(content);
         document.unitLength = 2;
         break;
     case Encoding::Latin1:
@@ -89,9 +89,9 @@ Result<DocumentText> DocumentText::Decode(const QByteArray& bytes) {
     for (const QChar unit : document.text) {
         document.offsets.push_back(offset);
         // A pair of surrogates has four bytes; all of them count for its second half.
-        offset += unit < QChar(0x80)     ? 1U
-                  : unit < QChar(0x800)  ? 2U
-                  : unit.isLowSurrogate() ? 4U
+        offset += unit < QChar(0x80)       ? 1U
+                  : unit < QChar(0x800)    ? 2U
+                  : unit.isLowSurrogate()  ? 4U
                   : unit.isHighSurrogate() ? 0U
                                            : 3U;
     }

@@ -9,12 +9,12 @@
 
 namespace Hesperin {
 
-/// A document's bytes as text, and back: which bytes each unit of the text stands for, and how new text is
-/// spelled in the document's encoding.
+/// A document's bytes as text, and back: which bytes each unit of the text stands for, and how new
+/// text is spelled in the document's encoding.
 class DocumentText {
 public:
-    /// The same encodings that the parser takes: by byte-order mark, by declaration, else UTF-8. Refuses
-    /// (Error::What::EncodingUnknown) what it can't spell.
+    /// The same encodings that the parser takes: by byte-order mark, by declaration, else UTF-8.
+    /// Refuses (Error::What::EncodingUnknown) what it can't spell.
     static Result<DocumentText> Decode(const QByteArray& bytes);
 
     const QString& Text() const { return text; }

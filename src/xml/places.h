@@ -20,19 +20,20 @@ struct Span {
 
 struct ElementPlace {
     QStringView name;
-    int parent = -1;       ///< place in the list of elements; -1 for the root
-    int children = 0;      ///< elements right below
-    Span startTag;         ///< with its brackets
-    Span content;          ///< between the tags; empty behind a tag like <X/>
-    qsizetype end = 0;     ///< behind the last tag
-    qint64 line = 0;       ///< of the start tag, from 1
+    int parent = -1;         ///< place in the list of elements; -1 for the root
+    int children = 0;        ///< elements right below
+    Span startTag;           ///< with its brackets
+    Span content;            ///< between the tags; empty behind a tag like <X/>
+    qsizetype end = 0;       ///< behind the last tag
+    qint64 line = 0;         ///< of the start tag, from 1
     bool isEmptyTag = false; ///< <X/>
 
     Span Whole() const { return {startTag.start, end}; }
 };
 
-/// The elements of a well-formed document in the order of their start tags. What an entity brings in is not
-/// among them. `text` must outlive them. A text that isn't well-formed gives Error::What::NotWellFormed.
+/// The elements of a well-formed document in the order of their start tags. What an entity brings
+/// in is not among them. `text` must outlive them. A text that isn't well-formed gives
+/// Error::What::NotWellFormed.
 Result<std::vector<ElementPlace>> FindElements(QStringView text);
 
 /// A part of an element's content that has no element in it.

@@ -1,8 +1,8 @@
 #include "xml/xml_document.h"
 
 #include "text/code_page.h"
-#include "text/shortened.h"
 #include "text/decode_text.h"
+#include "text/shortened.h"
 #include "xml/xml_limits.h"
 
 #include <QXmlStreamReader>
@@ -148,8 +148,7 @@ QString EntityInAnotherFile(const QXmlStreamReader& reader, const QByteArray& by
 
 } // namespace
 
-Result<QString> NormaliseXml(const QByteArray& bytes, QStringView root,
-                                               qsizetype longest) {
+Result<QString> NormaliseXml(const QByteArray& bytes, QStringView root, qsizetype longest) {
     const Error tooLong{Error::What::TextTooLong, {}, QString::number(longest)};
     if (HasEndlessMarkup(bytes, longest))
         return tooLong;

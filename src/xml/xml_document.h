@@ -16,7 +16,6 @@ namespace Hesperin {
 /// Refuses a document that isn't well-formed, whose root isn't `root`, whose normalised text is
 /// longer than `longest` UTF-16 units, or that refers to an entity in another file. Time and memory
 /// stay bounded by the size of `bytes`.
-Result<QString> NormaliseXml(const QByteArray& bytes, QStringView root,
-                                               qsizetype longest);
+Result<QString> NormaliseXml(const QByteArray& bytes, QStringView root, qsizetype longest);
 
 } // namespace Hesperin

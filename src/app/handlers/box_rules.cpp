@@ -9,8 +9,8 @@ namespace Hesperin {
 
 namespace {
 
-/// Moves the charge counter by one, up for a tick and down for an untick, and lets the flag take its
-/// sense.
+/// Moves the charge counter by one, up for a tick and down for an untick, and lets the flag take
+/// its sense.
 void StepSpellPoints1(SharedState& state, bool ticked) {
     state.SpellPoints1Count =
         static_cast<std::int16_t>(state.SpellPoints1Count + (ticked ? 1 : -1));

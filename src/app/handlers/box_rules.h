@@ -1,6 +1,6 @@
-// What ticking or unticking a box does to other boxes, counters and fields. The rule of a partner box runs
-// nested inside the setter; a box that already has the wanted state runs nothing, and that alone ends the
-// recursion.
+// What ticking or unticking a box does to other boxes, counters and fields. The rule of a partner
+// box runs nested inside the setter; a box that already has the wanted state runs nothing, and that
+// alone ends the recursion.
 #pragma once
 
 #include "app/program.h"

@@ -1,6 +1,7 @@
 #include "app/handlers/buttons.h"
 
 #include "app/calculate.h"
+#include "app/handlers/save_and_update.h"
 #include "app/resets.h"
 #include "system/version_record.h"
 
@@ -38,6 +39,7 @@ Failure cmdResetAll_Click(Program& program) {
     Reset_Abilities(program);
     Reset_Spells(program);
     form.mnuSave.SetEnabled(false);
+    ForgetBaseline(program);
     return {};
 }
 

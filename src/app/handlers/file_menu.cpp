@@ -3,37 +3,18 @@
 #include "app/calculate.h"
 #include "app/creature_in_form.h"
 #include "app/handlers/buttons.h"
+#include "app/handlers/save_and_update.h"
 #include "app/resets.h"
 #include "creature_files/document.h"
-#include "creature_files/writer.h"
-#include "localisation/error_text.h"
 #include "localisation/language_file.h"
 #include "localisation/titles.h"
 #include "reports/reading_text.h"
-#include "system/save_file.h"
 #include "system/version_record.h"
-#include "text/fill.h"
 #include "text/numbers.h"
-#include "text/shortened.h"
 
 namespace Hesperin {
 
 namespace {
-
-const QString DefaultExtension = QStringLiteral("xdb");
-
-QString TrimBlanks(QStringView text) {
-    while (text.startsWith(u' '))
-        text = text.sliced(1);
-    while (text.endsWith(u' '))
-        text.chop(1);
-    return text.toString();
-}
-
-void ShowFilePage(MainForm& form) {
-    form.Tablus.At(Page::File).SetCaption(TrimBlanks(form.ComDialog.FileName));
-    form.Tablus.At(Page::File).Switch(true);
-}
 
 /// The number before the extension in "Creature_183.xdb"; numbers up to 179 are the game's own.
 void TakeCreatureNumber(MainForm& form) {
@@ -41,31 +22,9 @@ void TakeCreatureNumber(MainForm& form) {
     constexpr qsizetype numberLength = 3;
     constexpr double lastOfTheGame = 179;
     const QString number =
-        TrimBlanks(form.ComDialog.FileName).right(numberAndExtension).left(numberLength);
+        WithoutBlanks(form.ComDialog.FileName).right(numberAndExtension).left(numberLength);
     if (TextToNumber(number) > lastOfTheGame)
         form.txtIDC.SetText(number);
-}
-
-/// Why the composed text must not replace a file: the reader refuses it, or finds another name in
-/// it. Plain values can't be misread, and are most of all; reading them again would make a save half
-/// as long again.
-Failure ReadBackFault(const CreatureText& composed, const QString& name) {
-    constexpr qsizetype emptyElements = 100; // what they may grow by
-    if (composed.plain && composed.text.size() < LongestCreatureText - emptyElements)
-        return {};
-    const auto document = NormaliseCreature(CreatureFileBytes(composed.text));
-    if (!document)
-        return document.Why();
-    const QString read = CreatureNameIn(TextBuffer(*document)).value_or(QString());
-    if (read == name)
-        return {};
-    return Error{Error::What::NameChanges, Shortened(read)};
-}
-
-SaveOutcome WriteComposed(const CreatureText& composed, const QString& name, const QString& path) {
-    if (auto fault = ReadBackFault(composed, name))
-        return {std::move(fault), {}};
-    return SaveFile(path, CreatureFileBytes(composed.text));
 }
 
 /// Fills the cleared form from what was read.
@@ -98,7 +57,7 @@ Failure mnuOpen_Click(Program& program) {
     FileDialog& dialog = program.form.ComDialog;
     dialog.InitialDirectory = program.platform.ProgramFolder();
     dialog.Filter = QStringLiteral("Heroes of Might and Magic V Files (*.xdb )|*.xdb");
-    dialog.DefaultExtension = DefaultExtension;
+    dialog.DefaultExtension = QStringLiteral("xdb");
     const QString lastName = dialog.FileName;
     if (!program.platform.ShowOpenDialog(dialog) || dialog.FileName.isEmpty())
         return {};
@@ -112,7 +71,8 @@ Failure OpenCreatureFile(Program& program, const QString& path) {
     const auto document = LoadCreatureDocument(path);
     if (!document)
         return program.Refuse(document.Why());
-    FillFromDocument(program, *document, path);
+    FillFromDocument(program, document->text, path);
+    SetBaseline(program, document->bytes);
     return {};
 }
 
@@ -136,44 +96,6 @@ void FillFromDocument(Program& program, const QString& document, const QString& 
     Calculate(program);
     ShowFilePage(form);
     TakeCreatureNumber(form);
-}
-
-Failure mnuSave_Click(Program& program) {
-    MainForm& form = program.form;
-    SharedState& state = program.state;
-    const QString name = ProperCase(form.txtNC.Text());
-    if (name.isEmpty()) {
-        state.CreatureName = name;
-        program.Warn(BoxIcon::Critical, state.messages.MsgEnterName);
-        return {};
-    }
-    FileDialog& dialog = form.ComDialog;
-    const QString lastName = std::exchange(dialog.FileName, state.messages.DefaultFileName);
-    dialog.InitialDirectory = program.platform.ProgramFolder();
-    dialog.Filter = QStringLiteral("Heroes of Might and Magic V Files (*.xdb)|*.xdb");
-    dialog.DefaultExtension = DefaultExtension;
-    if (!program.platform.ShowSaveDialog(dialog)) {
-        dialog.FileName = lastName;
-        return {};
-    }
-    state.CreatureName = name;
-    const CreatureText composed =
-        BuildCreatureText(TakeCreature(program), name,
-                          AverageOf(state.figures.GrowthHesperin, state.figures.GrowthRolvane));
-    form.RTBData.SetText(composed.text);
-    const SaveOutcome outcome = WriteComposed(composed, name, dialog.FileName);
-    ShowFilePage(form);
-    if (outcome.failure) {
-        Error error = *outcome.failure;
-        error.file = dialog.FileName;
-        error.doing = Error::Doing::Saving;
-        return program.Refuse(error);
-    }
-    if (!outcome.notes.empty())
-        program.Warn(BoxIcon::Information,
-                     Fill(state.messages.MsgSavedBut,
-                          {dialog.FileName, NotesText(state.messages, outcome.notes)}));
-    return {};
 }
 
 bool ConfirmQuit(Program& program) {

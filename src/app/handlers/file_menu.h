@@ -1,4 +1,5 @@
-// The File menu, and what else makes or opens a creature. It knows no dialog: the platform shows it.
+// The File menu, and what else makes or opens a creature. It knows no dialog: the platform shows
+// it.
 #pragma once
 
 #include "app/program.h"
@@ -13,19 +14,13 @@ Failure mnuOpen_Click(Program& program);
 
 /// Opens the creature file `path`: fills the window from it and runs Calculate. A file that can't
 /// be read, isn't a creature document or is too long is refused with one critical box
-/// (MsgFileRefused) and leaves the window as it was. What the file lacks or what was limited is told
-/// in one information box (MsgElementsMissing, MsgNumbersLimited).
+/// (MsgFileRefused) and leaves the window as it was. What the file lacks or what was limited is
+/// told in one information box (MsgElementsMissing, MsgNumbersLimited).
 Failure OpenCreatureFile(Program& program, const QString& path);
 
 /// The part of opening behind the refusals: fills the window from the normalised text of the
 /// creature file `path` and runs Calculate.
 void FillFromDocument(Program& program, const QString& document, const QString& path);
-
-/// Asks for a place and saves the creature there, the whole file or nothing; page 4 shows the text
-/// afterwards. Without a name: MsgEnterName (critical) and nothing else. What can't be read back is
-/// not saved. A failure is told in a critical box (MsgSaveFailed), what could not be kept of an old
-/// file in an information box (MsgSavedBut). A cancelled dialog leaves the window as it was.
-Failure mnuSave_Click(Program& program);
 
 /// Asks MsgQuitQuestion. After a Yes the language is remembered and the process ends; after a No
 /// nothing has happened. True for Yes.

@@ -5,9 +5,9 @@
 
 namespace Hesperin {
 
-/// The four languages: set LanguageId, apply the language, then load the ability texts in it. Fields, ticks
-/// and results stay; the charge counter and the flag become 0, and nothing is selected in ComboFaction
-/// and ComboRange after English and Russian.
+/// The four languages: set LanguageId, apply the language, then load the ability texts in it.
+/// Fields, ticks and results stay; the charge counter and the flag become 0, and nothing is
+/// selected in ComboFaction and ComboRange after English and Russian.
 Failure mnuEnglish_Click(Program& program);
 Failure mnuRussian_Click(Program& program);
 Failure mnuFrench_Click(Program& program);

@@ -7,6 +7,7 @@
 #include "app/handlers/key_filters.h"
 #include "app/handlers/list_rules.h"
 #include "app/handlers/options_menu.h"
+#include "app/handlers/save_and_update.h"
 
 namespace Hesperin {
 
@@ -23,6 +24,7 @@ constexpr Wire<MenuEntry> MenuWires[] = {
     {&MainForm::mnuNew, mnuNew_Click},
     {&MainForm::mnuOpen, mnuOpen_Click},
     {&MainForm::mnuSave, mnuSave_Click},
+    {&MainForm::mnuUpdate, mnuUpdate_Click},
     {&MainForm::mnuQuit, mnuQuit_Click},
     {&MainForm::mnuEnglish, mnuEnglish_Click},
     {&MainForm::mnuRussian, mnuRussian_Click},

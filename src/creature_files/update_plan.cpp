@@ -1,0 +1,223 @@
+#include "creature_files/update_plan.h"
+
+#include "creature_files/change.h"
+#include "creature_files/file_tokens.h"
+#include "creature_files/writer.h"
+#include "text/decimal.h"
+
+#include <algorithm>
+
+namespace Hesperin {
+
+namespace {
+
+const QString SpellItems = QStringLiteral("KnownSpells");
+const QString AbilityItems = QStringLiteral("Abilities");
+
+/// Whether an update may write the element's content: it says something that the user enters.
+bool IsEntered(Says says) {
+    switch (says) {
+    case Says::Number:
+    case Says::Supply:
+    case Says::ListNumber:
+    case Says::ListEntry:
+    case Says::ListFlag:
+    case Says::Flyer:
+    case Says::Size:
+    case Says::Inferno:
+    case Says::Growth:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// Numbers are compared as numbers.
+bool Agree(const QString& inFile, const QString& inWindow) {
+    const auto one = ReadWhole(inFile);
+    const auto other = ReadWhole(inWindow);
+    return one && other ? *one == *other : inFile == inWindow;
+}
+
+QString NameOf(const Element& element) {
+    return element.parent.isEmpty() ? element.name.toString()
+                                    : element.parent.toString() + u'/' + element.name.toString();
+}
+
+class Planner {
+public:
+    Planner(const Creature& before, const Creature& after, EditedFile openedFile, EditedFile disk)
+        : baseline(before), now(after),
+          opened(std::move(openedFile)), plan{std::move(disk), {}, {}, before.Name != after.Name} {}
+
+    Result<UpdatePlan> Run() {
+        for (const Element& element : Elements)
+            if (auto failure = Take(element))
+                return *failure;
+        return std::move(plan);
+    }
+
+private:
+    Failure Take(const Element& element) {
+        if (element.says == Says::Abilities)
+            return TakeAbilities();
+        if (element.says == Says::KnownSpells)
+            return TakeSpells();
+        if (element.says == Says::Charges)
+            return TakeCharges(element);
+        if (!IsEntered(element.says))
+            return {};
+        const QString before = ContentFor(element, baseline);
+        const QString after = ContentFor(element, now);
+        if (before == after)
+            return NoteIfOther(element, after);
+        if (TakesNumber(element) && !ReadWhole(after)) {
+            Error error{Error::What::NoWholeNumber, after};
+            error.element = NameOf(element);
+            return error;
+        }
+        return Set(NameOf(element), after);
+    }
+
+    Failure NoteIfOther(const Element& element, const QString& inWindow) {
+        const auto inFile = plan.file.Content(NameOf(element));
+        if (inFile && *inFile && !Agree(**inFile, inWindow))
+            plan.leftAlone.push_back({NameOf(element), **inFile, inWindow});
+        return {};
+    }
+
+    Failure Set(const QString& element, const QString& content) {
+        const auto wasOpened = opened.Content(element);
+        const auto onDisk = plan.file.Content(element);
+        if (!wasOpened || !onDisk)
+            return wasOpened ? onDisk.Why() : wasOpened.Why();
+        if (*onDisk != *wasOpened && *onDisk != content) {
+            plan.conflicts.push_back(
+                {element, wasOpened->value_or(QString()), onDisk->value_or(QString()), content});
+            return {};
+        }
+        return plan.file.Set(element, content);
+    }
+
+    /// Items of abilities that were ticked or unticked. Those that stand in a file by other
+    /// elements are never added.
+    Failure TakeAbilities() {
+        for (int i = 1; i <= Ability::Count; ++i) {
+            if (baseline.Has(i) == now.Has(i))
+                continue;
+            const ListItem item{AbilityTokens()[static_cast<std::size_t>(i)]};
+            if (!now.Has(i)) {
+                if (auto failure = plan.file.RemoveItem(AbilityItems, item))
+                    return failure;
+            } else if (IsWrittenAbility(i)) {
+                if (auto failure = plan.file.AddItem(AbilityItems, item))
+                    return failure;
+            }
+        }
+        return {};
+    }
+
+    Failure TakeSpells() {
+        for (std::size_t j = 1; j <= SpecabilityCount; ++j)
+            if (auto failure = TakeSkill(SpecabilityTokens()[j], baseline.Specabilities[j],
+                                         now.Specabilities[j]))
+                return failure;
+        for (std::size_t i = 1; i <= SpellCount; ++i)
+            if (auto failure = TakeSkill(SpellTokens()[i], baseline.Spells[i], now.Spells[i]))
+                return failure;
+        return {};
+    }
+
+    Failure TakeSkill(const QString& token, const Skill& before, const Skill& after) {
+        if (before == after)
+            return {};
+        const QString wanted = MasteryTokens().at(static_cast<std::size_t>(after.mastery));
+        const auto inOpened = MasteryIn(opened, token);
+        const auto onDisk = MasteryIn(plan.file, token);
+        if (!inOpened || !onDisk)
+            return inOpened ? onDisk.Why() : inOpened.Why();
+        if (!after.known)
+            return plan.file.RemoveItem(SpellItems, {token});
+        if (*onDisk != *inOpened && *onDisk != wanted) {
+            plan.conflicts.push_back({SpellItems, WithMastery(token, *inOpened),
+                                      WithMastery(token, *onDisk), token + u':' + wanted});
+            return {};
+        }
+        return plan.file.AddItem(SpellItems, {token, wanted});
+    }
+
+    static QString WithMastery(const QString& token, const std::optional<QString>& mastery) {
+        return mastery ? token + u':' + *mastery : QStringLiteral("-");
+    }
+
+    /// The mastery that a file has for the item; none when it lacks the item.
+    static Result<std::optional<QString>> MasteryIn(const EditedFile& file, const QString& token) {
+        const auto items = file.Items(SpellItems);
+        if (!items)
+            return items.Why();
+        for (const ListItem& item : *items)
+            if (item.word.compare(token, Qt::CaseInsensitive) == 0)
+                return std::optional(item.mastery);
+        return std::optional<QString>();
+    }
+
+    /// Follows the boxes where the file did so before.
+    Failure TakeCharges(const Element& element) {
+        const QString before = ContentFor(element, baseline);
+        const QString after = ContentFor(element, now);
+        const auto inFile = opened.Content(NameOf(element));
+        if (!inFile)
+            return inFile.Why();
+        return before == after || *inFile != before ? Failure() : Set(NameOf(element), after);
+    }
+
+    const Creature& baseline;
+    const Creature& now;
+    const EditedFile opened;
+    UpdatePlan plan;
+};
+
+} // namespace
+
+Result<UpdatePlan> PlanUpdate(const QByteArray& opened, const Creature& baseline,
+                              const Creature& now, const QByteArray& onDisk) {
+    auto openedFile = EditedFile::Open(opened);
+    if (!openedFile)
+        return openedFile.Why();
+    auto disk = EditedFile::Open(onDisk);
+    if (!disk)
+        return disk.Why();
+    return Planner(baseline, now, std::move(*openedFile), std::move(*disk)).Run();
+}
+
+QStringList LostBySave(const QByteArray& old, const QByteArray& composed) {
+    const auto oldContents = EditedFile::ContentsOf(old);
+    const auto newContents = EditedFile::ContentsOf(composed);
+    if (!oldContents || !newContents)
+        return {};
+    QStringList names;
+    QList<int> counts;
+    for (const QString& content : *oldContents) {
+        const QString name = content.section(u'=', 0, 0);
+        const QString top = name.section(u'/', 0, 0).section(u'@', 0, 0);
+        const bool isEntered = std::any_of(Elements.begin(), Elements.end(), [&](const Element& e) {
+            return NameOf(e) == name && IsEntered(e.says);
+        });
+        const bool empty = content.endsWith(u'=');
+        if (newContents->contains(content) || isEntered || empty || top == AbilityItems ||
+            top == SpellItems)
+            continue;
+        if (const qsizetype known = names.indexOf(top); known >= 0) {
+            ++counts[known];
+        } else {
+            names.append(top);
+            counts.append(1);
+        }
+    }
+    for (qsizetype i = 0; i < names.size(); ++i)
+        if (counts[i] > 1)
+            names[i] += QStringLiteral(" (%1)").arg(counts[i]);
+    return names;
+}
+
+} // namespace Hesperin
