@@ -40,7 +40,7 @@ struct Creature {
     std::array<Skill, SpecabilityCount + 1>
         Specabilities{};                      ///< from 1; the inert one at 0 never is
     std::int16_t SpellPoints1Count = 0;       ///< charge counter of the click rules
-    std::int16_t SpecabilityFlag = FlagFalse; ///< sense of the last click rule that wrote it
+    std::int16_t SpecabilityFlag = FlagFalse; ///< -1 after a tick, 0 after an untick
 
     bool operator==(const Creature&) const = default;
 

@@ -18,15 +18,15 @@ public:
     /// `folder` is made if it is missing.
     explicit SingleInstance(const QString& folder);
 
-    /// The other process that holds the lock, if there is one; else this one does. A lock left by a
-    /// process of this computer that no longer runs, or one that can't be read, is taken over; of
-    /// one left on another computer nobody here can tell. Where no lock can be had, in a folder
-    /// that can't be written or beside something else of its name, the program starts without one.
+    /// The other process that holds the lock. None: this process holds it now, or starts without one because
+    /// none can be had (the folder can't be written, something else bears the lock's name). A lock is taken
+    /// over when its process no longer runs on this computer or when it can't be read. Whether the process of
+    /// another computer still runs can't be seen from here, so its lock counts as held.
     std::optional<RunningInstance> Other();
 
 private:
-    /// Who holds the lock by what the file tells; nothing when it tells nobody, or is older than
-    /// this process under the number of this process.
+    /// Who holds the lock as its file tells; none when it names nobody, or a process of this one's number that
+    /// began earlier and so is gone.
     std::optional<RunningInstance> Holder() const;
 
     QString path;

@@ -62,9 +62,9 @@ AbilityWindow::AbilityWindow(Program& owner, QWidget* mainWindow)
     description->setFont(ReadingFace());
     description->document()->setDocumentMargin(0);
     description->setPlainText(form.utbD(index).Text());
-    QPalette ground = description->palette();
-    ground.setColor(QPalette::Base, palette().color(QPalette::Window));
-    description->setPalette(ground);
+    QPalette colours = description->palette();
+    colours.setColor(QPalette::Base, palette().color(QPalette::Window));
+    description->setPalette(colours);
     constexpr int width = Pixels(10575);
     const int wanted = WrappedHeight(*description->document(), width);
     const int room = screen()->availableGeometry().height() - BelowText - LineHeight;

@@ -14,7 +14,7 @@ namespace {
 
 constexpr QSize AboutClient(Pixels(8385), Pixels(5055));
 
-/// A picture on black and its mask, light where the ground is to stay.
+/// A picture on black and its mask, light where the background is to stay.
 struct MaskedPicture {
     const char* mask;
     const char* colour;
@@ -26,7 +26,7 @@ constexpr MaskedPicture Pictures[] = {
     {":/talmir_mask.png", ":/talmir_color.png", {10, 40}},
 };
 
-/// The mask clears the shape in the ground, then the picture is painted into it.
+/// The mask clears the shape in the background, then the picture is painted into it.
 QImage DrawPictures() {
     QImage surface(AboutClient, QImage::Format_RGB32);
     surface.fill(Colours().AboutBackground);

@@ -13,7 +13,7 @@ namespace Hesperin {
 namespace {
 
 constexpr QSize SmallestClient(Pixels(6450), Pixels(4650)); // taller when the words need it
-constexpr int TitleHeight = Pixels(960); // a dark ground, on which the white title can be read
+constexpr int TitleHeight = Pixels(960); // a dark background, on which the white title can be read
 constexpr QRect WordsPlace = PixelRect(120, 4200, 6210, 375);
 
 } // namespace

@@ -123,8 +123,8 @@ private:
     std::vector<OpenElement> open;
 };
 
-/// The document as text where its declaration names an encoding that the parser can't be left alone
-/// with: a code page that it may not know, or UTF-16 in a file of single bytes, which is UTF-8.
+/// The document as text where the parser would misread it by its declaration: one of a code page, which the
+/// parser may not know, or of UTF-16 although the file has single bytes.
 std::optional<QString> DecodedByDeclaration(const QByteArray& bytes) {
     if (!bytes.startsWith("<?xml"))
         return std::nullopt;
