@@ -1,7 +1,7 @@
 // Each NAME.txt in tests/data/scripts begins with the arguments of talmir-cli behind a "# ", and is its input.
-// NAME.expected is what comes of it.
+// NAME.expected is what comes of it; what came instead is written beside it as NAME.expected.new, to be accepted by
+// moving it over.
 #include "cli/run_cli.h"
-#include "support/golden.h"
 
 #include <gtest/gtest.h>
 
@@ -44,10 +44,12 @@ TEST(Data, TheCommandLineGivesWhatIsExpected) {
         const QByteArray input = ReadAll(data.filePath(script));
         const QString arguments = QString::fromUtf8(input.left(input.indexOf('\n'))).mid(2);
         const CliOutcome outcome = RunCli(arguments.split(' '), input, folder.path());
-        EXPECT_EQ(Difference(data.filePath(script.chopped(3) + "expected"), Readable(outcome.out) + "complaints:\n" +
-                                                                                outcome.err + "exit code " +
-                                                                                QString::number(outcome.code) + '\n'),
-                  "");
+        const QString actual =
+            Readable(outcome.out) + "complaints:\n" + outcome.err + "exit code " + QString::number(outcome.code) + '\n';
+        const QString expected = data.filePath(script.chopped(3) + "expected");
+        EXPECT_EQ(actual.toStdString(), ReadAll(expected).toStdString()) << script.toStdString();
+        if (actual != ReadAll(expected))
+            WriteFile(expected + ".new", actual.toUtf8());
     }
 }
 
