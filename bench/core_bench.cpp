@@ -4,15 +4,16 @@
 #include "lay_texts.h"
 #include "ratios.h"
 
+#include "app/calculate.h"
+#include "app/creature_in_form.h"
+#include "app/handlers/file_menu.h"
+#include "app/handlers/form_load.h"
+#include "app/handlers/options_menu.h"
 #include "cli/cli_platform.h"
 #include "creature_files/document.h"
-#include "app/handlers/file_menu.h"
 #include "creature_files/writer.h"
-#include "app/calculate.h"
-#include "model/formulas.h"
 #include "game_texts/ability_texts.h"
-#include "app/handlers/options_menu.h"
-#include "app/handlers/form_load.h"
+#include "model/formulas.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -46,14 +47,14 @@ struct OpenedProgram {
 void BareFormulas(benchmark::State& state) {
     OpenedProgram opened;
     const auto& values = opened.program.state.AbilityCurrentValue;
-    Creature creature{25, 25, 67, 7, 9, 5, 12, 4, 1.0F, 1.0F, false};
+    Parameters parameters = opened.program.state.parameters;
     for (auto _ : state) {
-        benchmark::DoNotOptimize(creature);
-        creature.AbilityProduct = 1.0F;
+        benchmark::DoNotOptimize(parameters);
+        parameters.AbilityProduct = 1.0F;
         for (std::size_t i = 1; i < values.size(); ++i)
-            creature.AbilityProduct *= values[i];
-        const Powers powers = ComputePowers(creature);
-        benchmark::DoNotOptimize(ComputeFigures(creature, powers));
+            parameters.AbilityProduct *= values[i];
+        const Powers powers = ComputePowers(parameters);
+        benchmark::DoNotOptimize(ComputeFigures(parameters, powers));
     }
 }
 BENCHMARK(BareFormulas);
@@ -81,9 +82,8 @@ void OpenFromMemory(benchmark::State& state) {
     OpenedProgram opened;
     const QByteArray bytes = SampleBytes();
     for (auto _ : state) {
-        auto document = NormaliseCreature(bytes);
-        FillFromDocument(opened.program, std::get<QString>(std::move(document)),
-                         QString::fromUtf8(Sample));
+        const auto document = NormaliseCreature(bytes);
+        FillFromDocument(opened.program, *document, QString::fromUtf8(Sample));
         opened.platform.messages.clear();
     }
 }
@@ -105,9 +105,8 @@ void OpenOfSize(benchmark::State& state) {
     OpenedProgram opened;
     const QByteArray bytes = SampleOfSize(state.range(0));
     for (auto _ : state) {
-        auto document = NormaliseCreature(bytes);
-        FillFromDocument(opened.program, std::get<QString>(std::move(document)),
-                         QString::fromUtf8(Sample));
+        const auto document = NormaliseCreature(bytes);
+        FillFromDocument(opened.program, *document, QString::fromUtf8(Sample));
         opened.platform.messages.clear();
     }
     state.SetBytesProcessed(state.iterations() * bytes.size());
@@ -131,8 +130,8 @@ struct FullProgram {
 
 void SaveBytesAlone(benchmark::State& state) {
     const FullProgram full;
-    const QByteArray bytes =
-        CreatureFileBytes(BuildCreatureText(full.program, QStringLiteral("Full")).text);
+    const QByteArray bytes = CreatureFileBytes(
+        BuildCreatureText(TakeCreature(full.program), QStringLiteral("Full"), 0).text);
     for (auto _ : state) {
         QSaveFile file(full.path);
         if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
@@ -147,8 +146,7 @@ void SaveCommand(benchmark::State& state) {
     full.program.form.txtNC.SetText(QStringLiteral("Full"));
     full.platform.dialogPath = full.path;
     for (auto _ : state) {
-        mnuSave_Click(full.program);
-        if (!full.program.failure.isEmpty() || !full.platform.messages.empty())
+        if (mnuSave_Click(full.program) || !full.platform.messages.empty())
             state.SkipWithError("the file could not be written");
     }
 }

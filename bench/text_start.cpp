@@ -15,9 +15,9 @@ using namespace Hesperin;
 
 namespace {
 
-class Texts : public QMainWindow {
+class WrittenTexts : public QMainWindow {
 public:
-    explicit Texts(const MainForm& shown) : form(shown) {}
+    explicit WrittenTexts(const MainForm& shown) : form(shown) {}
 
 protected:
     void paintEvent(QPaintEvent*) override {
@@ -59,7 +59,7 @@ int main(int argc, char** argv) {
     Program program(early.platform);
     if (!Form_Load(program, {std::nullopt, false}))
         return 1;
-    Texts window(program.form);
+    WrittenTexts window(program.form);
     window.setFixedSize(1030, 704);
     window.show();
     const EndAfterFirstPicture end(window);

@@ -2,9 +2,11 @@
 // nothing changed and a reason given.
 #include "fuzz_program.h"
 
-#include "creature_files/document.h"
+#include "app/creature_in_form.h"
 #include "app/handlers/file_menu.h"
+#include "creature_files/document.h"
 #include "creature_files/writer.h"
+#include "localisation/error_text.h"
 
 using namespace Hesperin;
 
@@ -12,25 +14,25 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static FuzzProgram fuzzed;
     fuzzed.platform.messages.clear();
     const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
-    auto document = NormaliseCreature(bytes);
-    if (const auto* problem = std::get_if<OpenProblem>(&document)) {
-        Require(!OpenProblemText(fuzzed.program.state, QStringLiteral("a.xdb"), *problem).isEmpty(),
+    const auto document = NormaliseCreature(bytes);
+    if (!document) {
+        Require(!ErrorText(fuzzed.program.state.messages, document.Why()).isEmpty(),
                 "a refusal has a reason");
         return 0;
     }
-    const QString text = std::get<QString>(document);
+    const QString& text = *document;
     Require(text.size() <= LongestCreatureText, "the text is as short as promised");
     const auto again = NormaliseCreature(text.toUtf8());
-    Require(std::holds_alternative<QString>(again) && std::get<QString>(again) == text,
-            "a normalised document is its own normal form");
-    FillFromDocument(fuzzed.program, text, QStringLiteral("a.xdb"));
+    Require(again && *again == text, "a normalised document is its own normal form");
+    const QString path = QStringLiteral("a.xdb");
+    FillFromDocument(fuzzed.program, text, path);
     RequireInvariants(fuzzed.program);
-    FillFromDocument(fuzzed.program, text,
-                     QStringLiteral("a.xdb")); // clears what a shooter before it left
+    FillFromDocument(fuzzed.program, text, path); // clears what a shooter before it left
     const QByteArray second = Snapshot(fuzzed);
-    FillFromDocument(fuzzed.program, text, QStringLiteral("a.xdb"));
+    FillFromDocument(fuzzed.program, text, path);
     Require(Snapshot(fuzzed) == second, "opening a file again gives the same window");
-    Require(!BuildCreatureText(fuzzed.program, QStringLiteral("Name")).text.isEmpty(),
-            "it can be written");
+    Require(
+        !BuildCreatureText(TakeCreature(fuzzed.program), QStringLiteral("Name"), 0).text.isEmpty(),
+        "it can be written");
     return 0;
 }

@@ -1,11 +1,11 @@
 // Sequences of what a user can do, three bytes an action: what must hold holds after each.
 #include "fuzz_program.h"
 
-#include "catalogue/links.h"
-#include "creature_files/document.h"
-#include "app/handlers/file_menu.h"
-#include "creature_files/writer.h"
 #include "app/calculate.h"
+#include "app/creature_in_form.h"
+#include "app/handlers/file_menu.h"
+#include "creature_files/document.h"
+#include "creature_files/writer.h"
 #include "text/numbers.h"
 
 #include <algorithm>
@@ -44,18 +44,6 @@ const QString& Text(std::uint8_t which) {
                                                "MonsterShared href=\"/",
                                                QString(16'000, u'x')};
     return texts[which % texts.size()];
-}
-
-/// The charge counter, which a change of language zeroes while the ticks stay.
-int ChargesOf(const MainForm& form) {
-    int charges = 0;
-    for (const Link& link : Links)
-        charges += form.Abilities(link.ability).Ticked() ? 2 : 0;
-    for (const int i : OneSidedAbilities)
-        charges += form.Abilities(i).Ticked() ? 1 : 0;
-    for (const int j : OneSidedSpecabilities)
-        charges += form.Specabilities(j).Ticked() ? 1 : 0;
-    return charges;
 }
 
 template <typename Array>
@@ -107,13 +95,13 @@ void Act(Program& program, std::uint8_t kind, std::uint8_t which, std::uint8_t h
 /// What consists of plain values is read as it is written.
 void RequireReadBack(Program& program) {
     const QString name = ProperCase(program.form.txtNC.Text());
-    const CreatureText composed = BuildCreatureText(program, name);
+    const CreatureText composed = BuildCreatureText(TakeCreature(program), name, 0);
     Require(composed.text.endsWith(QLatin1String("</Creature>")), "it can be written");
     const auto document = NormaliseCreature(CreatureFileBytes(composed.text));
     if (!composed.plain || composed.text.size() > LongestCreatureText / 2)
         return;
-    Require(std::holds_alternative<QString>(document), "plain values are accepted");
-    FillFromDocument(program, std::get<QString>(document), {});
+    Require(static_cast<bool>(document), "plain values are accepted");
+    FillFromDocument(program, *document, {});
     Require(program.state.CreatureName == name, "and keep the name");
 }
 
@@ -127,15 +115,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         languageChanged =
             languageChanged || (data[at] % 9 == 5 && data[at + 1] % Entries.size() != 0);
         RequireInvariants(fuzzed.program);
-        Require(languageChanged ||
-                    fuzzed.program.state.SpellPoints1Count == ChargesOf(fuzzed.program.form),
+        Require(languageChanged || fuzzed.program.state.SpellPoints1Count ==
+                                       ChargesOf(TakeCreature(fuzzed.program)),
                 "the charge counter counts the charges");
     }
     Calculate(fuzzed.program);
     const SharedState& state = fuzzed.program.state;
-    Require(state.parameters.MinDam >= 1 && state.parameters.MinDam <= state.parameters.MaxDam && state.parameters.MaxDam <= 95,
+    const Parameters& parameters = state.parameters;
+    Require(parameters.MinDam >= 1 && parameters.MinDam <= parameters.MaxDam &&
+                parameters.MaxDam <= 95,
             "the damage is in its range");
-    Require(state.powers.PowerRolvane >= 1 && state.advice.AdvisedTier >= 1 && state.advice.AdvisedTier <= 8,
+    Require(state.powers.PowerRolvane >= 1 && state.advice.AdvisedTier >= 1 &&
+                state.advice.AdvisedTier <= 8,
             "the figures are there");
     RequireReadBack(fuzzed.program);
     return 0;

@@ -78,8 +78,11 @@ QString ErrorReason(const Messages& messages, const Error& error) {
     const QString value = error.what == What::NotWellFormed ? ParserWords(messages, error.value)
                           : error.value.isEmpty()           ? error.expected
                                                             : error.value;
-    return Fill(messages.*Sentences[static_cast<std::size_t>(error.what)],
-                {value, error.expected, error.element}) +
+    const bool otherTooLarge =
+        error.what == What::FileTooLarge && error.doing != Error::Doing::Opening;
+    const auto sentence =
+        otherTooLarge ? &Messages::MsgLargerThan : Sentences[static_cast<std::size_t>(error.what)];
+    return Fill(messages.*sentence, {value, error.expected, error.element}) +
            Place(messages, error);
 }
 

@@ -49,6 +49,7 @@ constexpr MessageRow Table[] = {
     {&Messages::MsgDiskReadOnly,     {u"The disk can only be read.",                                    u"С диска можно только читать.",                             nullptr, nullptr}},
     {&Messages::MsgNameTooLong,      {u"Its name is too long.",                                         u"Его имя слишком длинное.",                                 nullptr, nullptr}},
     {&Messages::MsgFileTooLarge,     {u"It is larger than %1 bytes; a creature file never is.",         u"Он больше %1 байт, а файл существа всегда меньше.",        nullptr, nullptr}},
+    {&Messages::MsgLargerThan,       {u"It is larger than %1 bytes.",                                   u"Он больше %1 байт.",                                       nullptr, nullptr}},
     {&Messages::MsgSystemSays,       {u"The system says: %1.",                                          u"Система сообщает: %1.",                                    nullptr, nullptr}},
     {&Messages::MsgNotWellFormed,    {u"It is not well-formed XML: %1",                                 u"Это не правильно построенный XML: %1",                     nullptr, nullptr}},
     {&Messages::MsgEndsEarly,        {u"It ends too early; one whole <Creature> element was expected.", u"Он обрывается, а нужен один целый элемент <Creature>.",    nullptr, nullptr}},

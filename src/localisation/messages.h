@@ -46,7 +46,8 @@ struct Messages {
     QString MsgDiskFull;
     QString MsgDiskReadOnly;
     QString MsgNameTooLong;
-    QString MsgFileTooLarge;
+    QString MsgFileTooLarge; ///< of a creature file
+    QString MsgLargerThan;   ///< of any other
     QString MsgSystemSays;
     QString MsgNotWellFormed;
     QString MsgEndsEarly;

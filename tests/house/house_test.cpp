@@ -5,7 +5,7 @@
 
 #include <QDirIterator>
 #include <QFileInfo>
-#include <QHash>
+#include <QMultiHash>
 #include <QRegularExpression>
 
 namespace Hesperin {
@@ -28,25 +28,16 @@ std::vector<SourceFile> SourcesUnder(const QString& folder) {
     return files;
 }
 
-/// The rooms that a room may use, those of these rooms included. src/README.md tells what each is for.
+/// The rooms that a room may use, those of these rooms included, by the table of src/README.md.
 QStringList MayUse(const QString& room) {
-    static const QHash<QString, QStringList> next{
-        {"catalogue", {"text"}},
-        {"model", {"catalogue"}},
-        {"system", {"text"}},
-        {"xml", {"text"}},
-        {"creature_files", {"model", "system", "xml"}},
-        {"game_texts", {"catalogue", "system", "xml"}},
-        {"localisation", {"model", "system", "xml"}},
-        {"reports", {"creature_files", "game_texts", "localisation"}},
-        {"form", {"catalogue"}},
-        {"app", {"reports", "form"}},
-        {"cli", {"app"}},
-        {"window", {"app"}},
-    };
-    QStringList rooms = next.value(room);
-    for (const QString& other : next.value(room))
-        rooms += MayUse(other);
+    static const QStringList table = QString::fromUtf8(ReadAll(TALMIR_SOURCE_DIR "/src/README.md")).split('\n');
+    static const QRegularExpression name("`(\\w+)`");
+    QStringList rooms;
+    for (const QString& row : table.filter("| `" + room + "/` |"))
+        for (auto other = name.globalMatch(row.section('|', 3)); other.hasNext();) {
+            rooms.append(other.next().captured(1));
+            rooms += MayUse(rooms.constLast());
+        }
     return rooms;
 }
 
@@ -90,8 +81,8 @@ TEST(House, EveryIncludeKeepsToTheOrderOfTheRooms) {
 TEST(House, TheRuleForIncludesSeesEachFault) {
     const std::pair<const char*, const char*> faults[] = {
         {"form/form.h", "\"system/save_file.h\""}, {"app/play.cpp", "\"cli/json.h\""},
-        {"form/form.h", "\"control.h\""},           {"form/form.h", "<QtWidgets/QLabel>"},
-        {"window/main.cpp", "<sys/stat.h>"},        {"system/folder.cpp", "<windows.h>"}};
+        {"form/form.h", "\"control.h\""},          {"form/form.h", "<QtWidgets/QLabel>"},
+        {"window/main.cpp", "<sys/stat.h>"},       {"system/folder.cpp", "<windows.h>"}};
     for (const auto& [file, include] : faults)
         EXPECT_NE(Fault(file, include), "") << file << ' ' << include;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "localisation/languages.h"
 #include "app/program.h"
+#include "localisation/languages.h"
 #include "support/scripted_platform.h"
 
 #include <ostream>
