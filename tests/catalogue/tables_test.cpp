@@ -40,12 +40,15 @@ TEST(Catalogue, HoldsTheGamesRows) {
               (std::vector{0x060662F1U, 0x79D335F2U, 0xE1DD5D93U}));
 }
 
-TEST(Links, FollowTheTokens) {
-    // But for two pairs of different tokens, and eleven equal ones that are not linked.
+TEST(Links, AreThoseOfTheGame) {
+    // They follow the tokens but for two pairs of different tokens, and eleven equal ones that are not linked.
     const QStringList unlinked{"AGILITY",    "BEAR_ROAR",  "DEATH_CLOUD",      "DEATH_WAIL", "ENRAGED",         "FEAR",
                                "LIFE_DRAIN", "MANA_DRAIN", "ENTANGLING_ROOTS", "VENOM",      "POISONOUS_ATTACK"};
     int links = 0;
-    for (int i = 1; i <= Ability::Count; ++i)
+    for (int i = 1; i <= Ability::Count; ++i) {
+        EXPECT_EQ(IsOneSidedAbility(i), i == 75 || i == 132) << i;
+        EXPECT_EQ(IsOneSidedSpecability(i), i == 3 || i == 49) << i;
+        EXPECT_EQ(IsNature(i), i == 49 || i == 65 || i == 111 || i == 164) << i;
         for (int j = 0; j <= SpecabilityCount; ++j) {
             const QString token = Token(AbilityCatalogue[static_cast<std::size_t>(i)].token);
             const bool same = token == Token(SpecabilityToken[static_cast<std::size_t>(j)]);
@@ -54,6 +57,7 @@ TEST(Links, FollowTheTokens) {
             EXPECT_EQ(LinkedAbility(j) == i, linked) << i << ' ' << j;
             links += linked;
         }
+    }
     EXPECT_EQ(links, 36);
 }
 

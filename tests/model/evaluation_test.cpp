@@ -1,127 +1,54 @@
 #include "model/evaluation.h"
 
-#include "support/test_program.h"
+#include "support/cases_file.h"
 #include "text/numbers.h"
 
 #include <gtest/gtest.h>
+
+#include <QMap>
 
 namespace Hesperin {
 
 namespace {
 
-using What = Correction::What;
-
-/// A creature that nothing has to be corrected in.
-Creature Valid() {
+/// What Validate makes of a creature of fives, with the values that `words` gives it: its corrections, and the
+/// parameters that aren't 5.
+QString Validation(const QString& words) {
+    static const QMap<QString, NumberField> numbers{{"Mana", NumberField::Mana},     {"Shots", NumberField::Shots},
+                                                    {"Attack", NumberField::Attack}, {"Defence", NumberField::Defence},
+                                                    {"Health", NumberField::Health}, {"MinDam", NumberField::MinDam},
+                                                    {"MaxDam", NumberField::MaxDam}};
+    static const QMap<QString, ListField> lists{
+        {"Speed", ListField::Speed}, {"Initiative", ListField::Initiative}, {"Tier", ListField::Tier}};
+    static const QStringList corrected =
+        QString("Mana Shots Attack Defence Health MinDam MaxDam DamageOrder Speed Initiative Tier").split(' ');
     Creature creature = EmptyCreature();
-    for (QString& number : creature.Numbers)
-        number = "10";
-    return creature;
-}
-
-Validated After(const Creature& creature) { return Validate(EnteredOf(creature)); }
-
-TEST(Validation, LimitsEachParameterToItsRangeAndTellsItOnce) {
-    EXPECT_EQ(After(Valid()).corrections, std::vector<Correction>());
-    const struct {
-        What what;
-        NumberField number;
-        ListField list;
-        Parameter parameter;
-        std::int16_t limit;
-    } fields[] = {
-        {What::Attack, NumberField::Attack, {}, Parameter::Attack, 50},
-        {What::Defence, NumberField::Defence, {}, Parameter::Defence, 50},
-        {What::Health, NumberField::Health, {}, Parameter::Health, 400},
-        {What::MaxDam, NumberField::MaxDam, {}, Parameter::MaxDam, 95},
-        {What::Speed, NumberField::Count, ListField::Speed, Parameter::Speed, 9},
-        {What::Initiative, NumberField::Count, ListField::Initiative, Parameter::Initiative, 20},
-        {What::Tier, NumberField::Count, ListField::Tier, Parameter::Tier, 8},
-    };
-    for (const auto& field : fields) {
-        const std::int16_t limit = field.limit;
-        const QString text = QString::number(limit);
-        const struct {
-            QString text;
-            std::int16_t value;
-            bool corrected;
-        } cases[] = {
-            {text, limit, false},
-            {QString::number(limit + 1), limit, true},
-            {text + ".5", limit, limit % 2 != 0},
-            {"70000", limit, true},
-            {"1e999", limit, true},
-            {"", 1, true},
-            {"0", 1, true},
-            {"abc", 1, true},
-            {"-5", 1, true},
-            {"0.4", 1, true},
-            {"0.5", 1, true},
-            {"1.5", 2, false},
-            {"7abc", 7, false},
-        };
-        for (const auto& row : cases) {
-            SCOPED_TRACE(testing::Message() << int(field.what) << ' ' << row.text.toStdString());
-            Creature creature = Valid();
-            creature.Numbers[NumberField::MinDam] = "1";
-            (field.number == NumberField::Count ? creature.Choices[field.list].text : creature.Numbers[field.number]) =
-                row.text;
-            const Validated validated = After(creature);
-            EXPECT_EQ(validated.parameters[field.parameter], row.value);
-            std::vector<Correction> corrections;
-            if (row.corrected)
-                corrections.push_back({field.what, row.text, row.value});
-            EXPECT_EQ(validated.corrections, corrections);
-        }
+    creature.Numbers.items.fill("5");
+    for (const ListField list : lists)
+        creature.Choices[list].text = "5";
+    for (const QString& word : words.split(' ')) {
+        const QString name = word.section('=', 0, 0);
+        if (numbers.contains(name))
+            creature.Numbers[numbers[name]] = word.section('=', 1);
+        else if (lists.contains(name))
+            creature.Choices[lists[name]].text = word.section('=', 1);
+        else if (name == "Ticked")
+            creature.Abilities[Ability::Caster] = creature.Abilities[Ability::Shooter] = true;
     }
+    const Validated validated = Validate(EnteredOf(creature));
+    EXPECT_EQ(validated.parameters.Shooter, creature.Has(Ability::Shooter));
+    QStringList told;
+    for (const Correction& correction : validated.corrections)
+        told.append(QString("%1 '%2' becomes %3")
+                        .arg(corrected[int(correction.what)], correction.from, QString::number(correction.to)));
+    QStringList taken;
+    for (std::size_t i = 0; i < ParameterRanges.items.size(); ++i)
+        if (const auto value = validated.parameters[static_cast<Parameter>(i)]; value != 5)
+            taken.append(QString("%1 %2").arg(ParameterRanges.items[i].name).arg(value));
+    return told.join('\n') + '\n' + taken.join(", ");
 }
 
-TEST(Validation, TheMinimumDamageFollowsTheMaximum) {
-    const struct {
-        const char* minimum;
-        const char* maximum;
-        std::vector<Correction> corrections;
-        std::int16_t minimumAfter;
-        std::int16_t maximumAfter;
-    } cases[] = {
-        {"20", "20", {}, 20, 20},
-        {"90", "95", {}, 90, 95},
-        {"95", "95", {{What::MinDam, "95", 90}}, 90, 95},
-        {"30", "20", {{What::DamageOrder, "30", 20}}, 20, 20},
-        {"100", "20", {{What::MinDam, "100", 90}, {What::DamageOrder, "90", 20}}, 20, 20},
-        {"50", "0", {{What::MaxDam, "0", 1}, {What::DamageOrder, "50", 1}}, 1, 1},
-        {"0", "200", {{What::MinDam, "0", 1}, {What::MaxDam, "200", 95}}, 1, 95},
-        {"2.5", "1.6", {}, 2, 2},
-        {"3.4", "1.6", {{What::DamageOrder, "3", 2}}, 2, 2},
-    };
-    for (const auto& row : cases) {
-        SCOPED_TRACE(testing::Message() << row.minimum << " to " << row.maximum);
-        Creature creature = Valid();
-        creature.Numbers[NumberField::MinDam] = row.minimum;
-        creature.Numbers[NumberField::MaxDam] = row.maximum;
-        const Validated validated = After(creature);
-        EXPECT_EQ(validated.corrections, row.corrections);
-        EXPECT_EQ(validated.parameters.MinDam, row.minimumAfter);
-        EXPECT_EQ(validated.parameters.MaxDam, row.maximumAfter);
-    }
-}
-
-TEST(Validation, ManaAndShotsNeedOnlyBeAboveZeroAndOnlyWhileTheirAbilityIsTicked) {
-    const std::pair<const char*, bool> cases[] = {{"0", true},  {"", true},     {"abc", true},
-                                                  {"-3", true}, {"0.4", false}, {"70000", false}};
-    for (const auto& [text, wrong] : cases)
-        for (const bool ticked : {false, true}) {
-            Creature creature = Valid();
-            creature.Set(Ability::Caster, ticked);
-            creature.Set(Ability::Shooter, ticked);
-            creature.Numbers[NumberField::Mana] = creature.Numbers[NumberField::Shots] = text;
-            std::vector<Correction> corrections;
-            if (wrong && ticked)
-                corrections = {{What::Mana, text, 1}, {What::Shots, text, 1}};
-            EXPECT_EQ(After(creature).corrections, corrections) << text << ticked;
-            EXPECT_EQ(After(creature).parameters.Shooter, ticked);
-        }
-}
+TEST(Validation, CorrectsAndTellsIt) { ExpectCases("model/validation.txt", Validation); }
 
 TEST(AbilityProduct, IsAThirtyTwoBitFloatFormedInIndexOrder) {
     // Products of the catalogue's values, each step rounded to 32 bits. In 64 bits, or backwards, the last of the
