@@ -4,7 +4,6 @@
 #include "app/handlers/info_menu.h"
 #include "app/handlers/options_menu.h"
 
-#include <QDir>
 #include <QRegularExpression>
 
 namespace Hesperin {

@@ -3,6 +3,10 @@
 
 #include "app/window_snapshot.h"
 
+#include <QDir>
+
+#include <memory>
+
 namespace Hesperin {
 
 /// Does what a user does, and tells in order all that comes of it: boxes, dialogs, what has changed in the window

@@ -3,23 +3,16 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
-
 namespace Hesperin {
 
 namespace {
 
-class Sessions : public testing::TestWithParam<const char*> {};
-
-TEST_P(Sessions, GoAsTold) {
-    Session session;
-    ExpectCases(QString("app/%1.txt").arg(GetParam()), [&](const QString& line) { return session.Outcome(line); });
+TEST(Sessions, GoAsTold) {
+    for (const QString& name : QDir(TALMIR_SOURCE_DIR "/tests/data/app").entryList({"*.txt"})) {
+        Session session;
+        ExpectCases("app/" + name, [&](const QString& line) { return session.Outcome(line); });
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(App, Sessions,
-                         testing::Values("start", "calculate", "boxes", "lists_and_keys", "resets", "menus", "language",
-                                         "open", "refused", "save"),
-                         [](const auto& name) { return std::string(name.param); });
 
 } // namespace
 

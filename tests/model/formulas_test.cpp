@@ -93,33 +93,23 @@ TEST(Formulas, EveryTierHasItsOwnConstants) {
     // At a Power of 1000 by both methods. The 32-bit floats next to 0.35, 0.48 and 0.59 lie below
     // them, so that a thousand times each falls short of the whole number. From tier 5 on growth is
     // fixed.
-    const struct {
-        std::int16_t tier;
-        std::int16_t experience;
-        std::int16_t numerator;
-        std::int16_t upgradedNumerator;
-        std::int16_t growthRolvane;
-        std::int16_t growthHesperin;
-        double costRolvane;
-        double costHesperin;
-    } cases[] = {
-        {1, 100, 2000, 1250, 2, 1, 349, 466}, {2, 90, 2400, 1500, 2, 1, 400, 633}, {3, 83, 2900, 1812, 2, 2, 430, 625},
-        {4, 71, 3650, 2281, 3, 2, 479, 700},  {5, 62, 4650, 2906, 3, 3, 589, 785}, {6, 55, 5000, 3125, 2, 2, 680, 850},
-        {7, 50, 7000, 4375, 1, 1, 750, 818},  {8, 45, 9000, 5625, 1, 1, 800, 803},
+    // Experience, the growth numerator plain and upgraded, growth and cost by the two methods.
+    const std::pair<std::int16_t, std::vector<double>> cases[] = {
+        {1, {100, 2000, 1250, 2, 1, 349, 466}}, {2, {90, 2400, 1500, 2, 1, 400, 633}},
+        {3, {83, 2900, 1812, 2, 2, 430, 625}},  {4, {71, 3650, 2281, 3, 2, 479, 700}},
+        {5, {62, 4650, 2906, 3, 3, 589, 785}},  {6, {55, 5000, 3125, 2, 2, 680, 850}},
+        {7, {50, 7000, 4375, 1, 1, 750, 818}},  {8, {45, 9000, 5625, 1, 1, 800, 803}},
     };
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.tier);
-        const Figures figures = Of(1000, 1000, row.tier);
-        const Figures upgraded = Of(1000, 1000, row.tier, Upgraded);
-        EXPECT_EQ(figures.ExpRolvane, row.experience);
-        EXPECT_EQ(figures.ExpHesperin, row.experience);
-        EXPECT_EQ(figures.GrowthNumerator, row.numerator);
-        EXPECT_EQ(upgraded.GrowthNumerator, row.upgradedNumerator);
-        EXPECT_EQ(figures.GrowthRolvane, row.growthRolvane);
-        EXPECT_EQ(figures.GrowthHesperin, row.growthHesperin);
-        EXPECT_TRUE(row.tier < 5 || upgraded.GrowthRolvane == row.growthRolvane);
-        EXPECT_EQ(figures.CostRolvane, row.costRolvane);
-        EXPECT_EQ(figures.CostHesperin, row.costHesperin);
+    for (const auto& [tier, expected] : cases) {
+        const Figures f = Of(1000, 1000, tier);
+        const Figures upgraded = Of(1000, 1000, tier, Upgraded);
+        EXPECT_EQ(
+            (std::vector<double>{double(f.ExpRolvane), double(f.GrowthNumerator), double(upgraded.GrowthNumerator),
+                                 double(f.GrowthRolvane), double(f.GrowthHesperin), f.CostRolvane, f.CostHesperin}),
+            expected)
+            << tier;
+        EXPECT_EQ(f.ExpHesperin, expected[0]);
+        EXPECT_TRUE(tier < 5 || upgraded.GrowthRolvane == f.GrowthRolvane);
     }
     EXPECT_EQ(Of(365, 365, 4).GrowthRolvane, 10); // 3650 / 365
 }
