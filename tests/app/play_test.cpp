@@ -183,6 +183,7 @@ TEST(Play, SavingAndOpeningGivesTheCreatureBack) {
         expected.Numbers[NumberField::Growth] =
             QString::number(std::max(1, (figures.GrowthRolvane + figures.GrowthHesperin) / 2));
         expected.SpecabilityFlag = creature.SpecabilityFlag; // follows the last rule that ran
+        EXPECT_EQ(BrokenInvariant(opened.program), "");
         EXPECT_TRUE(creature == expected) << Difference(creature, expected);
 
         const auto document = LoadCreatureDocument(saved.Path("Creature_222.xdb"));
