@@ -50,7 +50,7 @@ private:
     }
 
     QString Shown(const Control& control) {
-        const QString shown = control.Shown();
+        QString shown = control.Shown();
         if (const auto* selector = dynamic_cast<const MultiOption*>(&control))
             return Words(*selector);
         if (const auto* box = dynamic_cast<const CheckBox*>(&control))
