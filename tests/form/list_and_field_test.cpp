@@ -11,7 +11,7 @@ struct ListTest : testing::Test, ControlView {
     ListTest() {
         list.SetItems({"a", "b", "c"});
         list.SetView(this);
-        list.SetClick([this] { Log("click"); });
+        list.SetChangeRule([this] { Log("click"); });
     }
 
     void Changed(Control&, Property) override { Log("view"); }
@@ -46,6 +46,10 @@ TEST_F(ListTest, RefillingLeavesNothingSelectedAndClicksNothing) {
     EXPECT_EQ(list.Text(), "");
     list.Select(2); // the same position as before the refill is a new selection
     EXPECT_EQ(log.filter("click"), (QStringList{"click 2 c", "click 2 z"}));
+    list.Restore(1, {}); // the entry's text; nothing runs
+    list.Restore(-1, "12");
+    EXPECT_EQ(log.mid(log.size() - 2), (QStringList{"view 1 y", "view -1 12"}));
+    list.Select(2);
     list.AddItem("more");
     EXPECT_EQ(list.Items().size(), 4);
     EXPECT_EQ(list.Text(), "z");

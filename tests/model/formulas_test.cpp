@@ -8,18 +8,29 @@ namespace Hesperin {
 
 namespace {
 
-constexpr float Upgraded = 1.6F;
-
-Creature AtTier(std::int16_t tier, float upgradeFactor = 1) {
-    Creature creature;
-    creature.Tier = tier;
-    creature.UpgradeFactor = upgradeFactor;
-    return creature;
-}
+constexpr float Upgraded = UpgradedFactor;
 
 /// The figures of a creature of given Powers.
 Figures Of(double rolvane, double hesperin, std::int16_t tier, float upgradeFactor = 1) {
-    return ComputeFigures(AtTier(tier, upgradeFactor), {0, 0, rolvane, hesperin});
+    Parameters parameters;
+    parameters.Tier = tier;
+    parameters.UpgradeFactor = upgradeFactor;
+    return ComputeFigures(parameters, {0, 0, rolvane, hesperin});
+}
+
+TEST(WholeValue, IsOneThenZeroThenCutsTheFractionOff) {
+    const std::pair<double, double> cases[] = {
+        // clang-format off
+        {-1000, 1},                   {-0.7, 1},                    {0, 1},
+        {0.5, 1},                     {0.509999, 1},                {std::nextafter(0.51, 0), 1},
+        {0.51, 0},                    {0.6, 0},                     {0.99, 0},
+        {std::nextafter(1, 0), 0},    {1, 1},                       {1.49, 1},
+        {1.99, 1},                    {2.5, 2},                     {2.99, 2},
+        {129.0416, 129},              {3e9 + 0.75, 3e9},
+        // clang-format on
+    };
+    for (const auto& [x, whole] : cases)
+        EXPECT_EQ(WholeValue(x), whole) << x;
 }
 
 TEST(Formulas, WorkedExamples) {
@@ -28,7 +39,7 @@ TEST(Formulas, WorkedExamples) {
     using Results = std::vector<double>;
     const struct {
         const char* what;
-        Creature creature;
+        Parameters creature;
         Results expected;
     } cases[] = {
         {"plain", {4, 3, 10, 2, 3, 5, 10, 2, 1, 1, false}, {129, 146, 137, 11, 13, 12, 18, 15, 16, 54, 63, 58}},
@@ -41,12 +52,11 @@ TEST(Formulas, WorkedExamples) {
     for (const auto& row : cases) {
         const Powers powers = ComputePowers(row.creature);
         const Figures f = ComputeFigures(row.creature, powers);
-        EXPECT_EQ(
-            (Results{powers.PowerRolvane, powers.PowerHesperin, f.PowerAverage, double(f.ExpRolvane),
-                     double(f.ExpHesperin), double(f.ExpAverage), double(f.GrowthRolvane), double(f.GrowthHesperin),
-                     double(f.GrowthAverage), f.CostRolvane, f.CostHesperin, f.CostAverage}),
-            row.expected)
-            << row.what;
+        Results results;
+        for (const Figure figure : {Figure::Power, Figure::Experience, Figure::Growth, Figure::Cost})
+            for (const Method method : {Method::Rolvane, Method::Hesperin, Method::Average})
+                results.push_back(ResultOf(powers, f, method, figure));
+        EXPECT_EQ(results, row.expected) << row.what;
     }
     const Powers powers = ComputePowers(cases[0].creature);
     EXPECT_NEAR(powers.OffenceScore, 2.8688075, 1e-7);
@@ -56,7 +66,7 @@ TEST(Formulas, WorkedExamples) {
 TEST(Formulas, AbilitiesMultiplyTheFirstPowerAndStandUnderTheRootOfTheSecond) {
     // Two creatures whose bare Powers are known, times a product that leaves no doubt in the last
     // digit.
-    Creature creature{4, 3, 10, 2, 3, 5, 10, 2, 144, 1, false};
+    Parameters creature{4, 3, 10, 2, 3, 5, 10, 2, 144, 1, false};
     const Powers powers = ComputePowers(creature);
     EXPECT_EQ(powers.PowerRolvane, std::floor(129.0416 * 144)); // 18581.99
     EXPECT_EQ(powers.PowerHesperin, std::floor(146.8418 * 12)); // 1762.10
@@ -67,7 +77,7 @@ TEST(Formulas, AbilitiesMultiplyTheFirstPowerAndStandUnderTheRootOfTheSecond) {
 }
 
 TEST(Formulas, SpeedCountsInTheFirstMethodOnlyAndAShooterLeansOnInitiative) {
-    Creature creature{4, 3, 10, 2, 3, 6, 20, 2, 1, 1, false};
+    Parameters creature{4, 3, 10, 2, 3, 6, 20, 2, 1, 1, false};
     EXPECT_EQ(ComputePowers(creature).PowerRolvane, 210);  // 1.5243355 × 1.8211747 × 2^0.6 × 50
     EXPECT_EQ(ComputePowers(creature).PowerHesperin, 207); // root of 43125
     creature.Speed = 9;
@@ -83,33 +93,23 @@ TEST(Formulas, EveryTierHasItsOwnConstants) {
     // At a Power of 1000 by both methods. The 32-bit floats next to 0.35, 0.48 and 0.59 lie below
     // them, so that a thousand times each falls short of the whole number. From tier 5 on growth is
     // fixed.
-    const struct {
-        std::int16_t tier;
-        std::int16_t experience;
-        std::int16_t numerator;
-        std::int16_t upgradedNumerator;
-        std::int16_t growthRolvane;
-        std::int16_t growthHesperin;
-        double costRolvane;
-        double costHesperin;
-    } cases[] = {
-        {1, 100, 2000, 1250, 2, 1, 349, 466}, {2, 90, 2400, 1500, 2, 1, 400, 633}, {3, 83, 2900, 1812, 2, 2, 430, 625},
-        {4, 71, 3650, 2281, 3, 2, 479, 700},  {5, 62, 4650, 2906, 3, 3, 589, 785}, {6, 55, 5000, 3125, 2, 2, 680, 850},
-        {7, 50, 7000, 4375, 1, 1, 750, 818},  {8, 45, 9000, 5625, 1, 1, 800, 803},
+    // Experience, the growth numerator plain and upgraded, growth and cost by the two methods.
+    const std::pair<std::int16_t, std::vector<double>> cases[] = {
+        {1, {100, 2000, 1250, 2, 1, 349, 466}}, {2, {90, 2400, 1500, 2, 1, 400, 633}},
+        {3, {83, 2900, 1812, 2, 2, 430, 625}},  {4, {71, 3650, 2281, 3, 2, 479, 700}},
+        {5, {62, 4650, 2906, 3, 3, 589, 785}},  {6, {55, 5000, 3125, 2, 2, 680, 850}},
+        {7, {50, 7000, 4375, 1, 1, 750, 818}},  {8, {45, 9000, 5625, 1, 1, 800, 803}},
     };
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.tier);
-        const Figures figures = Of(1000, 1000, row.tier);
-        const Figures upgraded = Of(1000, 1000, row.tier, Upgraded);
-        EXPECT_EQ(figures.ExpRolvane, row.experience);
-        EXPECT_EQ(figures.ExpHesperin, row.experience);
-        EXPECT_EQ(figures.GrowthNumerator, row.numerator);
-        EXPECT_EQ(upgraded.GrowthNumerator, row.upgradedNumerator);
-        EXPECT_EQ(figures.GrowthRolvane, row.growthRolvane);
-        EXPECT_EQ(figures.GrowthHesperin, row.growthHesperin);
-        EXPECT_TRUE(row.tier < 5 || upgraded.GrowthRolvane == row.growthRolvane);
-        EXPECT_EQ(figures.CostRolvane, row.costRolvane);
-        EXPECT_EQ(figures.CostHesperin, row.costHesperin);
+    for (const auto& [tier, expected] : cases) {
+        const Figures f = Of(1000, 1000, tier);
+        const Figures upgraded = Of(1000, 1000, tier, Upgraded);
+        EXPECT_EQ(
+            (std::vector<double>{double(f.ExpRolvane), double(f.GrowthNumerator), double(upgraded.GrowthNumerator),
+                                 double(f.GrowthRolvane), double(f.GrowthHesperin), f.CostRolvane, f.CostHesperin}),
+            expected)
+            << tier;
+        EXPECT_EQ(f.ExpHesperin, expected[0]);
+        EXPECT_TRUE(tier < 5 || upgraded.GrowthRolvane == f.GrowthRolvane);
     }
     EXPECT_EQ(Of(365, 365, 4).GrowthRolvane, 10); // 3650 / 365
 }
