@@ -7,8 +7,6 @@
 #include <QMap>
 #include <QStringList>
 
-#include <algorithm>
-
 namespace Hesperin {
 
 inline const QStringList NumberNames = QString("Shots Mana Attack Defence Health MinDam MaxDam Power Exp Gold Growth "
@@ -18,19 +16,15 @@ inline const QStringList ListNames =
     QString("Upgrade Tier FirstElement SecondElement Speed Initiative Faction Alias Range Diapazon TimeToCommand")
         .split(' ');
 
-template <typename Table>
-int IndexOf(const QString& token, const Table& tokens) {
-    for (std::size_t i = 0; i < tokens.size(); ++i)
-        if (tokens[i] != nullptr && token == QString::fromUtf16(tokens[i]))
-            return static_cast<int>(i);
-    qFatal("no such token: %s", qUtf8Printable(token));
-}
+inline QString NameOf(const char16_t* token) { return QString::fromUtf16(token); }
+inline QString NameOf(const AbilityRow& ability) { return NameOf(ability.token); }
 
-inline std::array<const char16_t*, Ability::Count + 1> AbilityNames() {
-    std::array<const char16_t*, Ability::Count + 1> names{};
-    std::transform(AbilityCatalogue.begin() + 1, AbilityCatalogue.end(), names.begin() + 1,
-                   [](const AbilityRow& row) { return row.token; });
-    return names;
+template <typename Table>
+std::size_t IndexOf(const QString& name, const Table& tokens) {
+    for (std::size_t i = 0; i < tokens.size(); ++i)
+        if (name == NameOf(tokens[i]))
+            return i;
+    qFatal("no such token: %s", qUtf8Printable(name));
 }
 
 template <typename Skills, typename Tokens>
@@ -38,7 +32,7 @@ QString Known(const Skills& skills, const Tokens& tokens) {
     QStringList known;
     for (std::size_t i = 0; i < skills.size(); ++i)
         if (skills[i].known)
-            known.append(QString("%1 %2").arg(QString::fromUtf16(tokens[i])).arg(skills[i].mastery));
+            known.append(NameOf(tokens[i]) + ' ' + QString::number(skills[i].mastery));
     return known.join(", ");
 }
 
@@ -59,9 +53,9 @@ inline QMap<QString, QString> InWords(const Creature& creature) {
         words[ListNames[i]] = QString("%1 [%2]").arg(choice.text).arg(choice.index);
     }
     QStringList abilities;
-    for (int i = 1; i <= Ability::Count; ++i)
-        if (creature.Has(i))
-            abilities.append(QString::fromUtf16(AbilityNames()[static_cast<std::size_t>(i)]));
+    for (std::size_t i = 1; i <= Ability::Count; ++i)
+        if (creature.Abilities[i])
+            abilities.append(NameOf(AbilityCatalogue[i]));
     words["Abilities"] = abilities.join(' ');
     return words;
 }
@@ -79,11 +73,11 @@ inline void Enter(Creature& creature, const QString& words) {
     else if (const auto chosen = ListNames.indexOf(parts[0]); chosen >= 0)
         creature.Choose(static_cast<ListField>(chosen), number(1));
     else if (parts[0] == "ability")
-        creature.Set(IndexOf(parts[1], AbilityNames()), true);
+        creature.Abilities[IndexOf(parts[1], AbilityCatalogue)] = true;
     else if (parts[0] == "spell")
-        creature.Spells[static_cast<std::size_t>(IndexOf(parts[1], SpellToken))] = {true, number(2)};
+        creature.Spells[IndexOf(parts[1], SpellToken)] = {true, number(2)};
     else if (parts[0] == "specability")
-        creature.Specabilities[static_cast<std::size_t>(IndexOf(parts[1], SpecabilityToken))] = {true, number(2)};
+        creature.Specabilities[IndexOf(parts[1], SpecabilityToken)] = {true, number(2)};
     else if (parts[0] == "charges")
         creature.SpellPoints1Count = number(1);
     else if (words == "flag")
