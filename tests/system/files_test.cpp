@@ -25,6 +25,9 @@ TEST_F(ReadFileTest, GivesTheBytesUpToTheLimitOrTellsWhyNot) {
     };
     for (const auto& [path, why] : refused)
         EXPECT_EQ(NameOf(ReadFile(path, 6)), why) << path.toStdString();
+    if (QFile::exists("/proc/version")) {
+        EXPECT_EQ(NameOf(ReadFile("/proc/version", 6)), "FileTooLarge") << "a file that doesn't tell its size";
+    }
 }
 
 using PathLookupTest = Files;
