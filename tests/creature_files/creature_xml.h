@@ -2,63 +2,31 @@
 #pragma once
 
 #include <QByteArray>
-#include <QList>
-#include <QString>
-
-#include <initializer_list>
+#include <QStringList>
 
 namespace Hesperin {
 
 class CreatureXml {
 public:
     CreatureXml() {
-        for (const auto& [name, content] : std::initializer_list<std::pair<const char*, const char*>>{
-                 {"AttackSkill", "11"},
-                 {"DefenceSkill", "12"},
-                 {"Shots", "0"},
-                 {"MinDamage", "5"},
-                 {"MaxDamage", "8"},
-                 {"Speed", "6"},
-                 {"Initiative", "9"},
-                 {"Flying", "false"},
-                 {"Health", "40"},
-                 {"KnownSpells", ""},
-                 {"SpellPoints", "0"},
-                 {"SpellPoints1", "0"},
-                 {"Exp", "61"},
-                 {"Power", "905"},
-                 {"TimeToCommand", "15"},
-                 {"CreatureTier", "4"},
-                 {"Upgrade", "true"},
-                 {"CreatureTown", "TOWN_ACADEMY"},
-                 {"First", "ELEMENT_AIR"},
-                 {"Second", "ELEMENT_WATER"},
-                 {"WeeklyGrowth", "7"},
-                 {"Wood", "1"},
-                 {"Ore", "2"},
-                 {"Mercury", "3"},
-                 {"Crystal", "4"},
-                 {"Sulfur", "5"},
-                 {"Gem", "6"},
-                 {"Gold", "420"},
-                 {"CombatSize", "1"},
-                 {"Range", "-1"},
-                 {"Upgrades", ""},
-                 {"Abilities", ""},
-             })
-            elements.append(Element{name, content});
+        const QString basis =
+            "AttackSkill=11 DefenceSkill=12 Shots=0 MinDamage=5 MaxDamage=8 Speed=6 Initiative=9 Flying=false "
+            "Health=40 "
+            "KnownSpells= SpellPoints=0 SpellPoints1=0 Exp=61 Power=905 TimeToCommand=15 CreatureTier=4 Upgrade=true "
+            "CreatureTown=TOWN_ACADEMY First=ELEMENT_AIR Second=ELEMENT_WATER WeeklyGrowth=7 Wood=1 Ore=2 Mercury=3 "
+            "Crystal=4 Sulfur=5 Gem=6 Gold=420 CombatSize=1 Range=-1 Upgrades= Abilities=";
+        for (const QString& element : basis.split(' '))
+            elements.append({element.section('=', 0, 0), element.section('=', 1)});
     }
 
     /// Replaces the content of an element; markup in it stands as it is.
-    CreatureXml& Set(const char* name, const QString& content) {
-        for (Element& element : elements)
-            if (element.name == name)
-                element.content = content;
+    CreatureXml& Set(const QString& name, const QString& content) {
+        Content(name) = content;
         return *this;
     }
 
-    CreatureXml& Remove(const char* name) {
-        elements.removeIf([name](const Element& element) { return element.name == name; });
+    CreatureXml& Remove(const QString& name) {
+        elements.removeIf([&](const auto& element) { return element.first == name; });
         return *this;
     }
 
@@ -75,35 +43,34 @@ public:
     }
 
     CreatureXml& Spell(const QString& token, const QString& mastery) {
-        return Append("KnownSpells",
-                      QString("<Item><Spell>SPELL_%1</Spell><Mastery>MASTERY_%2</Mastery></Item>").arg(token, mastery));
+        Content("KnownSpells") +=
+            QString("<Item><Spell>SPELL_%1</Spell><Mastery>MASTERY_%2</Mastery></Item>").arg(token, mastery);
+        return *this;
     }
 
-    CreatureXml& Ability(const QString& token) { return Append("Abilities", "<Item>ABILITY_" + token + "</Item>"); }
+    CreatureXml& Ability(const QString& token) {
+        Content("Abilities") += "<Item>ABILITY_" + token + "</Item>";
+        return *this;
+    }
 
     QByteArray Bytes() const {
         QString text = "<Creature>" + lead;
-        for (const Element& element : elements)
-            text += QString("<%1>%2</%1>\n").arg(element.name, element.content);
+        for (const auto& [name, content] : elements)
+            text += QString("<%1>%2</%1>\n").arg(name, content);
         if (!reference.isEmpty())
             text += "<MonsterShared href=\"" + reference + "\"/>";
         return (text + "</Creature>").toUtf8();
     }
 
 private:
-    struct Element {
-        QString name;
-        QString content;
-    };
-
-    CreatureXml& Append(const char* name, const QString& markup) {
-        for (Element& element : elements)
-            if (element.name == name)
-                element.content += markup;
-        return *this;
+    QString& Content(const QString& name) {
+        for (auto& element : elements)
+            if (element.first == name)
+                return element.second;
+        qFatal("no such element: %s", qUtf8Printable(name));
     }
 
-    QList<Element> elements;
+    QList<std::pair<QString, QString>> elements;
     QString lead;
     QString reference = "/Maps/Bog_wyrm.(AdvMapMonsterShared).xdb#xpointer(/AdvMapMonsterShared)";
 };

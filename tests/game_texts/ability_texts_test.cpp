@@ -1,20 +1,22 @@
 #include "game_texts/ability_texts.h"
-
-#include "app/handlers/options_menu.h"
-#include "support/test_program.h"
-
-#include <gtest/gtest.h>
+#include "system/files.h"
 
 namespace Hesperin {
 
 namespace {
 
-/// Writes a file of the text tree; `name` begins with the ability's folder.
-void WriteText(const TestProgram& test, const QString& language, const QString& name, const QByteArray& bytes) {
-    test.Write(language + "/Text/Game/Creatures/Creature_abilities/" + name + ".txt", bytes);
-}
+struct AbilityTextsTest : Files {
+    /// Writes a file of the text tree; `name` begins with the ability's folder.
+    void WriteText(const QString& language, const QString& name, const QByteArray& bytes) const {
+        Write(language + "/Text/Game/Creatures/Creature_abilities/" + name + ".txt", bytes);
+    }
 
-TEST(AbilityTexts, LieUnderTheGamesFileNames) {
+    AbilityWords WordsOf(int ability, const QString& language = "EN") const {
+        return LoadAbilityTexts(language, {folder.path(), Path("settings")}).at(static_cast<std::size_t>(ability));
+    }
+};
+
+TEST_F(AbilityTextsTest, LieUnderTheGamesFileNames) {
     const struct {
         int index;
         const char* nameFile;
@@ -36,117 +38,66 @@ TEST(AbilityTexts, LieUnderTheGamesFileNames) {
         {1, "AcidBlood/name", "AcidBlood/description"},
         {28, "Presence_of_the_storm/name", "Presence_of_the_storm/description"},
     };
-    TestProgram test;
-    WriteText(test, "EN", "Life_drain/Life_drain_desc", "not this one");
-    WriteText(test, "EN", "Rebirth/Rebirth_name", "not this one");
+    WriteText("EN", "Life_drain/Life_drain_desc", "not this one");
+    WriteText("EN", "Rebirth/Rebirth_name", "not this one");
     for (const auto& row : cases) {
-        WriteText(test, "EN", row.nameFile, row.nameFile);
-        WriteText(test, "EN", row.descFile, row.descFile);
-    }
-    LoadAbilityTexts(test.program);
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.index);
-        EXPECT_EQ(test.form.utbN(row.index).Text(), row.nameFile);
-        EXPECT_EQ(test.form.utbD(row.index).Text(), row.descFile);
-        AbilityTextFiles(test.state, row.index);
-        EXPECT_EQ(test.state.AbilityNameFile, QString(row.nameFile).section('/', 1));
-        EXPECT_EQ(test.state.AbilityDescFile, QString(row.descFile).section('/', 1));
+        WriteText("EN", row.nameFile, row.nameFile);
+        WriteText("EN", row.descFile, row.descFile);
+        EXPECT_EQ(WordsOf(row.index).name, row.nameFile);
+        EXPECT_EQ(WordsOf(row.index).description, row.descFile);
+        EXPECT_EQ(AbilityTextFiles(row.index).AbilityNameFile, QString(row.nameFile).section('/', 1));
+        EXPECT_EQ(AbilityTextFiles(row.index).AbilityDescFile, QString(row.descFile).section('/', 1));
     }
 }
 
-TEST(AbilityTexts, AreDecodedByTheirBytes) {
-    const QByteArray utf16le("\x16\x04\x61\0\x2C\x67", 6); // "Жa本"
-    const QByteArray utf16be("\x04\x16\0\x61\x67\x2C", 6);
+TEST_F(AbilityTextsTest, AreDecodedByTheirLanguageAndANameLosesOneLineEnd) {
     const struct {
-        const char* what;
         const char* language;
         QByteArray bytes;
-        const char* text;
+        const char* name;
+        const char* description;
     } cases[] = {
-        {"UTF-16 LE with a mark", "EN", QByteArray("\xFF\xFE") + utf16le, "Жa本"},
-        {"UTF-16 BE with a mark", "EN", QByteArray("\xFE\xFF") + utf16be, "Жa本"},
-        {"UTF-16 LE without a mark", "EN", QByteArray("F\0i\0r\0e\0", 8), "Fire"},
-        {"UTF-8", "EN", "Жa本", "Жa本"},
-        {"UTF-8 with a mark", "EN", "\xEF\xBB\xBFЖa本", "Жa本"},
-        {"UTF-8 in Russian", "RU", "Жар", "Жар"},
-        {"Windows-1252", "EN", "caf\xE9 \x80", "café €"},
-        {"Windows-1251", "RU", "\xC6\xE0\xF0", "Жар"},
-        {"the last letter would begin a UTF-8 sequence", "FR", "Agilit\xE9", "Agilité"},
-        {"and so would the only one", "DE", "\xC4", "Ä"},
-        {"only the mark", "EN", "\xFF\xFE", ""},
+        {"EN", "Bash\r\n", "Bash", "Bash\r\n"},
+        {"EN", "Bash\n", "Bash", "Bash\n"},
+        {"EN", "Bash\r", "Bash", "Bash\r"},
+        {"EN", "Bash\n\n", "Bash\n", "Bash\n\n"},
+        {"EN", "Bash\r\n\r\n", "Bash\r\n", "Bash\r\n\r\n"},
+        {"EN", "A\nB", "A\nB", "A\nB"},
+        {"EN", "\n", "", "\n"},
+        {"EN", " Bash ", " Bash ", " Bash "},
+        {"EN", QByteArray("\xFF\xFE\x16\x04\n\0", 6), "Ж", "Ж\n"},
+        {"EN", "\xC4", "Ä", "Ä"},
+        {"FR", "Agilit\xE9", "Agilité", "Agilité"},
+        {"RU", "\xC6\xE0\xF0", "Жар", "Жар"},
+        {"RU", "Жар", "Жар", "Жар"},
     };
     for (const auto& row : cases) {
-        SCOPED_TRACE(row.what);
-        TestProgram test;
-        test.state.messages.LanguageCode = row.language;
-        WriteText(test, row.language, "Bash/Bash_name", row.bytes);
-        WriteText(test, row.language, "Bash/Bash_desc", row.bytes);
-        LoadAbilityTexts(test.program);
-        EXPECT_EQ(test.form.utbN(16).Text(), row.text);
-        EXPECT_EQ(test.form.utbD(16).Text(), row.text);
+        WriteText(row.language, "Bash/Bash_name", row.bytes);
+        WriteText(row.language, "Bash/Bash_desc", row.bytes);
+        EXPECT_EQ(WordsOf(16, row.language).name, row.name);
+        EXPECT_EQ(WordsOf(16, row.language).description, row.description);
     }
 }
 
-TEST(AbilityTexts, ANameLosesOneLineEndAndADescriptionNone) {
-    const std::pair<const char*, const char*> cases[] = {
-        // clang-format off
-        {"Bash\r\n", "Bash"},  {"Bash\n", "Bash"},      {"Bash\r", "Bash"},
-        {"Bash\n\n", "Bash\n"}, {"Bash\r\n\r\n", "Bash\r\n"}, {"A\nB", "A\nB"},
-        {"\n", ""},             {" Bash ", " Bash "},
-        // clang-format on
-    };
-    for (const auto& [bytes, name] : cases) {
-        TestProgram test;
-        WriteText(test, "EN", "Bash/Bash_name", bytes);
-        WriteText(test, "EN", "Bash/Bash_desc", bytes);
-        LoadAbilityTexts(test.program);
-        EXPECT_EQ(test.form.utbN(16).Text(), name);
-        EXPECT_EQ(test.form.utbD(16).Text(), bytes);
+TEST_F(AbilityTextsTest, TheExactSpellingAndTheUsersFolderWin) {
+    Write("en/TEXT/game/Creatures/creature_Abilities/BASH/bash_NAME.TXT", "other letter case");
+    EXPECT_EQ(WordsOf(16).name, "other letter case");
+    WriteText("EN", "Bash/Bash_name", "exact");
+    WriteText("EN", "Bash/Bash_desc", "beside the program");
+    EXPECT_EQ(WordsOf(16).name, "exact");
+    WriteText("settings/EN", "Bash/Bash_name", "of the user");
+    EXPECT_EQ(WordsOf(16).name, "of the user");
+    EXPECT_EQ(WordsOf(16).description, "beside the program") << "a part is better than none";
+}
+
+TEST_F(AbilityTextsTest, AreEmptyWhereThereIsNoFile) {
+    WriteText("RU", "Wound/Wound_desc", "Рана");
+    WriteText("EN", "Wound/Wound_desc.txt/x", "a folder in its place");
+    WriteText("EN", "Wound/Wound_name", QByteArray(LargestAbilityText + 1, 'x'));
+    for (const char* language : {"EN", "RU", "DE"}) {
+        EXPECT_EQ(WordsOf(174, language).description, language == QString("RU") ? "Рана" : "");
+        EXPECT_EQ(WordsOf(174, language).name, "");
     }
-}
-
-TEST(AbilityTexts, AreFoundInOtherLetterCase) {
-    TestProgram test;
-    test.Write("en/TEXT/game/Creatures/creature_Abilities/BASH/bash_NAME.TXT", "Bash");
-    LoadAbilityTexts(test.program);
-    EXPECT_EQ(test.form.utbN(16).Text(), "Bash");
-    WriteText(test, "EN", "Bash/Bash_name", "exact"); // the exact spelling is preferred
-    LoadAbilityTexts(test.program);
-    EXPECT_EQ(test.form.utbN(16).Text(), "exact");
-}
-
-TEST(AbilityTexts, InTheUsersFolderWin) {
-    TestProgram test;
-    WriteText(test, "EN", "Bash/Bash_name", "beside the program");
-    WriteText(test, "EN", "Bash/Bash_desc", "beside the program");
-    QTemporaryDir settings;
-    test.platform.settingsFolder = settings.path();
-    WriteFile(settings.filePath("EN/Text/Game/Creatures/Creature_abilities/Bash/Bash_name.txt"), "of the user");
-    LoadAbilityTexts(test.program);
-    EXPECT_EQ(test.form.utbN(16).Text(), "of the user");
-    EXPECT_EQ(test.form.utbD(16).Text(), "beside the program"); // a part is better than none
-}
-
-TEST(AbilityTexts, FollowTheLanguageAndAreEmptyWhereTheTreeIsNot) {
-    TestProgram test;
-    WriteText(test, "EN", "Bash/Bash_name", "Bash");
-    WriteText(test, "RU", "Bash/Bash_name", "Оглушение");
-    WriteText(test, "RU", "Wound/Wound_desc", "Рана");
-    WriteText(test, "EN", "Wound/Wound_desc.txt/x", ""); // a folder in a file's place
-    const struct {
-        void (*switchTo)(Program&);
-        const char* bash;
-        const char* wound;
-    } steps[] = {{mnuEnglish_Click, "Bash", ""},
-                 {mnuRussian_Click, "Оглушение", "Рана"},
-                 {mnuEnglish_Click, "Bash", ""},
-                 {mnuGerman_Click, "", ""}}; // no such folder
-    for (const auto& step : steps) {
-        step.switchTo(test.program);
-        EXPECT_EQ(test.form.utbN(16).Text(), step.bash);
-        EXPECT_EQ(test.form.utbD(174).Text(), step.wound);
-    }
-    EXPECT_TRUE(test.platform.boxes.empty());
 }
 
 } // namespace

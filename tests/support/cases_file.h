@@ -18,7 +18,7 @@ void ExpectCases(const QString& name, Outcome outcome) {
     EXPECT_GT(lines.size(), 1) << "no such file: " << path.toStdString();
     QStringList whole;
     for (qsizetype at = 0; at < lines.size();) {
-        const QString act = lines[at++];
+        const QString& act = lines[at++];
         QStringList expected;
         while (at < lines.size() && lines[at].startsWith(indent))
             expected.append(lines[at++].mid(indent.size()));

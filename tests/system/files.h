@@ -1,11 +1,11 @@
 #pragma once
 
+#include "support/error_in_words.h"
 #include "support/test_program.h"
 
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QFile>
 
 namespace Hesperin {
 
@@ -13,12 +13,10 @@ namespace Hesperin {
 class Files : public ::testing::Test {
 protected:
     QString Path(const QString& name) const { return folder.filePath(name); }
+    QByteArray Content(const QString& name) const { return ReadAll(Path(name)); }
 
     QString Write(const QString& name, const QByteArray& bytes) const {
-        QDir().mkpath(QFileInfo(Path(name)).path());
-        QFile file(Path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
+        WriteFile(Path(name), bytes);
         return Path(name);
     }
 

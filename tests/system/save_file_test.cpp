@@ -1,8 +1,8 @@
 #include "system/save_file.h"
 
+#include "support/without_rights.h"
 #include "system/files.h"
 #include "system/read_file.h"
-#include "support/without_rights.h"
 
 #include <cerrno>
 
@@ -20,46 +20,49 @@ namespace {
 using SaveFileTest = Files;
 
 TEST_F(SaveFileTest, WritesTheWholeContentAndNothingElse) {
-    EXPECT_FALSE(SaveFile(Path("new"), "first\n").obstacle);
-    EXPECT_EQ(ReadAll(Path("new")), "first\n");
-    EXPECT_FALSE(SaveFile(Path("new"), "2").obstacle) << "over a longer old one";
-    EXPECT_EQ(ReadAll(Path("new")), "2");
+    EXPECT_FALSE(SaveFile(Path("new"), "first\n").failure);
+    EXPECT_EQ(Content("new"), "first\n");
+    EXPECT_FALSE(SaveFile(Path("new"), "2").failure) << "over a longer old one";
+    EXPECT_EQ(Content("new"), "2");
     EXPECT_EQ(Names(), QStringList{"new"}) << "no temporary file stays";
 }
 
 TEST_F(SaveFileTest, LeavesNothingBehindWhereItCannotWrite) {
-    EXPECT_TRUE(SaveFile(Path("missing/new"), "x").obstacle);
-    EXPECT_EQ(Names(), QStringList());
-
     Write("taken/inside", "old");
-    EXPECT_TRUE(SaveFile(Path("taken"), "x").obstacle) << "a folder stands there";
-    EXPECT_EQ(ReadAll(Path("taken/inside")), "old");
+    const std::pair<QString, const char*> refused[] = {
+        {Path("missing/new"), "FolderMissing"}, {Path("taken"), "IsFolder"}, {{}, "FolderMissing"}};
+    for (const auto& [path, why] : refused) {
+        EXPECT_EQ(NameOf(SaveRefusal(path)), why);
+        EXPECT_EQ(NameOf(SaveFile(path, "x").failure), why);
+    }
+    EXPECT_EQ(NameOf(SaveRefusal(Path("taken/inside"))) + NameOf(SaveRefusal(Path("new"))), "donedone");
+    EXPECT_EQ(Content("taken/inside"), "old");
     EXPECT_EQ(Names(), QStringList{"taken"});
-    EXPECT_TRUE(SaveFile({}, "x").obstacle);
 }
 
-TEST(ObstacleOf, KnowsTheNumbersOfTheSystem) {
-    using Kind = FileObstacle::Kind;
-    const std::pair<int, Kind> cases[] = {
+TEST(ErrorOf, KnowsTheNumbersOfTheSystem) {
+    const std::pair<int, const char*> cases[] = {
 #ifdef Q_OS_WIN
-        {ERROR_WRITE_PROTECT, Kind::DiskReadOnly},
-        {ERROR_ACCESS_DENIED, Kind::NotAllowed},
-        {ERROR_DISK_FULL, Kind::DiskFull},
-        {ERROR_CRC, Kind::Other},
+        {ERROR_WRITE_PROTECT, "DiskReadOnly"},
+        {ERROR_ACCESS_DENIED, "NotAllowed"},
+        {ERROR_DISK_FULL, "DiskFull"},
+        {ERROR_CRC, "SystemSays"},
 #else
-        {EROFS, Kind::DiskReadOnly}, {EACCES, Kind::NotAllowed},        {ENOSPC, Kind::DiskFull},
-        {EDQUOT, Kind::DiskFull},    {ENAMETOOLONG, Kind::NameTooLong}, {EIO, Kind::Other},
+        {EROFS, "DiskReadOnly"}, {EACCES, "NotAllowed"},        {ENOSPC, "DiskFull"},
+        {EDQUOT, "DiskFull"},    {ENAMETOOLONG, "NameTooLong"}, {EIO, "SystemSays"},
 #endif
     };
-    for (const auto& [code, kind] : cases)
-        EXPECT_EQ(static_cast<int>(ObstacleOf(code).kind), static_cast<int>(kind)) << code;
+    for (const auto& [code, name] : cases) {
+        EXPECT_EQ(NameOf(ErrorOf(code).what), name) << code;
+        EXPECT_EQ(ErrorOf(qt_error_string(code)), ErrorOf(code)) << "by its words";
+    }
 }
 
 TEST_F(SaveFileTest, WritesThroughASymbolicLink) {
     const QString target = Write("target", "old");
     if (!QFile::link(target, Path("link")) || !QFileInfo(Path("link")).isSymLink())
         GTEST_SKIP() << "no symbolic links here";
-    EXPECT_FALSE(SaveFile(Path("link"), "new").obstacle);
+    EXPECT_FALSE(SaveFile(Path("link"), "new").failure);
     EXPECT_TRUE(QFileInfo(Path("link")).isSymLink());
     EXPECT_EQ(ReadAll(target), "new");
 }
@@ -101,7 +104,7 @@ TEST_F(SaveFileTest, KeepsOwnerAndRightsAndTellsWhatItCannotKeep) {
         nobody.reset();
         struct stat now {};
         ASSERT_EQ(stat(name, &now), 0);
-        EXPECT_FALSE(outcome.obstacle);
+        EXPECT_FALSE(outcome.failure);
         EXPECT_EQ(outcome.notes, row.notes);
         EXPECT_EQ(now.st_mode & 07777U, row.modeAfter);
         EXPECT_EQ(now.st_uid == someone, row.others && !row.asNobody);
@@ -117,12 +120,10 @@ TEST_F(SaveFileTest, TellsThatAnotherProgramHoldsTheFile) {
     const HANDLE holder = CreateFileW(QDir::toNativeSeparators(path).toStdWString().c_str(), GENERIC_READ, 0, nullptr,
                                       OPEN_EXISTING, 0, nullptr);
     ASSERT_NE(holder, INVALID_HANDLE_VALUE);
-    const auto save = SaveFile(path, "new").obstacle;
+    const auto save = SaveFile(path, "new").failure;
     const auto read = ReadFile(path, 100);
     CloseHandle(holder);
-    ASSERT_TRUE(save && std::holds_alternative<FileObstacle>(read));
-    EXPECT_EQ(static_cast<int>(save->kind), static_cast<int>(FileObstacle::Kind::InUse));
-    EXPECT_EQ(static_cast<int>(std::get<FileObstacle>(read).kind), static_cast<int>(FileObstacle::Kind::InUse));
+    EXPECT_EQ(NameOf(save) + NameOf(read), "InUseInUse");
     EXPECT_EQ(ReadAll(path), "old");
     EXPECT_EQ(Names(), QStringList{"held"});
 }
