@@ -13,8 +13,9 @@ struct SharedState {
 
     // Abilities.
     std::array<float, Ability::Count + 1> AbilityCurrentValue{}; ///< from 1; 1.0 while unticked
-    std::int16_t SpellPoints1Count = 0;       ///< charge counter of the click rules
-    std::int16_t SpecabilityFlag = FlagFalse; ///< -1 after a tick, 0 after an untick; see box_rules.h
+    std::int16_t SpellPoints1Count = 0; ///< charge counter of the click rules
+    std::int16_t SpecabilityFlag =
+        FlagFalse; ///< -1 after a tick, 0 after an untick; see box_rules.h
 
     float UpgradeFactor = PlainFactor; ///< follows ComboUpgrade at once
 

@@ -4,8 +4,8 @@
 
 namespace Hesperin {
 
-/// Whether programs in this folder belong to all users of the computer. Then the program keeps nothing there,
-/// also where an administrator starts it, who could write.
+/// Whether programs in this folder belong to all users of the computer. Then the program keeps
+/// nothing there, also where an administrator starts it, who could write.
 bool IsSystemFolder(const QString& folder);
 
 /// Folder for this program's settings of the user, which need not exist yet.

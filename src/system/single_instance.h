@@ -18,15 +18,16 @@ public:
     /// `folder` is made if it is missing.
     explicit SingleInstance(const QString& folder);
 
-    /// The other process that holds the lock. None: this process holds it now, or starts without one because
-    /// none can be had (the folder can't be written, something else bears the lock's name). A lock is taken
-    /// over when its process no longer runs on this computer or when it can't be read. Whether the process of
-    /// another computer still runs can't be seen from here, so its lock counts as held.
+    /// The other process that holds the lock. None: this process holds it now, or starts without
+    /// one because none can be had (the folder can't be written, something else bears the lock's
+    /// name). A lock is taken over when its process no longer runs on this computer or when it
+    /// can't be read. Whether the process of another computer still runs can't be seen from here,
+    /// so its lock counts as held.
     std::optional<RunningInstance> Other();
 
 private:
-    /// Who holds the lock as its file tells; none when it names nobody, or a process of this one's number that
-    /// began earlier and so is gone.
+    /// Who holds the lock as its file tells; none when it names nobody, or a process of this one's
+    /// number that began earlier and so is gone.
     std::optional<RunningInstance> Holder() const;
 
     QString path;

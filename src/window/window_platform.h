@@ -13,8 +13,8 @@ class WindowPlatform : public Platform {
 public:
     WindowPlatform();
 
-    /// Message boxes and secondary windows open in front of `front` from now on. Before, a message box opens by
-    /// itself, and no secondary window can.
+    /// Message boxes and secondary windows open in front of `front` from now on. Before, a message
+    /// box opens by itself, and no secondary window can.
     void Attach(Program& owner, MainWindow& front);
 
     void ShowMessage(BoxIcon icon, const QString& title, const QString& text) override;

@@ -123,8 +123,8 @@ private:
     std::vector<OpenElement> open;
 };
 
-/// The document as text where the parser would misread it by its declaration: one of a code page, which the
-/// parser may not know, or of UTF-16 although the file has single bytes.
+/// The document as text where the parser would misread it by its declaration: one of a code page,
+/// which the parser may not know, or of UTF-16 although the file has single bytes.
 std::optional<QString> DecodedByDeclaration(const QByteArray& bytes) {
     if (!bytes.startsWith("<?xml"))
         return std::nullopt;

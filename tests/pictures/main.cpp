@@ -1,8 +1,8 @@
 // Takes pictures of every page and window in both languages, to be looked at and for the guide:
 //   talmir-pictures FOLDER
 #include "app/handlers/file_menu.h"
-#include "support/scripted_platform.h"
 #include "app/handlers/form_load.h"
+#include "support/scripted_platform.h"
 #include "window/ability_window.h"
 #include "window/about_window.h"
 #include "window/faces.h"

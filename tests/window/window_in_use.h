@@ -1,7 +1,7 @@
 #pragma once
 
-#include "support/test_program.h"
 #include "app/handlers/form_load.h"
+#include "support/test_program.h"
 #include "window/box_answers.h"
 #include "window/main_window.h"
 #include "window/tab_view.h"

@@ -1,8 +1,8 @@
-// What ticking or unticking a box does to other boxes, fields, the charge counter and the flag. The counter
-// goes up by one for each tick of a box that counts as a charge and down for each untick; the flag becomes -1
-// after the tick and 0 after the untick of such a box or of any special ability. The rule of a partner box
-// runs nested inside the setter; a box that already has the wanted state runs nothing, and that alone ends
-// the recursion.
+// What ticking or unticking a box does to other boxes, fields, the charge counter and the flag. The
+// counter goes up by one for each tick of a box that counts as a charge and down for each untick;
+// the flag becomes -1 after the tick and 0 after the untick of such a box or of any special
+// ability. The rule of a partner box runs nested inside the setter; a box that already has the
+// wanted state runs nothing, and that alone ends the recursion.
 #pragma once
 
 #include "app/program.h"
