@@ -98,7 +98,7 @@ private:
             CompareBox(*box, dynamic_cast<QCheckBox&>(widget));
         else if (const auto* selector = dynamic_cast<const MultiOption*>(&control))
             CompareSelector(*selector, widget);
-        else if (const auto* buffer = dynamic_cast<const TextBuffer*>(&control))
+        else if (const auto* buffer = dynamic_cast<const StoredText*>(&control))
             Expect(dynamic_cast<QPlainTextEdit&>(widget).toPlainText() == buffer->Text(), control, "text");
         else
             Expect(control.Name() == "Tablus", control, "is of no known kind");

@@ -20,8 +20,8 @@ struct FullWindow : WindowInUse {
         for (const int ability : {29, 147})
             form.Abilities(ability).SetTicked(true);
         form.frmAM.SetVisible(true);
-        for (const auto label : ResultLabels)
-            (form.*label).SetCaption(QString("-32768"));
+        for (const ResultRow& row : ResultRows)
+            (form.*row.place.label).SetCaption(QString("-32768"));
     }
 
     /// Shows every widget of the kind to `act`, with its name; their number.

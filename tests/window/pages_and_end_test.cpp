@@ -82,7 +82,7 @@ TEST(Drop, OpensOneFileInAnUnlockedWindow) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return use.form.Tablus.Tab(4).On(); }));
     EXPECT_EQ(use.Find<QLineEdit>("txtNC").text(), "Frost_witch");
     EXPECT_EQ(Disagreements(use), "");
-    use.program.ShowStatus("Wait.");
+    ShowStatus(use.program, "Wait.");
     EXPECT_FALSE(Drop(use, {file}));
 }
 

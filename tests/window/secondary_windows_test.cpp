@@ -41,7 +41,7 @@ TEST(SecondaryWindows, LockTheMainWindowUntilTheyClose) {
     const std::pair<const char*, std::function<void(WindowInUse&)>> windows[] = {
         {"frmAbility", [](WindowInUse& use) { RightClick(use, "Abilities(16)"); }},
         {"frmAbout", [&](WindowInUse& use) { use.Pick(about); }},
-        {"frmStatus", [](WindowInUse& use) { use.program.ShowStatus("Done."); }},
+        {"frmStatus", [](WindowInUse& use) { ShowStatus(use.program, "Done."); }},
     };
     const std::pair<const char*, void (*)(QDialog&)> closings[] = {
         {"button", [](QDialog& dialog) { WindowInUse::Click(ButtonOf(dialog)); }},
@@ -161,7 +161,7 @@ TEST(AboutWindow, TellsTheProgram) {
 TEST(StatusWindow, ShowsTheWholeOfALongText) {
     WindowInUse use;
     for (const QString& message : {QString(), QString("Saved."), QString("Word ").repeated(200)}) {
-        use.program.ShowStatus(message);
+        ShowStatus(use.program, message);
         QDialog* dialog = Second(use);
         ASSERT_NE(dialog, nullptr);
         const auto& words = *dialog->findChild<QLabel*>("lblStatus");

@@ -2,6 +2,7 @@
 
 #include "support/test_program.h"
 #include "app/handlers/form_load.h"
+#include "app/handlers/info_menu.h"
 #include "window/box_answers.h"
 #include "window/main_window.h"
 #include "window/tab_view.h"
