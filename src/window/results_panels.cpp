@@ -62,8 +62,8 @@ private:
     const QString& nameText; ///< in the current language
 };
 
-/// One panel, into which results are put in groups of four: a heading, and Power, Experience, Growth and
-/// Cost in a square below it.
+/// One panel, into which results are put in groups of four: a heading, and Power, Experience,
+/// Growth and Cost in a square below it.
 class Panel {
 public:
     Panel(Program& owner, Frame& frame, QWidget& page, const QRect& place)

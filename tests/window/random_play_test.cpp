@@ -126,7 +126,7 @@ TEST(RandomPlay, TheWindowStaysInOrderAndEndsInOrder) {
 #ifdef __SANITIZE_ADDRESS__ // ten times slower
     constexpr int actions = 5'000;
 #else
-    constexpr int actions = 40'000;
+    constexpr int actions = 30'000;
 #endif
     constexpr int plays = 20;
     constexpr int paintedPlay = 10; // every tenth; painting takes most of the time
