@@ -15,7 +15,6 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QResource>
-#include <QScreen>
 #include <QShortcut>
 #include <QStyle>
 #include <QUrl>
@@ -73,10 +72,6 @@ MainWindow::MainWindow(Program& owner, QSize available) : program(owner) {
 
 MainWindow::~MainWindow() {
     program.form.frmMain.SetView(nullptr);
-}
-
-QSize MainWindow::AvailableSize() {
-    return QGuiApplication::primaryScreen()->availableSize();
 }
 
 QWidget* MainWindow::WidgetOf(const Control& control) const {

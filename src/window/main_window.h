@@ -14,7 +14,7 @@ class TabView;
 class MainWindow : public QMainWindow, public ControlView {
 public:
     /// Makes itself fit into `available`, a screen without its task bars.
-    explicit MainWindow(Program& program, QSize available = AvailableSize());
+    MainWindow(Program& program, QSize available);
     ~MainWindow() override;
     MainWindow(const MainWindow&) = delete;
     MainWindow& operator=(const MainWindow&) = delete;
@@ -37,7 +37,6 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    static QSize AvailableSize();
     void FinishStart();
     void BuildShortcuts();
 

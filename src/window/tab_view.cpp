@@ -89,11 +89,6 @@ TabView::~TabView() {
     disconnect(qApp, nullptr, this, nullptr); // the page in front loses the focus when it is gone
 }
 
-void TabView::BuildAll() {
-    for (int page = 0; page < TabControl::PageCount; ++page)
-        BuildPage(page);
-}
-
 void TabView::BuildPage(int page) {
     if (std::exchange(built.at(static_cast<std::size_t>(page)), true))
         return;

@@ -23,9 +23,6 @@ public:
     /// last comes the first.
     void ShowNeighbour(int step);
 
-    /// Builds the pages that haven't been shown yet, for those who look at all widgets.
-    void BuildAll();
-
 private:
     class PageView;
 

@@ -5,6 +5,7 @@
 #include "window/program_style.h"
 
 #include <QApplication>
+#include <QScreen>
 
 namespace Hesperin {
 
@@ -18,7 +19,8 @@ bool WindowedProgram::Start(const QString& creatureFile) {
     early.Await();
     if (!Form_Load(program, {std::nullopt, false})) // the texts follow the first picture
         return false;
-    window = std::make_unique<MainWindow>(program);
+    window =
+        std::make_unique<MainWindow>(program, QGuiApplication::primaryScreen()->availableSize());
     early.platform.Attach(program, *window);
     window->move(0, 0);
     window->show();

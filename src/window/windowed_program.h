@@ -20,8 +20,6 @@ public:
     /// False: another instance runs, the user has been told, and nothing is shown.
     bool Start(const QString& creatureFile);
 
-    MainWindow& Window() { return *window; }
-
 private:
     EarlyStart& early;
     Program program{early.platform};

@@ -11,21 +11,12 @@
 #include <QTest>
 #include <QTimer>
 
-#include <vector>
-
 namespace Hesperin {
 
 /// Answers the message boxes and file dialogs that come up, as a user would, and keeps what they
 /// said.
 class BoxAnswers {
 public:
-    struct Box {
-        QMessageBox::Icon icon;
-        QString title;
-        QString text;
-        int width;
-    };
-
     BoxAnswers() {
         QObject::connect(&timer, &QTimer::timeout, [this] { Answer(); });
         timer.start(1);
@@ -34,17 +25,8 @@ public:
     bool yes = true;   ///< the answer to every question
     QStringList paths; ///< what is typed into the file dialogs, in order; then they are cancelled
 
-    std::vector<Box> boxes;
-    QStringList offeredNames; ///< the file name that each dialog came up with
-    QStringList buttonTexts;  ///< of the last box
-
-    /// Texts of the boxes since the last call.
-    QStringList TakeTexts() {
-        QStringList texts;
-        for (const Box& box : std::exchange(boxes, {}))
-            texts.append(box.text);
-        return texts;
-    }
+    QStringList told; ///< a line for each: "Critical|Warning!|...", the buttons after a question; "file?|" and a name
+    int width = 0;    ///< of the last box
 
 private:
     void Answer() {
@@ -57,38 +39,38 @@ private:
         QMetaObject::invokeMethod(
             &timer,
             [this, front, alive = QPointer<QWidget>(front)] {
-                if (alive != nullptr)
-                    Handle(front);
+                if (auto* box = qobject_cast<QMessageBox*>(alive))
+                    AnswerBox(*box);
+                else if (auto* dialog = qobject_cast<QFileDialog*>(alive))
+                    AnswerDialog(*dialog);
                 inHand.remove(front);
             },
             Qt::QueuedConnection);
     }
 
-    void Handle(QWidget* front) {
-        if (auto* box = qobject_cast<QMessageBox*>(front))
-            AnswerBox(*box);
-        else if (auto* dialog = qobject_cast<QFileDialog*>(front))
-            AnswerDialog(*dialog);
-    }
-
     void AnswerBox(QMessageBox& box) {
-        boxes.push_back({box.icon(), box.windowTitle(), box.text(), box.width()});
-        buttonTexts.clear();
+        const QString icon = QVariant::fromValue(box.icon()).toString();
+        told.append(icon + '|' + box.windowTitle() + '|' + box.text().section('\n', 0, 0));
+        width = box.width();
+        QStringList buttons;
         for (const QAbstractButton* button : box.buttons())
-            buttonTexts.append(button->text());
+            buttons.append(button->text());
+        buttons.sort();
+        if (buttons.size() > 1)
+            told.last() += '|' + buttons.join(' ');
         QAbstractButton* answer = box.button(yes ? QMessageBox::Yes : QMessageBox::No);
         QTest::mouseClick(answer != nullptr ? answer : box.button(QMessageBox::Ok), Qt::LeftButton);
     }
 
     void AnswerDialog(QFileDialog& dialog) {
         auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
-        offeredNames.append(name->text());
+        told.append("file?|" + name->text());
         const QString path = paths.isEmpty() ? QString() : paths.takeFirst();
-        const bool opens = dialog.acceptMode() == QFileDialog::AcceptOpen;
-        const auto accept = opens ? QDialogButtonBox::Open : QDialogButtonBox::Save;
         name->setText(path);
+        const auto pressed = path.isEmpty()                                   ? QDialogButtonBox::Cancel
+                             : dialog.acceptMode() == QFileDialog::AcceptOpen ? QDialogButtonBox::Open
+                                                                              : QDialogButtonBox::Save;
         auto* buttons = dialog.findChild<QDialogButtonBox*>("buttonBox");
-        const auto pressed = path.isEmpty() ? QDialogButtonBox::Cancel : accept;
         QTest::mouseClick(buttons->button(pressed), Qt::LeftButton);
     }
 

@@ -1,10 +1,9 @@
-// Every control of the form has its widget, which shows it, in both languages.
+// Every control of the form has its widget, which shows it, in both languages; what the mouse does on the pages of
+// check boxes.
 #include "window/agreement.h"
 
-#include <gtest/gtest.h>
-
-#include <QScrollArea>
-#include <QScrollBar>
+#include <QHelpEvent>
+#include <QToolTip>
 
 namespace Hesperin {
 
@@ -15,88 +14,67 @@ namespace {
 // the tab control with 5 pages, the text of the file, the window.
 constexpr int VisibleControls = 49 + 19 + 9 + 27 + 320 + 146 + 5 + 17 + 6 + 1 + 1;
 
-TEST(Controls, EachHasOneWidgetThatShowsIt) {
-    for (const Language language : {English, Russian}) {
-        const WindowInUse use(language);
-        const Agreement agreement(use);
-        EXPECT_EQ(agreement.faults.join('\n'), "");
-        EXPECT_EQ(agreement.compared, VisibleControls);
+TEST(Controls, EachHasOneWidgetThatShowsItInAnyLanguage) {
+    for (const Language start : {English, Russian}) {
+        const WindowInUse use(start);
+        for (const Language language : {start, Russian, English, Russian}) {
+            use.PickLanguage(language);
+            const Agreement agreement(use);
+            EXPECT_EQ(agreement.faults.join('\n'), "");
+            EXPECT_EQ(agreement.compared, VisibleControls);
+        }
+        EXPECT_TRUE(use.Find<QAction>("mnuRussian").isChecked());
+        EXPECT_EQ(use.Find<QAction>("mnuFile").text(), "&Файл");
     }
-}
-
-TEST(Controls, FollowASwitchOfTheLanguage) {
-    const WindowInUse use;
-    for (const char* entry : {"mnuRussian", "mnuEnglish", "mnuRussian"}) {
-        use.PickLanguage(entry);
-        EXPECT_EQ(Disagreements(use), "") << entry;
-    }
-    EXPECT_TRUE(use.Find<QAction>("mnuRussian").isChecked());
-    EXPECT_EQ(use.window->windowTitle(), "TALMIR v0.0.0.44");
-    EXPECT_EQ(use.Find<QAction>("mnuFile").text(), "&Файл");
 }
 
 TEST(Controls, HaveANameForThoseWhoCannotSee) {
-    const struct {
-        const char* name;
-        const char* texts[3]; // none, English, Russian
-    } cases[] = {
-        {"txtAttack", {"", "Attack", "Нападение"}},
-        {"txtMinDam", {"", "Damage min", "Урон мин."}},
-        {"txtMaxDam", {"", "Damage max", "Урон макс."}},
-        {"ComboTier", {"", "Tier 40", "Уровень 40"}},
-        {"cmdCalc", {"", "Calculate", "Рассчёт"}},
-        {"Spells(46)", {"", "MAGIC_ARROW", "MAGIC_ARROW"}},
-        {"lblPowerRolvane", {"", "Power by Rolvane 1615", "Сила по Rolvane'у 1615"}},
-        {"lblExpAverage", {"", "Average Experience 70", "Опыт в среднем 70"}},
-        {"lblGrowthHesperin", {"", "Growth by Hesperin", "Прирост по Hesperin'ю"}},
-        {"lblCostS", {"", "Gold by Quintarell", "Золото по Quintarell'у"}},
-        {"lblCostD", {"", "Gold by Bravik", "Золото по Bravik'у"}},
-    };
-    WindowInUse use;
-    use.form.ComboTier.SetText("40"); // none of its entries
-    use.form.lblPowerRolvane.SetCaption(QString("1615"));
-    use.form.lblExpAverage.SetCaption(QString("70"));
+    const WindowInUse use;
     for (const Language language : {English, Russian}) {
-        use.PickLanguage(language == English ? "mnuEnglish" : "mnuRussian");
-        for (const auto& test : cases)
-            EXPECT_EQ(use.Find(test.name).accessibleName(), test.texts[language]) << test.name;
+        use.PickLanguage(language);
         int named = 0;
-        for (const Control* control : use.form.Controls())
-            if (QWidget* widget = use.window->WidgetOf(*control);
-                widget != nullptr && widget->focusPolicy() != Qt::NoFocus) {
-                ++named;
-                EXPECT_NE(widget->accessibleName(), "") << control->Name().toStdString();
-            }
+        use.ForEach<QWidget>([&](const QWidget& widget) {
+            named += widget.focusPolicy() != Qt::NoFocus;
+            EXPECT_TRUE(widget.focusPolicy() == Qt::NoFocus || !widget.accessibleName().isEmpty());
+        });
         EXPECT_EQ(named, 19 + 9 + 320 + 146 + 5 + 1);
     }
 }
 
-TEST(Controls, StandWhollyInAWindowThatFitsTheScreen) {
-    const struct {
-        QSize available, window;
-        bool scrollsDown, scrollsAside;
-    } cases[] = {
-        {{1920, 1080}, {1030, 704}, false, false}, {{1030, 741}, {1030, 704}, false, false},
-        {{1366, 720}, {1030, 683}, false, false},  {{1366, 696}, {1044, 659}, true, false},
-        {{1280, 648}, {1044, 611}, true, false},   {{1024, 768}, {1024, 704}, false, false},
-        {{1024, 696}, {1024, 659}, true, false},   {{800, 600}, {800, 563}, true, true},
-    };
-    for (const auto& [available, window, scrollsDown, scrollsAside] : cases) {
-        SCOPED_TRACE(available.width() * 10000 + available.height());
-        const WindowInUse use(
-            Russian, [](const QString&) {}, available);
-        EXPECT_EQ(use.window->size(), window);
-        EXPECT_EQ(use.window->minimumSize(), use.window->maximumSize());
-        const auto& scroll = use.Find<QScrollArea>("Tablus.Scroll");
-        EXPECT_EQ(scroll.verticalScrollBar()->isVisible(), scrollsDown);
-        EXPECT_EQ(scroll.horizontalScrollBar()->isVisible(), scrollsAside);
-        for (const Control* control : use.form.Controls()) {
-            const QWidget* widget = use.window->WidgetOf(*control);
-            if (widget == nullptr || widget->isWindow())
-                continue;
-            EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry())) << control->Name().toStdString();
+TEST(Boxes, EachIsHitWhereItStands) {
+    const std::pair<const char*, int> pages[] = {{"Abilities", 174}, {"Spells", 91}, {"Specabilities", 54}};
+    int page = 0;
+    for (const auto& [array, count] : pages) {
+        const WindowInUse use;
+        use.form.Abilities(29).SetTicked(true); // opens the page of spells
+        use.ShowPage(++page);
+        for (int index = 1; index <= count; ++index) {
+            const QString name = QString("%1(%2)").arg(array).arg(index);
+            const bool before = use.Ticked(name);
+            use.ClickBox(name);
+            const bool secondNature = page == 1 && QList{65, 111, 164}.contains(index); // taken back
+            EXPECT_EQ(use.Ticked(name), secondNature ? before : !before) << name.toStdString();
         }
+        EXPECT_EQ(Disagreements(use), "");
     }
+}
+
+TEST(Selectors, TellTheMeaningOfEachOption) {
+    const char* const meanings[] = {"MASTERY_NONE", "MASTERY_BASIC", "MASTERY_ADVANCED", "MASTERY_EXPERT",
+                                    "MASTERY_EXTRA_EXPERT"};
+    const WindowInUse use(Russian); // the game's words follow no language
+    use.form.Specabilities(9).SetTicked(true);
+    use.ShowPage(3);
+    for (const char* name : {"saz(9)", "saz(10)"}) // the second is disabled
+        for (int option = 0; option < 5; ++option) {
+            const QPoint place = use.OptionPlace(option);
+            QHelpEvent help(QEvent::ToolTip, place, use.Find(name).mapToGlobal(place));
+            QApplication::sendEvent(&use.Find(name), &help);
+            EXPECT_EQ(QToolTip::text(), meanings[option]);
+        }
+    use.ClickOption("saz(9)", 4);
+    EXPECT_EQ(use.Find("saz(9)").accessibleDescription(), meanings[4]);
+    QToolTip::hideText();
 }
 
 } // namespace

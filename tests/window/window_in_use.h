@@ -1,11 +1,13 @@
 #pragma once
 
 #include "app/handlers/form_load.h"
+#include "app/handlers/info_menu.h"
 #include "support/test_program.h"
 #include "window/box_answers.h"
 #include "window/main_window.h"
-#include "window/tab_view.h"
 #include "window/window_platform.h"
+
+#include <gtest/gtest.h>
 
 #include <QAbstractItemView>
 #include <QAction>
@@ -36,12 +38,11 @@ private:
 class WindowInUse {
 public:
     /// `prepare` may put files into the folder before the start; `screen` is what its task bars leave.
-    explicit WindowInUse(
-        std::uint8_t language = English,
-        const std::function<void(const QString& folder)>& prepare = [](const QString&) {},
-        QSize screen = {1920, 1080}) {
+    explicit WindowInUse(std::uint8_t language = English,
+                         const std::function<void(const QString& folder)>& prepare = {}, QSize screen = {1920, 1080}) {
         Write("lang.ini", language == English ? "EN" : "RU");
-        prepare(folder.path());
+        if (prepare)
+            prepare(folder.path());
         if (!Form_Load(program, {std::nullopt, false})) // as at a start, the window reads the texts
             qFatal("another instance runs");
         window = std::make_unique<MainWindow>(program, screen);
@@ -49,8 +50,9 @@ public:
         window->show();
         if (!QTest::qWaitForWindowActive(window.get()))
             qFatal("the window did not come up");
-        QTest::qWait(1); // the first picture, and what the window does after it
-        dynamic_cast<TabView&>(Find("Tablus")).BuildAll();
+        QTest::qWait(1);                       // the first picture, and what the window does after it
+        for (const int page : {1, 2, 3, 4, 0}) // builds it
+            Bar().setCurrentIndex(page);
     }
 
     QTemporaryDir folder;
@@ -73,6 +75,19 @@ public:
         return *found;
     }
 
+    /// Shows every widget of the kind that shows a control to `act`, with its name; their number.
+    template <typename Widget, typename Act>
+    int ForEach(Act act) const {
+        int count = 0;
+        for (const Control* control : form.Controls())
+            if (auto* widget = qobject_cast<Widget*>(window->WidgetOf(*control))) {
+                SCOPED_TRACE(control->Name().toStdString());
+                act(*widget);
+                ++count;
+            }
+        return count;
+    }
+
     /// Clicks at a place of the widget, or in its middle.
     static void Click(QWidget& widget, QPoint place = {}, Qt::MouseButton button = Qt::LeftButton) {
         QWidget& top = *widget.window();
@@ -80,17 +95,21 @@ public:
         QTest::mouseClick(top.windowHandle(), button, {}, widget.mapTo(&top, inside));
     }
 
-    void Press(const QString& button) const { Click(Find(button)); }
+    void Press(const QString& name) const { Click(Find(name)); }
 
-    void ShowPage(int page) const {
-        auto& bar = Find<QTabBar>("Tablus.Bar");
-        Click(bar, bar.tabRect(page).center());
-    }
+    void Focus(const QString& name) const { Find(name).setFocus(); }
+
+    QString Text(const QString& field) const { return Find<QLineEdit>(field).text(); }
+
+    bool Ticked(const QString& box) const { return Find<QAbstractButton>(box).isChecked(); }
+
+    QTabBar& Bar() const { return Find<QTabBar>("Tablus.Bar"); }
+
+    void ShowPage(int page) const { Click(Bar(), Bar().tabRect(page).center()); }
 
     /// Clicks on the square of a check box of the page in front.
-    void ClickBox(const QString& name) const {
-        auto& box = Find(name);
-        Click(box, {8, box.height() / 2});
+    void ClickBox(const QString& name, Qt::MouseButton button = Qt::LeftButton) const {
+        Click(Find(name), {8, Find(name).height() / 2}, button);
     }
 
     /// Clicks on option 0 to 4 of a selector of the page in front.
@@ -113,7 +132,17 @@ public:
         }
     }
 
-    void PickLanguage(const QString& entry) const { Pick({"mnuOptions", "mnuLanguage", entry}); }
+    void PickLanguage(std::uint8_t language) const {
+        Pick({"mnuOptions", "mnuLanguage", language == English ? "mnuEnglish" : "mnuRussian"});
+    }
+
+    /// The window beside the main window; null when there is none.
+    QDialog* Second() const {
+        for (auto* dialog : window->findChildren<QDialog*>())
+            if (dialog->isVisible())
+                return dialog;
+        return nullptr;
+    }
 
     /// Gives the window the focus again after a box, as a window manager does.
     void ComeForward() const {
@@ -125,9 +154,9 @@ public:
     }
 
     /// Keys for whatever has the focus.
-    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
+    void Key(QKeyCombination keys) const {
         ComeForward();
-        QTest::keyClick(window->windowHandle(), key, modifiers);
+        QTest::keyClick(window->windowHandle(), keys.key(), keys.keyboardModifiers());
     }
 
     void Keys(const QByteArray& typed) const {
@@ -137,8 +166,8 @@ public:
 
     /// Clicks into the field and replaces its text by typing.
     void Type(const QString& field, const QByteArray& typed) const {
-        Click(Find(field));
-        Key(Qt::Key_A, Qt::ControlModifier);
+        Press(field);
+        Key(Qt::CTRL | Qt::Key_A);
         Key(Qt::Key_Delete);
         Keys(typed);
     }
@@ -155,6 +184,21 @@ public:
         Click(*entries.viewport(), {8, entries.visualRect(index).center().y()});
     }
 };
+
+/// Whether the program ends the application after `act`, in order.
+inline bool Ends(const std::function<void()>& act) {
+    constexpr int patience = 50; // milliseconds
+    constexpr int goesOn = 99;
+    QTimer end;
+    QObject::connect(&end, &QTimer::timeout, [] { QCoreApplication::exit(goesOn); });
+    QTimer::singleShot(0, &end, [&] {
+        act();
+        end.start(patience);
+    });
+    const int code = QApplication::exec();
+    EXPECT_TRUE(code == 0 || code == goesOn) << code;
+    return code == 0;
+}
 
 /// Which options of a selector are drawn as chosen.
 inline QList<int> OptionsInPicture(QWidget& selector) {
