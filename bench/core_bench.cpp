@@ -7,6 +7,7 @@
 #include "app/calculate.h"
 #include "app/creature_in_form.h"
 #include "app/handlers/file_menu.h"
+#include "app/handlers/save_and_update.h"
 #include "app/handlers/form_load.h"
 #include "app/handlers/options_menu.h"
 #include "cli/cli_platform.h"
@@ -83,7 +84,7 @@ void OpenFromMemory(benchmark::State& state) {
     const QByteArray bytes = SampleBytes();
     for (auto _ : state) {
         const auto document = NormaliseCreature(bytes);
-        FillFromDocument(opened.program, *document, QString::fromUtf8(Sample));
+        ShowDocument(opened.program, {bytes, *document}, QString::fromUtf8(Sample));
         opened.platform.messages.clear();
     }
 }
@@ -106,7 +107,7 @@ void OpenOfSize(benchmark::State& state) {
     const QByteArray bytes = SampleOfSize(state.range(0));
     for (auto _ : state) {
         const auto document = NormaliseCreature(bytes);
-        FillFromDocument(opened.program, *document, QString::fromUtf8(Sample));
+        ShowDocument(opened.program, {bytes, *document}, QString::fromUtf8(Sample));
         opened.platform.messages.clear();
     }
     state.SetBytesProcessed(state.iterations() * bytes.size());

@@ -3,7 +3,7 @@
 // these texts pays. Run by the start benchmark.
 #include "app/handlers/form_load.h"
 #include "window/early_start.h"
-#include "window/faces.h"
+#include "window/fonts.h"
 
 #include "end_after_first_picture.h"
 
@@ -28,13 +28,13 @@ protected:
             if (!control->Visible())
                 continue;
             else if (const auto* frame = dynamic_cast<const Frame*>(control))
-                Write(painter, CaptionFace(), frame->Caption());
+                Write(painter, CaptionFont(), frame->Caption());
             else if (const auto* list = dynamic_cast<const ComboBox*>(control))
-                Write(painter, HeadingFace(), list->Text());
+                Write(painter, HeadingFont(), list->Text());
             else if (const auto* field = dynamic_cast<const TextField*>(control))
-                Write(painter, FigureFace(), field->Text());
+                Write(painter, FigureFont(), field->Text());
             else if (const auto* button = dynamic_cast<const Button*>(control))
-                Write(painter, FigureFace(), button->Caption());
+                Write(painter, FigureFont(), button->Caption());
     }
 
 private:

@@ -13,6 +13,6 @@ int main(int argc, char** argv) {
     Hesperin::WindowedProgram program(early);
     if (!program.Start({}))
         return 1;
-    const EndAfterFirstPicture end(program.Window());
+    const EndAfterFirstPicture end(*QApplication::topLevelWidgets().constFirst());
     return QApplication::exec();
 }

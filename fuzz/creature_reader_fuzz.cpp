@@ -25,11 +25,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto again = NormaliseCreature(text.toUtf8());
     Require(again && *again == text, "a normalised document is its own normal form");
     const QString path = QStringLiteral("a.xdb");
-    FillFromDocument(fuzzed.program, text, path);
+    ShowDocument(fuzzed.program, {bytes, text}, path);
     RequireInvariants(fuzzed.program);
-    FillFromDocument(fuzzed.program, text, path); // clears what a shooter before it left
+    ShowDocument(fuzzed.program, {bytes, text}, path); // clears what a shooter before it left
     const QByteArray second = Snapshot(fuzzed);
-    FillFromDocument(fuzzed.program, text, path);
+    ShowDocument(fuzzed.program, {bytes, text}, path);
     Require(Snapshot(fuzzed) == second, "opening a file again gives the same window");
     Require(
         !BuildCreatureText(TakeCreature(fuzzed.program), QStringLiteral("Name"), 0).text.isEmpty(),

@@ -101,7 +101,7 @@ void RequireReadBack(Program& program) {
     if (!composed.plain || composed.text.size() > LongestCreatureText / 2)
         return;
     Require(static_cast<bool>(document), "plain values are accepted");
-    FillFromDocument(program, *document, {});
+    ShowDocument(program, {CreatureFileBytes(composed.text), *document}, {});
     Require(program.state.CreatureName == name, "and keep the name");
 }
 

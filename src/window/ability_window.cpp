@@ -1,7 +1,7 @@
 #include "window/ability_window.h"
 
 #include "catalogue/ability_catalogue.h"
-#include "window/faces.h"
+#include "window/fonts.h"
 #include "window/palette.h"
 #include "window/units.h"
 
@@ -51,7 +51,7 @@ AbilityWindow::AbilityWindow(Program& owner, QWidget* mainWindow)
 
     const QString name = form.utbN(index).Text();
     const QRect namePlace = PixelRect(120, 120, 10575, 615);
-    AddText(*this, "utbName", name, namePlace, FittingFace(ReadingFace(), name, namePlace.width()),
+    AddText(*this, "utbName", name, namePlace, FittingFont(ReadingFont(), name, namePlace.width()),
             Qt::AlignLeft | Qt::AlignVCenter);
 
     // Not a QPlainTextEdit, which finds some pixels to scroll sideways where there are none.
@@ -59,7 +59,7 @@ AbilityWindow::AbilityWindow(Program& owner, QWidget* mainWindow)
     description->setObjectName(QStringLiteral("utbDesc"));
     description->setReadOnly(true);
     description->setFrameShape(QFrame::NoFrame);
-    description->setFont(ReadingFace());
+    description->setFont(ReadingFont());
     description->document()->setDocumentMargin(0);
     description->setPlainText(form.utbD(index).Text());
     QPalette colours = description->palette();

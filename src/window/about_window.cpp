@@ -1,7 +1,7 @@
 #include "window/about_window.h"
 
 #include "system/version_record.h"
-#include "window/faces.h"
+#include "window/fonts.h"
 #include "window/palette.h"
 #include "window/units.h"
 
@@ -43,16 +43,16 @@ QImage DrawPictures() {
     return surface;
 }
 
-/// The largest face up to `face` in which the text, wrapped, fits into `room`.
-QFont FittingWrapped(QFont face, const QString& text, QSize room) {
+/// The largest font up to `font` in which the text, wrapped, fits into `room`.
+QFont FittingWrapped(QFont font, const QString& text, QSize room) {
     const auto height = [&] {
-        return QFontMetrics(face)
+        return QFontMetrics(font)
             .boundingRect(QRect(0, 0, room.width(), 0), Qt::TextWordWrap, text)
             .height();
     };
-    while (face.pixelSize() > 9 && height() > room.height())
-        face.setPixelSize(face.pixelSize() - 1);
-    return face;
+    while (font.pixelSize() > 9 && height() > room.height())
+        font.setPixelSize(font.pixelSize() - 1);
+    return font;
 }
 
 } // namespace
@@ -65,23 +65,23 @@ AboutWindow::AboutWindow(Program& owner, QWidget* mainWindow)
     setAccessibleDescription(QStringLiteral("A golden dragon carries a balance on its wings."));
 
     const auto add = [this](const char* name, const QString& text, const QRect& place,
-                            const QFont& face, Qt::Alignment alignment) {
+                            const QFont& font, Qt::Alignment alignment) {
         constexpr int side = 6;
         constexpr int above = 2;
-        QLabel* label = AddText(*this, name, text, place, face, alignment);
+        QLabel* label = AddText(*this, name, text, place, font, alignment);
         label->setWordWrap(true);
         label->setContentsMargins(side, above, side, above);
         label->setAutoFillBackground(true);
-        label->setFont(FittingWrapped(face, text, place.size() - QSize(2 * side, 2 * above)));
+        label->setFont(FittingWrapped(font, text, place.size() - QSize(2 * side, 2 * above)));
     };
     add("utbInfo",
         VersionRecord::TitleAndVersion() + QLatin1String(" - ") +
             QString::fromUtf16(VersionRecord::LegalNotice),
-        PixelRect(720, 120, 7575, 495), HeadingFace(), Qt::AlignCenter);
+        PixelRect(720, 120, 7575, 495), HeadingFont(), Qt::AlignCenter);
     add("utbWhatis", messages.MsgWhatIs + product + u'?', PixelRect(4080, 720, 4215, 375),
-        HeadingFace(), Qt::AlignCenter);
+        HeadingFont(), Qt::AlignCenter);
     add("utbAbout", product + messages.MsgAppDescription, PixelRect(4080, 1200, 4215, 3735),
-        FigureFace(), Qt::AlignLeft | Qt::AlignTop);
+        FigureFont(), Qt::AlignLeft | Qt::AlignTop);
     AddButton("cmdQuit", program.form.mnuQuit.Caption(), PixelRect(1080, 4560, 1815, 375));
     ShowCentred(AboutClient);
 }

@@ -1,6 +1,6 @@
 #include "window/box_view.h"
 
-#include "window/faces.h"
+#include "window/fonts.h"
 
 #include <QMouseEvent>
 
@@ -11,7 +11,7 @@ BoxView::BoxView(CheckBox& box, QWidget* parent, const QRect& place) : View(box,
     setGeometry(place);
     setText(control.Caption());
     setAccessibleName(control.Caption());
-    setFont(FittingFace(BoxFace(), control.Caption(), place.width() - indicator));
+    setFont(FittingFont(BoxFont(), control.Caption(), place.width() - indicator));
     connect(this, &QCheckBox::clicked, this, [this](bool checked) {
         control.SetTicked(checked);
         Sync(); // a rule may have taken the tick back

@@ -1,7 +1,7 @@
 #include "window/button_row.h"
 
 #include "window/button_view.h"
-#include "window/faces.h"
+#include "window/fonts.h"
 #include "window/units.h"
 
 #include <algorithm>
@@ -32,7 +32,7 @@ void BuildButtonRow(MainForm& form, QWidget& content, int top, int width) {
         return twips * std::min(width, Pixels(RowWidth)) / Pixels(RowWidth);
     };
     for (const ButtonPlace& place : ButtonRow)
-        new ButtonView(form.*place.button, &content, FigureFace(),
+        new ButtonView(form.*place.button, &content, FigureFont(),
                        PixelRect(fitted(place.left), GapAbove, fitted(place.width), ButtonHeight)
                            .translated(0, top));
 }

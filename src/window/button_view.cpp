@@ -1,11 +1,11 @@
 #include "window/button_view.h"
 
-#include "window/faces.h"
+#include "window/fonts.h"
 
 namespace Hesperin {
 
-ButtonView::ButtonView(Button& button, QWidget* parent, const QFont& buttonFace, const QRect& place)
-    : View(button, parent), face(buttonFace) {
+ButtonView::ButtonView(Button& button, QWidget* parent, const QFont& buttonFont, const QRect& place)
+    : View(button, parent), wantedFont(buttonFont) {
     setGeometry(place);
     connect(this, &QPushButton::clicked, this, [this] { control.Click(); });
     SyncAll();
@@ -15,7 +15,7 @@ void ButtonView::Sync() {
     constexpr int margins = 16;
     setText(control.Caption());
     setAccessibleName(control.Caption().trimmed());
-    setFont(FittingFace(face, control.Caption(), width() - margins));
+    setFont(FittingFont(wantedFont, control.Caption(), width() - margins));
 }
 
 } // namespace Hesperin

@@ -10,13 +10,13 @@ namespace Hesperin {
 /// A push button whose caption shrinks until it fits.
 class ButtonView : public View<QPushButton, Button> {
 public:
-    ButtonView(Button& button, QWidget* parent, const QFont& face, const QRect& place);
+    ButtonView(Button& button, QWidget* parent, const QFont& wantedFont, const QRect& place);
 
 protected:
     void Sync() override;
 
 private:
-    QFont face;
+    QFont wantedFont;
 };
 
 } // namespace Hesperin

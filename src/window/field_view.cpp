@@ -1,6 +1,6 @@
 #include "window/field_view.h"
 
-#include "window/faces.h"
+#include "window/fonts.h"
 
 #include <QDragEnterEvent>
 #include <QInputMethodEvent>
@@ -22,12 +22,12 @@ bool IsForAWhile(Qt::FocusReason reason) {
 
 } // namespace
 
-FieldView::FieldView(TextField& field, QWidget* parent, const QRect& place, const QFont& fieldFace,
+FieldView::FieldView(TextField& field, QWidget* parent, const QRect& place, const QFont& fieldFont,
                      Colour textColour)
-    : View(field, parent), face(fieldFace), colour(textColour) {
+    : View(field, parent), wantedFont(fieldFont), colour(textColour) {
     setGeometry(place);
     setPalette(TextPalette(OutlinedPalette(), colour));
-    setFont(face);
+    setFont(wantedFont);
     connect(this, &QLineEdit::textEdited, this,
             [this](const QString& text) { control.SetText(text); });
     SyncAll();
@@ -42,7 +42,7 @@ void FieldView::Sync() {
         if (hasFocus())
             selectAll();
     }
-    FitFace();
+    FitFont();
 }
 
 bool FieldView::Admits(const QString& typed) const {
@@ -104,9 +104,9 @@ void FieldView::dragEnterEvent(QDragEnterEvent* event) {
         QLineEdit::dragEnterEvent(event);
 }
 
-void FieldView::FitFace() {
+void FieldView::FitFont() {
     constexpr int margins = 12;
-    const QFont fitting = FittingFace(face, control.Text(), width() - margins);
+    const QFont fitting = FittingFont(wantedFont, control.Text(), width() - margins);
     if (fitting != font())
         setFont(fitting);
 }

@@ -12,7 +12,7 @@ namespace Hesperin {
 /// Whoever gives it the focus, its content is selected then, so that typing replaces it.
 class FieldView : public View<QLineEdit, TextField> {
 public:
-    FieldView(TextField& field, QWidget* parent, const QRect& place, const QFont& face,
+    FieldView(TextField& field, QWidget* parent, const QRect& place, const QFont& wantedFont,
               Colour colour);
 
 protected:
@@ -29,9 +29,9 @@ protected:
 private:
     /// Whether `typed` may come in where the selection stands now.
     bool Admits(const QString& typed) const;
-    void FitFace();
+    void FitFont();
 
-    QFont face;
+    QFont wantedFont;
     Colour colour;
     bool isLeftForAWhile = false;  ///< the focus comes back as it went
     bool hasFocusByPress = false;  ///< of the mouse button that is going down

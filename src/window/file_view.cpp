@@ -1,6 +1,6 @@
 #include "window/file_view.h"
 
-#include "window/faces.h"
+#include "window/fonts.h"
 
 #include <QKeyEvent>
 
@@ -11,7 +11,7 @@ FileView::FileView(StoredText& buffer, QWidget* parent) : View(buffer, parent) {
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setLineWrapMode(QPlainTextEdit::NoWrap);
-    setFont(FileFace());
+    setFont(FileFont());
     setTabStopDistance(tabWidth);
     setAccessibleName(QStringLiteral("XDB"));
     SyncAll();

@@ -1,6 +1,6 @@
 #include "window/frame_view.h"
 
-#include "window/faces.h"
+#include "window/fonts.h"
 #include "window/outline.h"
 #include "window/palette.h"
 
@@ -17,8 +17,8 @@ constexpr int CaptionGap = 3; // between caption and line
 
 } // namespace
 
-FrameView::FrameView(Frame& frame, QWidget* parent, const QFont& captionFace, const QRect& place)
-    : View(frame, parent), face(captionFace) {
+FrameView::FrameView(Frame& frame, QWidget* parent, const QFont& captionFont, const QRect& place)
+    : View(frame, parent), wantedFont(captionFont) {
     setGeometry(place);
     SyncAll();
 }
@@ -27,9 +27,9 @@ void FrameView::Sync() {
     const QString caption = control.Caption().trimmed();
     setAccessibleName(caption);
     NameFields();
-    fitting = FittingFace(face, caption, width() - 2 * CaptionLeft);
+    fitting = FittingFont(wantedFont, caption, width() - 2 * CaptionLeft);
     captionPlace = {CaptionLeft, 0, QFontMetrics(fitting).horizontalAdvance(caption) + 1,
-                    QFontMetrics(face).height()};
+                    QFontMetrics(wantedFont).height()};
     update();
 }
 

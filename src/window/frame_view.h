@@ -20,7 +20,7 @@ public:
 /// what stands inside for the accessible name.
 class FrameView : public View<QGroupBox, Frame> {
 public:
-    FrameView(Frame& frame, QWidget* parent, const QFont& face, const QRect& place);
+    FrameView(Frame& frame, QWidget* parent, const QFont& wantedFont, const QRect& place);
 
     /// Gives each field inside the caption as its accessible name, behind it the text of the label
     /// whose buddy it is; a NamedInFrame gets the name that it asks for.
@@ -34,8 +34,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QFont face;    ///< as asked for
-    QFont fitting; ///< in which the caption fits
+    QFont wantedFont; ///< as asked for
+    QFont fitting;    ///< in which the caption fits
     QRect captionPlace;
 };
 

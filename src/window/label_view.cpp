@@ -1,15 +1,15 @@
 #include "window/label_view.h"
 
-#include "window/faces.h"
+#include "window/fonts.h"
 #include "window/frame_view.h"
 
 #include <QEvent>
 
 namespace Hesperin {
 
-LabelView::LabelView(Label& label, QWidget* parent, const QRect& place, const QFont& labelFace,
+LabelView::LabelView(Label& label, QWidget* parent, const QRect& place, const QFont& labelFont,
                      Colour textColour, Qt::Alignment alignment)
-    : View(label, parent), face(labelFace), colour(textColour) {
+    : View(label, parent), wantedFont(labelFont), colour(textColour) {
     setGeometry(place);
     Dress();
     setAlignment(alignment);
@@ -21,7 +21,7 @@ void LabelView::Sync() {
     setText(control.Caption());
     setAccessibleName(control.Caption());
     if (!control.Caption().isEmpty())
-        setFont(FittingFace(face, control.Caption(), width()));
+        setFont(FittingFont(wantedFont, control.Caption(), width()));
     if (buddy() != nullptr)
         FrameView::NameFieldsAround(*this);
 }

@@ -11,8 +11,8 @@ namespace Hesperin {
 /// A label whose text shrinks until it fits.
 class LabelView : public View<QLabel, Label> {
 public:
-    LabelView(Label& label, QWidget* parent, const QRect& place, const QFont& face, Colour colour,
-              Qt::Alignment alignment);
+    LabelView(Label& label, QWidget* parent, const QRect& place, const QFont& wantedFont,
+              Colour colour, Qt::Alignment alignment);
 
 protected:
     void Sync() override;
@@ -21,7 +21,7 @@ protected:
 private:
     void Dress();
 
-    QFont face;
+    QFont wantedFont;
     Colour colour;
 };
 

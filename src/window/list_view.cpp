@@ -1,16 +1,16 @@
 #include "window/list_view.h"
 
-#include "window/faces.h"
+#include "window/fonts.h"
 
 #include <QStylePainter>
 #include <QWheelEvent>
 
 namespace Hesperin {
 
-ListView::ListView(ComboBox& list, QWidget* parent, const QRect& place, const QFont& listFace)
-    : View(list, parent), face(listFace) {
+ListView::ListView(ComboBox& list, QWidget* parent, const QRect& place, const QFont& listFont)
+    : View(list, parent), wantedFont(listFont) {
     setGeometry(place);
-    setFont(face);
+    setFont(wantedFont);
     setMaxVisibleItems(20);
     connect(this, &QComboBox::activated, this, [this](int index) {
         control.Select(static_cast<std::int16_t>(index));
@@ -50,12 +50,13 @@ void ListView::paintEvent(QPaintEvent*) {
         style()
             ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this)
             .width();
-    painter.setFont(FittingFace(face, option.currentText, room - 4));
+    painter.setFont(FittingFont(wantedFont, option.currentText, room - 4));
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
 void ListView::changeEvent(QEvent* event) {
-    // The list that drops down inherits its face; the toolkit would build it now, only to tell it.
+    // The list that drops down inherits its wantedFont; the toolkit would build it now, only to
+    // tell it.
     if (event->type() == QEvent::FontChange)
         update();
     else

@@ -12,7 +12,7 @@ namespace Hesperin {
 /// index. Keys and the drop-down start from the entry that has the text; the wheel changes nothing.
 class ListView : public View<QComboBox, ComboBox>, public NamedInFrame {
 public:
-    ListView(ComboBox& list, QWidget* parent, const QRect& place, const QFont& face);
+    ListView(ComboBox& list, QWidget* parent, const QRect& place, const QFont& wantedFont);
 
     /// The caption and the text shown.
     QString NameIn(const QString& caption) const override;
@@ -26,7 +26,7 @@ protected:
 private:
     QStringList ShownItems() const;
 
-    QFont face;
+    QFont wantedFont;
 };
 
 } // namespace Hesperin

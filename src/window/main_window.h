@@ -22,7 +22,7 @@ public:
     /// The widget that shows the control of that name; null when there is none.
     QWidget* WidgetOf(const Control& control) const;
 
-    /// Opens a creature file when the event of the moment has ended.
+    /// Opens a creature file when the current event has been handled.
     void OpenSoon(const QString& file);
 
     /// The process is about to end: closing the window asks nothing any more.
@@ -44,7 +44,7 @@ private:
     TabView* tabs;
     std::vector<std::unique_ptr<EntryView>> menus;
     QString fileToOpen;
-    QTimer opening;  // of a creature file, when the event of the moment has ended
+    QTimer opening;  // of a creature file, when the current event has been handled
     QTimer pictured; // the first picture has been painted
     bool ending = false;
     bool painted = false;

@@ -1,7 +1,7 @@
 #include "window/parameters_page.h"
 
-#include "window/faces.h"
 #include "window/field_view.h"
+#include "window/fonts.h"
 #include "window/frame_view.h"
 #include "window/label_view.h"
 #include "window/list_view.h"
@@ -75,9 +75,9 @@ void BuildDamageFields(MainForm& form, FrameView& frame) {
         const QRect captionPlace(left, FieldTop, labelWidth, FieldHeight);
         const QRect fieldPlace(left + labelWidth + gap, FieldTop, half - labelWidth - gap,
                                FieldHeight);
-        auto* caption = new LabelView(label, &frame, captionPlace, CaptionFace(), Text,
+        auto* caption = new LabelView(label, &frame, captionPlace, CaptionFont(), Text,
                                       Qt::AlignRight | Qt::AlignVCenter);
-        caption->setBuddy(new FieldView(field, &frame, fieldPlace, FigureFace(), Parameter));
+        caption->setBuddy(new FieldView(field, &frame, fieldPlace, FigureFont(), Parameter));
     };
     pair(form.lblMin, form.txtMinDam, Margin);
     pair(form.lblMax, form.txtMaxDam, Margin + half);
@@ -89,13 +89,13 @@ void BuildParametersPage(MainForm& form, QWidget& page, int top) {
     for (const FrameRow& row : FrameRowsOfPage) {
         const QRect place =
             PixelRect(row.left, row.top, row.width, FrameHeight).translated(0, -top);
-        auto* frame = new FrameView(form.*row.frame, &page, CaptionFace(), place);
+        auto* frame = new FrameView(form.*row.frame, &page, CaptionFont(), place);
         const QRect inside(Margin, FieldTop, place.width() - 2 * Margin, FieldHeight);
         if (row.field != nullptr) {
-            const QFont face = row.field == &MainForm::txtNC ? NameFace() : FigureFace();
-            new FieldView(form.*row.field, frame, inside, face, row.colour);
+            const QFont font = row.field == &MainForm::txtNC ? NameFont() : FigureFont();
+            new FieldView(form.*row.field, frame, inside, font, row.colour);
         } else if (row.list != nullptr) {
-            new ListView(form.*row.list, frame, inside, HeadingFace());
+            new ListView(form.*row.list, frame, inside, HeadingFont());
         } else {
             BuildDamageFields(form, *frame);
         }

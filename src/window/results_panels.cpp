@@ -2,7 +2,7 @@
 
 #include "form/form_lists.h"
 #include "text/fill.h"
-#include "window/faces.h"
+#include "window/fonts.h"
 #include "window/frame_view.h"
 #include "window/label_view.h"
 #include "window/palette.h"
@@ -43,7 +43,7 @@ public:
     FigureView(Label& figure, FrameView& frame, const QSize& frameSize, Colour textColour,
                const QString& figureName)
         : LabelView(figure, &frame, {4, 15, frameSize.width() - 8, frameSize.height() - 17},
-                    FigureFace(), textColour, Qt::AlignCenter),
+                    FigureFont(), textColour, Qt::AlignCenter),
           nameText(figureName) {
         frame.NameFields();
     }
@@ -67,7 +67,7 @@ private:
 class Panel {
 public:
     Panel(Program& owner, Frame& frame, QWidget& page, const QRect& place)
-        : program(owner), view(new FrameView(frame, &page, HeadingFace(), place)) {}
+        : program(owner), view(new FrameView(frame, &page, HeadingFont(), place)) {}
 
     void Add(const ResultPlace& place, const MethodLook& look) {
         MainForm& form = program.form;
@@ -76,12 +76,12 @@ public:
         if (inGroup == 0)
             new LabelView(form.*place.heading, view,
                           {PanelMargin, top, view->width() - 2 * PanelMargin, HeadingHeight},
-                          HeadingFace(), look.colour, Qt::AlignCenter);
+                          HeadingFont(), look.colour, Qt::AlignCenter);
         const int width = (view->width() - 2 * PanelMargin - FrameGap) / 2;
         const QRect rect(PanelMargin + (inGroup % 2) * (width + FrameGap),
                          top + HeadingHeight + (inGroup / 2) * (FigureHeight + FrameGap), width,
                          FigureHeight);
-        auto* frame = new FrameView(form.*place.frame, view, CaptionFace(), rect);
+        auto* frame = new FrameView(form.*place.frame, view, CaptionFont(), rect);
         new FigureView(form.*place.label, *frame, rect.size(), look.colour,
                        program.state.messages.*look.figureName);
     } // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): the panel owns what is in it

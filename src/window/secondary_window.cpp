@@ -1,6 +1,6 @@
 #include "window/secondary_window.h"
 
-#include "window/faces.h"
+#include "window/fonts.h"
 
 #include <QCloseEvent>
 #include <QLabel>
@@ -21,7 +21,7 @@ QPushButton& SecondaryWindowView::AddButton(const char* name, const QString& cap
     button = new QPushButton(caption, this);
     button->setObjectName(QLatin1String(name));
     button->setGeometry(place);
-    button->setFont(FittingFace(FigureFace(), caption, place.width() - 12));
+    button->setFont(FittingFont(FigureFont(), caption, place.width() - 12));
     button->setDefault(true);
     connect(button, &QPushButton::clicked, this, [this] { Close(); });
     return *button;
@@ -45,13 +45,13 @@ void SecondaryWindowView::closeEvent(QCloseEvent* event) {
 }
 
 QLabel* AddText(QWidget& window, const char* name, const QString& text, const QRect& place,
-                const QFont& face, Qt::Alignment alignment) {
+                const QFont& font, Qt::Alignment alignment) {
     auto* label = new QLabel(text, &window);
     label->setObjectName(QLatin1String(name));
     label->setGeometry(place);
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(alignment);
-    label->setFont(face);
+    label->setFont(font);
     return label;
 }
 

@@ -36,6 +36,6 @@ private:
 
 /// A text of such a window that can be read and not changed.
 QLabel* AddText(QWidget& window, const char* name, const QString& text, const QRect& place,
-                const QFont& face, Qt::Alignment alignment);
+                const QFont& font, Qt::Alignment alignment);
 
 } // namespace Hesperin

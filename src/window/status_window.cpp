@@ -1,7 +1,7 @@
 #include "window/status_window.h"
 
 #include "system/version_record.h"
-#include "window/faces.h"
+#include "window/fonts.h"
 #include "window/palette.h"
 #include "window/units.h"
 
@@ -23,12 +23,12 @@ StatusWindow::StatusWindow(Program& owner, QWidget* mainWindow, const QString& m
     setWindowTitle(QStringLiteral("Average values"));
     AddButton("Command1", QStringLiteral("OK"), PixelRect(4200, 2880, 2235, 375));
     AddText(*this, "Label1", QStringLiteral("Последнее выполненное действие: "),
-            PixelRect(120, 3600, 4575, 375), CaptionFace(), Qt::AlignLeft | Qt::AlignVCenter);
+            PixelRect(120, 3600, 4575, 375), CaptionFont(), Qt::AlignLeft | Qt::AlignVCenter);
 
-    QFont face = BoxFace();
-    face.setPixelSize(13);
+    QFont font = BoxFont();
+    font.setPixelSize(13);
     QLabel* words =
-        AddText(*this, "lblStatus", message, WordsPlace, face, Qt::AlignLeft | Qt::AlignTop);
+        AddText(*this, "lblStatus", message, WordsPlace, font, Qt::AlignLeft | Qt::AlignTop);
     words->setWordWrap(true);
     words->setTextInteractionFlags(Qt::TextSelectableByMouse);
     const int height = std::max(WordsPlace.height(), words->heightForWidth(WordsPlace.width()));
@@ -38,17 +38,17 @@ StatusWindow::StatusWindow(Program& owner, QWidget* mainWindow, const QString& m
 
 void StatusWindow::paintEvent(QPaintEvent*) {
     constexpr int copies = 6;
-    QFont face = FigureFace();
-    face.setPixelSize(32);
+    QFont font = FigureFont();
+    font.setPixelSize(32);
     QPainter painter(this);
     painter.fillRect(0, 0, width(), TitleHeight, QColor(Colours().AboutBackground));
-    painter.setFont(face);
+    painter.setFont(font);
     painter.setPen(QColor(Colours().StatusShadow));
     const QString title = QString::fromUtf16(VersionRecord::Title);
     for (int copy = 0; copy < copies; ++copy) {
         if (copy == copies - 1)
             painter.setPen(QColor(Colours().StatusTitle));
-        painter.drawText(copy + 10, copy + 10 + QFontMetrics(face).ascent(), title);
+        painter.drawText(copy + 10, copy + 10 + QFontMetrics(font).ascent(), title);
     }
 }
 

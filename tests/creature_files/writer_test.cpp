@@ -23,7 +23,7 @@ TEST(Writer, GivesAFileBackByteForByte) {
     for (const QString& path : paths) {
         const auto document = LoadCreatureDocument(path);
         ASSERT_TRUE(document) << path.toStdString();
-        const ReadCreature read = ReadCreatureText(*document, EmptyCreature());
+        const ReadCreature read = ReadCreatureText(document->text, EmptyCreature());
         const CreatureText text = BuildCreatureText(read.creature, *read.name, read.figures.FileGrowth);
         EXPECT_TRUE(text.plain);
         EXPECT_EQ(QString(CreatureFileBytes(text.text)), QString(ReadAll(path)));

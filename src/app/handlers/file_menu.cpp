@@ -71,24 +71,23 @@ Failure OpenCreatureFile(Program& program, const QString& path) {
     const auto document = LoadCreatureDocument(path);
     if (!document)
         return program.Refuse(document.Why());
-    FillFromDocument(program, document->text, path);
-    SetBaseline(program, document->bytes);
+    ShowDocument(program, *document, path);
     return {};
 }
 
-void FillFromDocument(Program& program, const QString& document, const QString& path) {
+void ShowDocument(Program& program, const CreatureDocument& document, const QString& path) {
     MainForm& form = program.form;
     form.ComDialog.FileName = path;
     form.Tablus.At(Page::File).SetCaption(QString::fromUtf16(VersionRecord::Title));
     form.Tablus.At(Page::File).Switch(false);
     form.Tablus.At(Page::Spells).Switch(false);
-    form.RTBData.SetText(document);
+    form.RTBData.SetText(document.text);
     ClearCreature(program);
     Reset_Abilities(program);
     Reset_Specabilities(program);
     Reset_Spells(program);
 
-    Show(program, ReadCreatureText(document, TakeCreature(program)));
+    Show(program, ReadCreatureText(document.text, TakeCreature(program)));
 
     form.frmMain.SetCaption(FileTitle(program.state.CreatureName, program.state.file));
     program.state.CreatureFileLoaded = true;
@@ -96,6 +95,7 @@ void FillFromDocument(Program& program, const QString& document, const QString& 
     Calculate(program);
     ShowFilePage(form);
     TakeCreatureNumber(form);
+    SetBaseline(program, document.bytes);
 }
 
 bool ConfirmQuit(Program& program) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/program.h"
+#include "creature_files/document.h"
 
 namespace Hesperin {
 
@@ -18,9 +19,9 @@ Failure mnuOpen_Click(Program& program);
 /// told in one information box (MsgElementsMissing, MsgNumbersLimited).
 Failure OpenCreatureFile(Program& program, const QString& path);
 
-/// The part of opening behind the refusals: fills the window from the normalised text of the
-/// creature file `path` and runs Calculate.
-void FillFromDocument(Program& program, const QString& document, const QString& path);
+/// Shows a creature file that has been read: fills the window from it, runs Calculate, and starts
+/// what an update in place goes out from. `path` names it.
+void ShowDocument(Program& program, const CreatureDocument& document, const QString& path);
 
 /// Asks MsgQuitQuestion. After a Yes the language is remembered and the process ends; after a No
 /// nothing has happened. True for Yes.

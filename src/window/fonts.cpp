@@ -1,4 +1,4 @@
-#include "window/faces.h"
+#include "window/fonts.h"
 
 #include <QFontDatabase>
 #include <QFontMetricsF>
@@ -32,60 +32,60 @@ QFont Chancery(int pixelSize, QFont::Weight weight) {
         Installed({QStringLiteral("Monotype Corsiva"), QStringLiteral("Z003"),
                    QStringLiteral("URW Chancery L"), QStringLiteral("Apple Chancery"),
                    QStringLiteral("serif")});
-    QFont face(family);
-    face.setStyleHint(QFont::Serif);
-    face.setPixelSize(pixelSize);
-    face.setWeight(weight);
-    face.setItalic(true);
+    QFont font(family);
+    font.setStyleHint(QFont::Serif);
+    font.setPixelSize(pixelSize);
+    font.setWeight(weight);
+    font.setItalic(true);
 #ifdef Q_OS_LINUX
     // One picture of each letter, not one for each quarter of a pixel: 6 % of all instructions of
     // the start. Windows would draw ragged letters.
-    face.setHintingPreference(QFont::PreferFullHinting);
+    font.setHintingPreference(QFont::PreferFullHinting);
 #endif
-    return face;
+    return font;
 }
 
 } // namespace
 
-QFont CaptionFace() {
+QFont CaptionFont() {
     return Chancery(15, QFont::Normal);
 }
 
-QFont HeadingFace() {
+QFont HeadingFont() {
     return Chancery(15, QFont::Bold);
 }
 
-QFont FigureFace() {
+QFont FigureFont() {
     return Chancery(19, QFont::Bold);
 }
 
-QFont NameFace() {
+QFont NameFont() {
     return Chancery(16, QFont::Bold);
 }
 
-QFont ReadingFace() {
+QFont ReadingFont() {
     return Chancery(32, QFont::Normal);
 }
 
-QFont BoxFace() {
+QFont BoxFont() {
     static const QString family =
         Installed({QStringLiteral("MS Sans Serif"), QStringLiteral("Microsoft Sans Serif"),
                    QGuiApplication::font().family()});
-    QFont face(family);
-    face.setStyleHint(QFont::SansSerif);
-    face.setPixelSize(11);
-    return face;
+    QFont font(family);
+    font.setStyleHint(QFont::SansSerif);
+    font.setPixelSize(11);
+    return font;
 }
 
-QFont FileFace() {
-    QFont face = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    face.setPixelSize(13);
-    return face;
+QFont FileFont() {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPixelSize(13);
+    return font;
 }
 
-QFont FittingFace(const QFont& face, const QString& text, int width) {
+QFont FittingFont(const QFont& font, const QString& text, int width) {
     constexpr int smallest = 7;
-    QFont fitting = face;
+    QFont fitting = font;
     // Nearly right at the first step: each size that is tried has to be loaded.
     for (qreal advance = QFontMetricsF(fitting).horizontalAdvance(text);
          advance > width && fitting.pixelSize() > smallest;
