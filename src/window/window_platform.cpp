@@ -1,8 +1,8 @@
 #include "window/window_platform.h"
 
 #include "localisation/error_text.h"
-#include "text/fill.h"
 #include "system/save_file.h"
+#include "text/fill.h"
 #include "window/ability_window.h"
 #include "window/about_window.h"
 #include "window/main_window.h"
