@@ -13,8 +13,11 @@ bool ScriptedPlatform::AskYesNo(const QString& title, const QString& text) {
 
 int ScriptedPlatform::Ask(const Question& question) {
     const int pressed = answer.value_or(question.answerOfScript);
+    if (question.ofDialog && !answer)
+        return pressed;
+    const QString& button = question.buttons[pressed];
     boxes.push_back({BoxIcon::Question, question.title,
-                     question.text + " [" + question.buttons.join(", ") + "] " + question.buttons[pressed]});
+                     question.text + " [" + question.buttons.join(", ") + "] " + button});
     return pressed;
 }
 

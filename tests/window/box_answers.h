@@ -23,6 +23,7 @@ public:
     }
 
     bool yes = true;   ///< the answer to every question
+    QString ownButton; ///< the one pressed where the question has buttons of its own
     QStringList paths; ///< what is typed into the file dialogs, in order; then they are cancelled
 
     QStringList told; ///< a line for each: "Critical|Warning!|...", the buttons after a question; "file?|" and a name
@@ -59,6 +60,9 @@ private:
         if (buttons.size() > 1)
             told.last() += '|' + buttons.join(' ');
         QAbstractButton* answer = box.button(yes ? QMessageBox::Yes : QMessageBox::No);
+        for (QAbstractButton* own : box.buttons())
+            if (own->text() == ownButton)
+                answer = own;
         QTest::mouseClick(answer != nullptr ? answer : box.button(QMessageBox::Ok), Qt::LeftButton);
     }
 

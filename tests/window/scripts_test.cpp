@@ -99,7 +99,11 @@ private:
     using Words = const QStringList&;
     const QHash<QString, std::function<void(Words words, const QString& rest)>> acts{
         {"answer", [this](Words words, auto&) { use->answers.paths = words; }},
-        {"say", [this](Words words, auto&) { use->answers.yes = words[0] == "yes"; }},
+        {"say",
+         [this](Words words, auto&) {
+             use->answers.yes = words[0] == "yes";
+             use->answers.ownButton = words[0];
+         }},
         {"at",
          [this](Words words, auto&) {
              use->Click(use->Find(words[0]), {words[1].toInt(), words[2].toInt()});

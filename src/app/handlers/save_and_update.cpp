@@ -83,17 +83,20 @@ bool IsOpenedFile(const Program& program, const QString& path) {
 /// Where Save would replace a file: asks whether it may, telling what would be lost. Keeps a copy
 /// before it goes.
 Replacing AskBeforeReplacing(Program& program, const QString& path, const QByteArray& composed) {
+    if (!QFileInfo(path).isFile())
+        return Replacing::Goes; // or the save tells why it can't
     const auto old = ReadFile(path, LargestCreatureFile);
-    if (!old)
-        return Replacing::Goes; // there is none, or the save will tell
     const Messages& messages = program.state.messages;
     const bool isOpened = IsOpenedFile(program, path);
     QStringList lines{Fill(messages.MsgReplace, {path})};
-    if (isOpened && program.state.baseline->bytes != *old)
-        lines.append(messages.MsgReplaceChanged);
-    if (const QStringList lost = LostBySave(*old, composed); !lost.isEmpty())
-        lines.append(Fill(messages.MsgReplaceLoses, {lost.join(QLatin1String(", "))}));
-    lines.append(Fill(messages.MsgReplaceCopy, {QDir::toNativeSeparators(BackupFolder(program))}));
+    if (old) {
+        if (isOpened && program.state.baseline->bytes != *old)
+            lines.append(messages.MsgReplaceChanged);
+        if (const QStringList lost = LostBySave(*old, composed); !lost.isEmpty())
+            lines.append(Fill(messages.MsgReplaceLoses, {lost.join(QLatin1String(", "))}));
+        lines.append(
+            Fill(messages.MsgReplaceCopy, {QDir::toNativeSeparators(BackupFolder(program))}));
+    }
     QStringList buttons{messages.MsgReplaceIt, messages.MsgCancel};
     if (isOpened)
         buttons.prepend(messages.MsgUpdateIt);
@@ -104,7 +107,8 @@ Replacing AskBeforeReplacing(Program& program, const QString& path, const QByteA
         return Replacing::Updates;
     if (answer > replace)
         return Replacing::Cancelled;
-    BackUp(program, path, *old);
+    if (old)
+        BackUp(program, path, *old);
     return Replacing::Goes;
 }
 
