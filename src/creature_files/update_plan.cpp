@@ -131,19 +131,21 @@ private:
     Failure TakeSkill(const QString& token, const Skill& before, const Skill& after) {
         if (before == after)
             return {};
-        const QString wanted = MasteryTokens().at(static_cast<std::size_t>(after.mastery));
+        using Mastery = std::optional<QString>;
+        const Mastery wanted =
+            after.known ? Mastery(MasteryTokens().at(static_cast<std::size_t>(after.mastery)))
+                        : std::nullopt;
         const auto inOpened = MasteryIn(opened, token);
         const auto onDisk = MasteryIn(plan.file, token);
         if (!inOpened || !onDisk)
             return inOpened ? onDisk.Why() : inOpened.Why();
-        if (!after.known)
-            return plan.file.RemoveItem(SpellItems, {token});
         if (*onDisk != *inOpened && *onDisk != wanted) {
             plan.conflicts.push_back({SpellItems, WithMastery(token, *inOpened),
-                                      WithMastery(token, *onDisk), token + u':' + wanted});
+                                      WithMastery(token, *onDisk), WithMastery(token, wanted)});
             return {};
         }
-        return plan.file.AddItem(SpellItems, {token, wanted});
+        return wanted ? plan.file.AddItem(SpellItems, {token, *wanted})
+                      : plan.file.RemoveItem(SpellItems, {token});
     }
 
     static QString WithMastery(const QString& token, const std::optional<QString>& mastery) {
@@ -165,10 +167,12 @@ private:
     Failure TakeCharges(const Element& element) {
         const QString before = ContentFor(element, baseline);
         const QString after = ContentFor(element, now);
+        if (before == after)
+            return {};
         const auto inFile = opened.Content(NameOf(element));
         if (!inFile)
             return inFile.Why();
-        return before == after || *inFile != before ? Failure() : Set(NameOf(element), after);
+        return *inFile && Agree(**inFile, before) ? Set(NameOf(element), after) : Failure();
     }
 
     const Creature& baseline;

@@ -84,16 +84,19 @@ bool IsOpenedFile(const Program& program, const QString& path) {
 /// before it goes.
 Replacing AskBeforeReplacing(Program& program, const QString& path, const QByteArray& composed) {
     const auto old = ReadFile(path, LargestCreatureFile);
-    if (!old)
+    if (!old && !QFileInfo(path).isFile())
         return Replacing::Goes; // there is none, or the save will tell
     const Messages& messages = program.state.messages;
     const bool isOpened = IsOpenedFile(program, path);
     QStringList lines{Fill(messages.MsgReplace, {path})};
-    if (isOpened && program.state.baseline->bytes != *old)
-        lines.append(messages.MsgReplaceChanged);
-    if (const QStringList lost = LostBySave(*old, composed); !lost.isEmpty())
-        lines.append(Fill(messages.MsgReplaceLoses, {lost.join(QLatin1String(", "))}));
-    lines.append(Fill(messages.MsgReplaceCopy, {QDir::toNativeSeparators(BackupFolder(program))}));
+    if (old) { // else it is larger than any creature file, or may not be read
+        if (isOpened && program.state.baseline->bytes != *old)
+            lines.append(messages.MsgReplaceChanged);
+        if (const QStringList lost = LostBySave(*old, composed); !lost.isEmpty())
+            lines.append(Fill(messages.MsgReplaceLoses, {lost.join(QLatin1String(", "))}));
+        lines.append(
+            Fill(messages.MsgReplaceCopy, {QDir::toNativeSeparators(BackupFolder(program))}));
+    }
     QStringList buttons{messages.MsgReplaceIt, messages.MsgCancel};
     if (isOpened)
         buttons.prepend(messages.MsgUpdateIt);
@@ -104,7 +107,8 @@ Replacing AskBeforeReplacing(Program& program, const QString& path, const QByteA
         return Replacing::Updates;
     if (answer > replace)
         return Replacing::Cancelled;
-    BackUp(program, path, *old);
+    if (old)
+        BackUp(program, path, *old);
     return Replacing::Goes;
 }
 
@@ -208,7 +212,10 @@ Failure mnuUpdate_Click(Program& program) {
     if (!plan->conflicts.empty())
         return program.Refuse(Saving(path, ConflictError(messages, plan->conflicts)));
     if (plan->file.Changes().empty()) {
-        program.Warn(BoxIcon::Information, messages.MsgUpdateNothing);
+        program.Warn(BoxIcon::Information,
+                     messages.MsgUpdateNothing +
+                         (plan->nameChanged ? QLatin1String("\n\n") + messages.MsgUpdateName
+                                            : QString()));
         return {};
     }
     const auto edited = plan->file.Write();
