@@ -102,8 +102,11 @@ Error EditedFile::Unknown(const QString& name) const {
     QStringList known;
     for (const Element& element : Elements)
         known += {element.name.toString(), PathIn(element)};
-    for (std::size_t i = 1; i < elements.size(); ++i)
+    for (std::size_t i = 1; i < elements.size(); ++i) {
         known += {elements[i].name.toString(), PathOf(static_cast<int>(i))};
+        for (const AttributePlace& attribute : AttributesOf(document.Text(), elements[i].startTag))
+            known += PathOf(static_cast<int>(i)) + u'@' + attribute.name.toString();
+    }
     return {Error::What::ElementUnknown, name, NearestTo(name, known)};
 }
 
@@ -150,18 +153,17 @@ Result<EditedFile::Target> EditedFile::Find(const QString& name) const {
             break;
         }
     if (target.element == None && (target.format == nullptr || !target.attribute.isEmpty()))
-        return Unknown(own);
+        return Unknown(name);
     if (target.element == None)
         target.path = PathIn(*target.format);
     if (!target.attribute.isEmpty()) {
         target.path += u'@' + target.attribute;
-        QStringList known;
         const ElementPlace& place = elements[static_cast<std::size_t>(target.element)];
-        for (const AttributePlace& attribute : AttributesOf(document.Text(), place.startTag))
-            known.append(attribute.name.toString());
-        if (!known.contains(target.attribute))
-            return Error{Error::What::ElementUnknown, target.path,
-                         NearestTo(target.attribute, known)};
+        const auto present = AttributesOf(document.Text(), place.startTag);
+        if (std::none_of(present.begin(), present.end(), [&](const AttributePlace& known) {
+                return known.name == target.attribute;
+            }))
+            return Unknown(target.path);
     }
     return target;
 }

@@ -91,7 +91,8 @@ Failure EditedFile::AddItem(const QString& list, const ListItem& item) {
     for (ItemState& known : (*state)->items) {
         if (!known.now || !SameWord(known.now->word, wanted.word))
             continue;
-        if (!SameWord(known.now->mastery, wanted.mastery)) {
+        const QString& level = known.now->mastery;
+        if (list == SpellList && !SameWord(level.isEmpty() ? NoMastery : level, wanted.mastery)) {
             if (known.element != None && ChildOf(known.element, u"Mastery") == None)
                 return Error{Error::What::UnsafeEdit};
             known.now->mastery = wanted.mastery;

@@ -84,7 +84,9 @@ Result<DocumentText> DocumentText::Decode(const QByteArray& bytes) {
     }
     if (document.text.contains(QChar(0))) // characters of four bytes
         return Error{Error::What::EncodingUnknown, QStringLiteral("UTF-32")};
-    if (document.encoding != Encoding::Utf8 || document.text.size() == content.size())
+    const bool oneByteAUnit = document.text.size() == content.size() &&
+                              !document.text.contains(QChar::ReplacementCharacter);
+    if (document.encoding != Encoding::Utf8 || oneByteAUnit)
         return document;
     document.offsets.reserve(static_cast<std::size_t>(document.text.size()) + 1);
     quint32 offset = 0;

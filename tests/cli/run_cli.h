@@ -3,44 +3,42 @@
 
 #include "support/test_program.h"
 
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QProcess>
-#include <QStringList>
 
 namespace Hesperin {
 
 struct CliOutcome {
-    int code = -1;
+    int code = -1; ///< also for a program that didn't end by itself
     QString out;
     QString err;
 
     QStringList Lines() const { return out.split('\n', Qt::SkipEmptyParts); }
     QStringList Complaints() const { return err.split('\n', Qt::SkipEmptyParts); }
-
-    /// The object on line `line` of the output.
-    QJsonObject Json(qsizetype line = 0) const {
-        return QJsonDocument::fromJson(Lines().value(line).toUtf8()).object();
-    }
 };
 
 inline CliOutcome FinishCli(QProcess& process) {
+    process.closeWriteChannel();
     process.waitForFinished();
     return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
             QString::fromUtf8(process.readAllStandardOutput()), QString::fromUtf8(process.readAllStandardError())};
 }
 
-inline CliOutcome RunCli(const QStringList& arguments, const QByteArray& input = {}) {
+/// Runs it, or a copy of it, in `folder`, or where the test runs.
+inline CliOutcome RunCli(const QStringList& arguments, const QByteArray& input = {}, const QString& folder = {},
+                         const QString& program = TestedProgram("talmir-cli")) {
     QProcess process;
-    process.start(TestedProgram("talmir-cli"), arguments);
+    process.setWorkingDirectory(folder);
+    process.start(program, arguments);
     process.write(input);
-    process.closeWriteChannel();
     return FinishCli(process);
 }
 
-/// Plays a script from standard input.
-inline CliOutcome Play(const QByteArray& script, const QStringList& options = {}) {
-    return RunCli(QStringList{"run", "-"} + options, script);
+/// Runs a command of the shell in `folder`, where "$0" is the program.
+inline CliOutcome RunShell(const QString& command, const QString& folder = {}) {
+    QProcess process;
+    process.setWorkingDirectory(folder);
+    process.start("sh", {"-c", command, TestedProgram("talmir-cli")});
+    return FinishCli(process);
 }
 
 } // namespace Hesperin

@@ -11,6 +11,13 @@ bool ScriptedPlatform::AskYesNo(const QString& title, const QString& text) {
     return answerYes;
 }
 
+int ScriptedPlatform::Ask(const Question& question) {
+    const int pressed = answer.value_or(question.answerOfScript);
+    boxes.push_back({BoxIcon::Question, question.title,
+                     question.text + " [" + question.buttons.join(", ") + "] " + question.buttons[pressed]});
+    return pressed;
+}
+
 bool ScriptedPlatform::StartProgram(const QString& name) {
     started.append(name);
     return startable.contains(name);

@@ -20,6 +20,7 @@ public:
 
     void ShowMessage(BoxIcon icon, const QString& title, const QString& text) override;
     bool AskYesNo(const QString& title, const QString& text) override;
+    int Ask(const Question& question) override;
     bool ShowOpenDialog(FileDialog& dialog) override { return Answer(dialog); }
     bool ShowSaveDialog(FileDialog& dialog) override { return Answer(dialog); }
     void SetFocus(Control& control) override { focus.append(control.Name()); }
@@ -30,6 +31,7 @@ public:
     QStringList CalculatorNames() const override { return calculators; }
     QString ProgramFolder() const override { return programFolder; }
     QString SettingsFolder() const override { return settingsFolder; }
+    QString DataFolder() const override { return dataFolder; }
     void EndProcess() override { ended = true; }
 
     /// Texts of the boxes shown so far.
@@ -38,11 +40,13 @@ public:
     // What it answers.
     std::optional<QString> dialogPath; ///< none: the dialog is cancelled
     bool answerYes = true;
+    std::optional<int> answer; ///< to questions with buttons of their own; none: as in a script
     std::optional<RunningInstance> otherInstance;
     QStringList calculators{"first", "second"};
     QStringList startable; ///< the programs that can be started
     QString programFolder;
     QString settingsFolder;
+    QString dataFolder;
 
     // What it was asked.
     std::vector<Box> boxes;

@@ -10,6 +10,7 @@ namespace Hesperin {
 TestProgram::TestProgram(std::uint8_t language, Start start) {
     platform.programFolder = folder.path();
     platform.settingsFolder = folder.filePath("settings");
+    platform.dataFolder = folder.filePath("data");
     if (start == Start::Loaded)
         Form_Load(program, {language, false});
 }
