@@ -62,9 +62,8 @@ void DescribeSet(QCommandLineParser& parser) {
                       QStringLiteral("PATH")});
 }
 
-/// Splits the arguments into changes and paths: all up to the first without "=" are changes, or all
-/// in front of
-/// "--" where there is one.
+/// How many of the arguments are changes: all up to the first without "=", or all in front of "--"
+/// where there is one.
 qsizetype CountChanges(const QStringList& arguments) {
     const QStringList all = QCoreApplication::arguments();
     if (const qsizetype end = all.indexOf(QLatin1String("--")); end >= 0)
@@ -140,6 +139,9 @@ private:
             ++changedFiles;
             changes += report.changes.size();
         }
+        if (json || diff) // which have no place for them
+            for (const Error& note : report.notes)
+                Complain(QStringLiteral("%1: %2").arg(report.file, ErrorReason(messages, note)));
         if (json)
             return PrintLine(JsonLine(ChangeJson(messages, report)));
         if (report.error || report.changes.empty())

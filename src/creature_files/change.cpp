@@ -111,16 +111,17 @@ Failure Reckon(const Change& change, EditedFile& file) {
             error.value = content->value_or(QString());
         return error;
     }
-    const std::int64_t result =
-        change.does == Change::Does::Multiply
-            ? Product(*whole, *number)
-            : Sum(*whole, *number, change.does == Change::Does::Add ? 1 : -1);
-    if (result < 0) {
+    const auto result = change.does == Change::Does::Multiply
+                            ? Product(*whole, *number)
+                            : Sum(*whole, *number, change.does == Change::Does::Add ? 1 : -1);
+    if (!result)
+        return Refusal(Error::What::NoWholeNumber, change);
+    if (*result < 0) {
         Error error = Refusal(Error::What::BelowZero, change);
-        error.value = QString::number(result);
+        error.value = QString::number(*result);
         return error;
     }
-    return result == *whole ? Failure() : file.Set(change.name, QString::number(result));
+    return *result == *whole ? Failure() : file.Set(change.name, QString::number(*result));
 }
 
 } // namespace

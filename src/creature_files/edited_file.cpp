@@ -1,7 +1,6 @@
 #include "creature_files/edited_file.h"
 
 #include "creature_files/document.h"
-#include "text/escape.h"
 #include "text/nearest.h"
 
 #include <algorithm>
@@ -15,13 +14,20 @@ QString PathIn(const Element& element) {
                                     : element.parent.toString() + u'/' + element.name.toString();
 }
 
-/// The part of `span` without the white space at its ends.
-Span CoreOf(QStringView text, Span span) {
-    while (span.start < span.end && text[span.start].isSpace())
-        ++span.start;
-    while (span.end > span.start && text[span.end - 1].isSpace())
-        --span.end;
-    return span;
+bool IsAt(const Element& element, QStringView path) {
+    if (element.parent.isEmpty())
+        return path == element.name;
+    return path.size() == element.parent.size() + 1 + element.name.size() &&
+           path.startsWith(element.parent) && path[element.parent.size()] == u'/' &&
+           path.endsWith(element.name);
+}
+
+/// Line ends as a parser gives them.
+QString WithLineFeeds(QStringView text) {
+    QString plain = text.toString();
+    if (plain.contains(u'\r'))
+        plain.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
+    return plain;
 }
 
 /// Whether a document can hold the text at all.
@@ -32,30 +38,57 @@ bool CanBeSpelled(const QString& text) {
            });
 }
 
-QString SpelledContent(const QString& text) {
-    return Escaped(text, Escape::Content).replace(QLatin1String("]]>"), QLatin1String("]]&gt;"));
-}
-
 } // namespace
 
 Result<EditedFile> EditedFile::Open(const QByteArray& bytes) {
-    if (const auto normalised = NormaliseCreature(bytes); !normalised)
-        return normalised.Why();
+    auto normalised = NormaliseCreature(bytes);
+    return normalised ? Open(bytes, std::move(*normalised)) : normalised.Why();
+}
+
+Result<EditedFile> EditedFile::Open(const QByteArray& bytes, QString normalised) {
     auto decoded = DocumentText::Decode(bytes);
     if (!decoded)
         return decoded.Why();
-    EditedFile file(bytes, std::move(*decoded));
+    EditedFile file(bytes, std::move(*decoded), std::move(normalised));
     auto found = FindElements(file.document.Text());
     if (!found)
         return found.Why();
     file.elements = std::move(*found);
+    if (file.document.Text().contains(QLatin1String("<!ENTITY")))
+        file.FindBroughtIn();
     return file;
+}
+
+/// Notes the elements that stand in no place of their own but come out of an entity.
+void EditedFile::FindBroughtIn() {
+    EditedFile read({}, {}, {});
+    if (auto found = FindElements(normalised))
+        read.elements = std::move(*found);
+    for (std::size_t i = 1; i < read.elements.size(); ++i)
+        broughtIn.append(read.PathOf(static_cast<int>(i)));
+    for (std::size_t i = 1; i < elements.size(); ++i)
+        broughtIn.removeOne(PathOf(static_cast<int>(i)));
 }
 
 QString EditedFile::PathOf(int element) const {
     const ElementPlace& place = elements[static_cast<std::size_t>(element)];
     return place.parent <= 0 ? place.name.toString()
                              : PathOf(place.parent) + u'/' + place.name.toString();
+}
+
+bool EditedFile::IsAt(int element, QStringView path) const {
+    for (;;) {
+        const ElementPlace& place = elements[static_cast<std::size_t>(element)];
+        if (!path.endsWith(place.name))
+            return false;
+        path.chop(place.name.size());
+        if (place.parent <= 0)
+            return path.isEmpty();
+        if (!path.endsWith(u'/'))
+            return false;
+        path.chop(1);
+        element = place.parent;
+    }
 }
 
 int EditedFile::ChildOf(int parent, QStringView name) const {
@@ -69,8 +102,11 @@ Error EditedFile::Unknown(const QString& name) const {
     QStringList known;
     for (const Element& element : Elements)
         known += {element.name.toString(), PathIn(element)};
-    for (std::size_t i = 1; i < elements.size(); ++i)
+    for (std::size_t i = 1; i < elements.size(); ++i) {
         known += {elements[i].name.toString(), PathOf(static_cast<int>(i))};
+        for (const AttributePlace& attribute : AttributesOf(document.Text(), elements[i].startTag))
+            known += PathOf(static_cast<int>(i)) + u'@' + attribute.name.toString();
+    }
     return {Error::What::ElementUnknown, name, NearestTo(name, known)};
 }
 
@@ -79,39 +115,59 @@ Result<EditedFile::Target> EditedFile::Find(const QString& name) const {
     target.attribute = name.section(u'@', 1);
     const QString own = name.section(u'@', 0, 0);
     const bool isPath = own.contains(u'/');
-    const QString last = own.section(u'/', -1);
+    const QStringView last = QStringView(own).sliced(own.lastIndexOf(u'/') + 1);
+    const auto isBroughtIn = [&](const QString& path) {
+        return path == own || (!isPath && path.section(u'/', -1) == own);
+    };
+    if (std::any_of(broughtIn.begin(), broughtIn.end(), isBroughtIn))
+        return Error{Error::What::FromEntity, own};
+    struct Found {
+        int first = None;
+        int second = None;
+    };
+    Found byPath;
+    Found byLastName;
     for (std::size_t i = 1; i < elements.size(); ++i) {
-        const int element = static_cast<int>(i);
-        if (elements[i].name != last || (isPath && PathOf(element) != own))
+        if (elements[i].name != last)
             continue;
-        if (target.element != None) {
-            Error twice{Error::What::ElementTwice, own};
-            twice.line = elements[i].line;
-            return twice;
-        }
-        target.element = element;
+        const int element = static_cast<int>(i);
+        const auto note = [element](Found& found) {
+            (found.first == None ? found.first : found.second) = element;
+        };
+        note(byLastName);
+        if (IsAt(element, own))
+            note(byPath);
     }
-    const QString path = target.element == None ? own : PathOf(target.element);
+    const Found& found = isPath || byPath.first != None ? byPath : byLastName;
+    if (found.second != None) {
+        Error twice{Error::What::ElementTwice, own};
+        twice.line = elements[static_cast<std::size_t>(found.second)].line;
+        return twice;
+    }
+    target.element = found.first;
+    target.path = target.element == None ? own : PathOf(target.element);
     for (const Element& element : Elements)
-        if (PathIn(element) == path || (target.element == None && element.name == own))
+        if (Hesperin::IsAt(element, target.path) ||
+            (target.element == None && element.name == own)) {
             target.format = &element;
+            break;
+        }
     if (target.element == None && (target.format == nullptr || !target.attribute.isEmpty()))
-        return Unknown(own);
-    target.path = target.element == None ? PathIn(*target.format) : path;
+        return Unknown(name);
+    if (target.element == None)
+        target.path = PathIn(*target.format);
     if (!target.attribute.isEmpty()) {
         target.path += u'@' + target.attribute;
-        QStringList known;
         const ElementPlace& place = elements[static_cast<std::size_t>(target.element)];
-        for (const AttributePlace& attribute : AttributesOf(document.Text(), place.startTag))
-            known.append(attribute.name.toString());
-        if (!known.contains(target.attribute))
-            return Error{Error::What::ElementUnknown, target.path,
-                         NearestTo(target.attribute, known)};
+        const auto present = AttributesOf(document.Text(), place.startTag);
+        if (std::none_of(present.begin(), present.end(), [&](const AttributePlace& known) {
+                return known.name == target.attribute;
+            }))
+            return Unknown(target.path);
     }
     return target;
 }
 
-/// As the file has it.
 Result<QString> EditedFile::ValueOf(int element) const {
     const ElementPlace& place = elements[static_cast<std::size_t>(element)];
     if (place.children > 0)
@@ -119,7 +175,7 @@ Result<QString> EditedFile::ValueOf(int element) const {
     const QStringView text = document.Text();
     QString value;
     for (const ContentPiece& piece : PiecesOf(text, place.content)) {
-        const QStringView part = text.sliced(piece.span.start, piece.span.Length());
+        const QString part = WithLineFeeds(text.sliced(piece.span.start, piece.span.Length()));
         if (piece.kind == ContentPiece::Kind::Entity)
             return Error{Error::What::FromEntity, PathOf(element)};
         if (piece.kind == ContentPiece::Kind::CData)
@@ -130,23 +186,29 @@ Result<QString> EditedFile::ValueOf(int element) const {
     return value.trimmed();
 }
 
+Result<QString> EditedFile::ValueOf(const Target& target) const {
+    if (target.attribute.isEmpty())
+        return ValueOf(target.element);
+    const QStringView text = document.Text();
+    const ElementPlace& place = elements[static_cast<std::size_t>(target.element)];
+    for (const AttributePlace& attribute : AttributesOf(text, place.startTag)) {
+        if (attribute.name != target.attribute)
+            continue;
+        QString spelled =
+            WithLineFeeds(text.sliced(attribute.value.start, attribute.value.Length()));
+        const auto value = Resolved(spelled.replace(u'\n', u' ').replace(u'\t', u' '));
+        return value ? Result(*value) : Error{Error::What::FromEntity, target.path};
+    }
+    return QString();
+}
+
 Result<QString> EditedFile::CurrentValue(const Target& target) const {
     if (target.attribute.isEmpty()) {
         const auto changed = contents.find(target.element);
-        return changed == contents.end() ? ValueOf(target.element) : Result(changed->second);
+        return changed == contents.end() ? ValueOf(target) : Result(changed->second);
     }
     const auto changed = attributes.find({target.element, target.attribute});
-    if (changed != attributes.end())
-        return changed->second;
-    const ElementPlace& place = elements[static_cast<std::size_t>(target.element)];
-    for (const AttributePlace& attribute : AttributesOf(document.Text(), place.startTag))
-        if (attribute.name == target.attribute) {
-            const auto value =
-                Resolved(QStringView(document.Text())
-                             .sliced(attribute.value.start, attribute.value.Length()));
-            return value ? Result(*value) : Error{Error::What::FromEntity, target.path};
-        }
-    return QString();
+    return changed == attributes.end() ? ValueOf(target) : Result(changed->second);
 }
 
 Result<std::optional<QString>> EditedFile::Content(const QString& name) const {
@@ -172,20 +234,25 @@ Failure EditedFile::Set(const QString& name, const QString& text) {
         return target.Why();
     if (!CanBeSpelled(text))
         return Error{Error::What::CantBeSpelled, text};
-    if (target->element != None) {
-        const auto value = CurrentValue(*target);
-        if (!value)
-            return value.Why();
-        if (*value == text)
-            return {};
-        if (target->attribute.isEmpty())
-            contents[target->element] = text;
-        else
-            attributes[{target->element, target->attribute}] = text;
-    } else {
+    if (target->element == None) {
         if (IsList(target->path))
             return Error{Error::What::HoldsElements, target->path};
         missing[target->format] = text;
+    } else {
+        const auto inFile = ValueOf(*target);
+        if (!inFile)
+            return inFile.Why();
+        // Back to what the file has: no change, and its spelling stays.
+        if (target->attribute.isEmpty()) {
+            contents.erase(target->element);
+            if (*inFile != text)
+                contents.emplace(target->element, text);
+        } else {
+            const std::pair key(target->element, target->attribute);
+            attributes.erase(key);
+            if (*inFile != text)
+                attributes.emplace(key, text);
+        }
     }
     if (!order.contains(target->path))
         order.append(target->path);
@@ -212,96 +279,12 @@ std::vector<FileChange> EditedFile::Changes() const {
             changes.push_back({path, std::nullopt, missing.at(target->format)});
             continue;
         }
-        const auto before = EditedFile(*this).Forgetting(*target);
+        const auto before = ValueOf(*target);
         const auto now = CurrentValue(*target);
         if (before && now && *before != *now)
             changes.push_back({path, *before, *now});
     }
     return changes;
-}
-
-/// The value that the file has.
-Result<QString> EditedFile::Forgetting(const Target& target) {
-    contents.erase(target.element);
-    attributes.erase({target.element, target.attribute});
-    return CurrentValue(target);
-}
-
-void EditedFile::Replace(Span span, const QString& text, std::vector<Edit>& edits) const {
-    const qsizetype start = document.OffsetOf(span.start);
-    edits.push_back({start, document.OffsetOf(span.end) - start, document.Encode(text)});
-}
-
-Failure EditedFile::AddContentEdits(int element, const QString& text,
-                                    std::vector<Edit>& edits) const {
-    const ElementPlace& place = elements[static_cast<std::size_t>(element)];
-    const QStringView all = document.Text();
-    if (place.isEmptyTag) { // <X/> opens up
-        qsizetype slash = place.startTag.end - 2;
-        while (all[slash - 1].isSpace())
-            --slash;
-        Replace({slash, place.startTag.end},
-                u'>' + SpelledContent(text) + QLatin1String("</") + place.name.toString() + u'>',
-                edits);
-        return {};
-    }
-    QString rest = text; // for the first piece; what the others held goes
-    bool placed = false;
-    for (const ContentPiece& piece : PiecesOf(all, place.content)) {
-        const bool isCData = piece.kind == ContentPiece::Kind::CData;
-        const Span core = isCData ? piece.span : CoreOf(all, piece.span);
-        if (piece.kind == ContentPiece::Kind::Invisible || (core.Length() == 0 && !isCData))
-            continue;
-        if (isCData && rest.contains(QLatin1String("]]>")))
-            return Error{Error::What::UnsafeEdit};
-        Replace(core, isCData ? rest : SpelledContent(rest), edits);
-        rest.clear();
-        placed = true;
-    }
-    if (placed)
-        return {};
-    const bool onlyBlanks = CoreOf(all, place.content).Length() == 0;
-    Replace(onlyBlanks ? place.content : Span{place.content.start, place.content.start},
-            SpelledContent(text), edits);
-    return {};
-}
-
-Result<std::vector<Edit>> EditedFile::Edits() const {
-    std::vector<Edit> edits;
-    for (const auto& [element, text] : contents)
-        if (auto failure = AddContentEdits(element, text, edits))
-            return *failure;
-    for (const auto& [key, text] : attributes) {
-        const ElementPlace& place = elements[static_cast<std::size_t>(key.first)];
-        for (const AttributePlace& attribute : AttributesOf(document.Text(), place.startTag))
-            if (attribute.name == key.second) {
-                QString spelled = Escaped(text, Escape::Attribute);
-                if (attribute.quote == u'\'')
-                    spelled.replace(QLatin1String("&quot;"), QLatin1String("\""))
-                        .replace(u'\'', QLatin1String("&apos;"));
-                Replace(attribute.value, spelled, edits);
-            }
-    }
-    for (const auto& [name, list] : lists) {
-        if (list.element == None)
-            AddMissingList(name, list, edits);
-        else
-            AddListEdits(list, edits);
-    }
-    AddMissingEdits(edits);
-    return edits;
-}
-
-Result<QByteArray> EditedFile::Write() const {
-    auto edits = Edits();
-    if (!edits)
-        return edits.Why();
-    auto edited = ApplyEdits(bytes, std::move(*edits));
-    if (!edited)
-        return edited.Why();
-    if (auto failure = Check(*edited))
-        return *failure;
-    return edited;
 }
 
 } // namespace Hesperin

@@ -35,10 +35,13 @@ public:
     /// Refuses what the reader of creature files refuses, and an encoding that can't be written.
     static Result<EditedFile> Open(const QByteArray& bytes);
 
+    /// The same for bytes whose normalised text is known.
+    static Result<EditedFile> Open(const QByteArray& bytes, QString normalised);
+
     /// The content of an element or attribute as it stands after the changes so far, white space
     /// around it left out; none when the format knows it and the file lacks it. `name`: a path
-    /// below Creature
-    /// ("Cost/Gold"), or a last name that occurs once, behind it "@" and the name of an attribute.
+    /// below Creature ("Cost/Gold"), or else a last name that occurs once; behind it "@" and the
+    /// name of an attribute.
     Result<std::optional<QString>> Content(const QString& name) const;
 
     /// What the format says of the element; null when it is none of its elements.
@@ -96,42 +99,58 @@ private:
         std::vector<ItemState> items;
     };
 
-    EditedFile(const QByteArray& content, DocumentText decoded)
-        : bytes(content), document(std::move(decoded)) {}
+    EditedFile(const QByteArray& content, DocumentText decoded, QString normalisedText)
+        : bytes(content), document(std::move(decoded)), normalised(std::move(normalisedText)) {}
 
+    void FindBroughtIn();
     Result<Target> Find(const QString& name) const;
     Error Unknown(const QString& name) const;
     QString PathOf(int element) const;
+    bool IsAt(int element, QStringView path) const;
     int ChildOf(int parent, QStringView name) const;
+
+    // As the file has it.
     Result<QString> ValueOf(int element) const;
+    Result<QString> ValueOf(const Target& target) const;
+
     Result<QString> CurrentValue(const Target& target) const;
-    Result<QString> Forgetting(const Target& target);
 
     Result<ListState> ReadList(const QString& list) const;
     Result<ListState*> ListToChange(const QString& list);
 
     // Edits, by kind of change.
     Failure AddContentEdits(int element, const QString& text, std::vector<Edit>& edits) const;
-    void AddListEdits(const ListState& list, std::vector<Edit>& edits) const;
+    Failure AddListEdits(const ListState& list, std::vector<Edit>& edits) const;
     void AddMissingEdits(std::vector<Edit>& edits) const;
-    void AddMissingList(const QString& list, const ListState& state,
-                        std::vector<Edit>& edits) const;
-    void AddElement(const Element& format, const QString& markup, std::vector<Edit>& edits) const;
-    void RemoveItem(const ElementPlace& item, const ElementPlace& list,
-                    std::vector<Edit>& edits) const;
+    void RemoveItems(Span items, const ElementPlace& list, std::vector<Edit>& edits) const;
+    void FillIn(const ElementPlace& element, const QString& markup, std::vector<Edit>& edits) const;
     void Replace(Span span, const QString& text, std::vector<Edit>& edits) const;
+
+    // What is lacking.
+    int AnchorOf(int parent, const Element& format) const;
+    bool IsAdded(const Element& format) const;
+    QString MarkupOf(const Element& format, const QString& separator) const;
+    QString GroupMarkup(QStringView group, const QString& separator) const;
 
     // Layout.
     QString IndentBefore(qsizetype place) const;
     QString Unit() const;
+    QString SeparatorIn(const ElementPlace& element) const;
+    qsizetype BehindComments(qsizetype end) const;
     QString EmptyTagEnd(int besides) const;
     QString ItemMarkup(const ListItem& item, const ListState& list, const QString& separator) const;
+    static QString Spelled(const QString& text);
 
     Failure Check(const QByteArray& edited) const;
+    QStringList ExpectedContents(bool& isSafe) const;
+    QStringList ContentsBelow(int element) const;
+    static Result<QStringList> ContentsIn(QStringView normalised);
 
     QByteArray bytes;
     DocumentText document;
+    QString normalised;
     std::vector<ElementPlace> elements;
+    QStringList broughtIn;                                 ///< paths of what entities bring in
     std::map<int, QString> contents;                       ///< new ones, by element
     std::map<std::pair<int, QString>, QString> attributes; ///< new ones
     std::map<const Element*, QString> missing;             ///< contents of elements that are added

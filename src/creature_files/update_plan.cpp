@@ -13,6 +13,7 @@ namespace {
 
 const QString SpellItems = QStringLiteral("KnownSpells");
 const QString AbilityItems = QStringLiteral("Abilities");
+const QString Nothing = QStringLiteral("-"); // stands for what isn't there
 
 /// Whether an update may write the element's content: it says something that the user enters.
 bool IsEntered(Says says) {
@@ -42,6 +43,24 @@ bool Agree(const QString& inFile, const QString& inWindow) {
 QString NameOf(const Element& element) {
     return element.parent.isEmpty() ? element.name.toString()
                                     : element.parent.toString() + u'/' + element.name.toString();
+}
+
+/// Whether the window shows what stands there, so that it isn't lost where it goes.
+bool IsInWindow(const QString& name, const QString& value) {
+    const auto knows = [&value](const auto& tokens) {
+        return std::any_of(tokens.begin(), tokens.end(), [&value](const QString& token) {
+            return value.compare(token, Qt::CaseInsensitive) == 0;
+        });
+    };
+    if (name.startsWith(AbilityItems + u'/'))
+        return knows(AbilityTokens());
+    if (name == SpellItems + QLatin1String("/Item/Spell"))
+        return knows(SpellTokens()) || knows(SpecabilityTokens());
+    if (name.startsWith(SpellItems + u'/'))
+        return true;
+    return std::any_of(Elements.begin(), Elements.end(), [&name](const Element& element) {
+        return NameOf(element) == name && IsEntered(element.says);
+    });
 }
 
 class Planner {
@@ -93,7 +112,7 @@ private:
             return wasOpened ? onDisk.Why() : wasOpened.Why();
         if (*onDisk != *wasOpened && *onDisk != content) {
             plan.conflicts.push_back(
-                {element, wasOpened->value_or(QString()), onDisk->value_or(QString()), content});
+                {element, wasOpened->value_or(Nothing), onDisk->value_or(Nothing), content});
             return {};
         }
         return plan.file.Set(element, content);
@@ -131,23 +150,25 @@ private:
     Failure TakeSkill(const QString& token, const Skill& before, const Skill& after) {
         if (before == after)
             return {};
-        const QString wanted = MasteryTokens().at(static_cast<std::size_t>(after.mastery));
+        using Mastery = std::optional<QString>;
+        const Mastery wanted =
+            after.known ? Mastery(MasteryTokens().at(static_cast<std::size_t>(after.mastery)))
+                        : std::nullopt;
         const auto inOpened = MasteryIn(opened, token);
         const auto onDisk = MasteryIn(plan.file, token);
         if (!inOpened || !onDisk)
             return inOpened ? onDisk.Why() : inOpened.Why();
-        if (!after.known)
-            return plan.file.RemoveItem(SpellItems, {token});
         if (*onDisk != *inOpened && *onDisk != wanted) {
             plan.conflicts.push_back({SpellItems, WithMastery(token, *inOpened),
-                                      WithMastery(token, *onDisk), token + u':' + wanted});
+                                      WithMastery(token, *onDisk), WithMastery(token, wanted)});
             return {};
         }
-        return plan.file.AddItem(SpellItems, {token, wanted});
+        return wanted ? plan.file.AddItem(SpellItems, {token, *wanted})
+                      : plan.file.RemoveItem(SpellItems, {token});
     }
 
     static QString WithMastery(const QString& token, const std::optional<QString>& mastery) {
-        return mastery ? token + u':' + *mastery : QStringLiteral("-");
+        return mastery ? token + u':' + *mastery : Nothing;
     }
 
     /// The mastery that a file has for the item; none when it lacks the item.
@@ -165,10 +186,12 @@ private:
     Failure TakeCharges(const Element& element) {
         const QString before = ContentFor(element, baseline);
         const QString after = ContentFor(element, now);
+        if (before == after)
+            return {};
         const auto inFile = opened.Content(NameOf(element));
         if (!inFile)
             return inFile.Why();
-        return before == after || *inFile != before ? Failure() : Set(NameOf(element), after);
+        return *inFile && Agree(**inFile, before) ? Set(NameOf(element), after) : Failure();
     }
 
     const Creature& baseline;
@@ -199,14 +222,12 @@ QStringList LostBySave(const QByteArray& old, const QByteArray& composed) {
     QList<int> counts;
     for (const QString& content : *oldContents) {
         const QString name = content.section(u'=', 0, 0);
-        const QString top = name.section(u'/', 0, 0).section(u'@', 0, 0);
-        const bool isEntered = std::any_of(Elements.begin(), Elements.end(), [&](const Element& e) {
-            return NameOf(e) == name && IsEntered(e.says);
-        });
-        const bool empty = content.endsWith(u'=');
-        if (newContents->contains(content) || isEntered || empty || top == AbilityItems ||
-            top == SpellItems)
+        const QString value = content.section(u'=', 1);
+        if (value.isEmpty() || newContents->contains(content) || IsInWindow(name, value))
             continue;
+        const QString top = name.startsWith(QLatin1String("Creature@"))
+                                ? name
+                                : name.section(u'/', 0, 0).section(u'@', 0, 0);
         if (const qsizetype known = names.indexOf(top); known >= 0) {
             ++counts[known];
         } else {

@@ -54,7 +54,8 @@ QJsonObject ChangeJson(const Messages& messages, const ChangeReport& report) {
 QByteArray ChangeDiff(const ChangeReport& report) {
     if (report.changes.empty())
         return {};
-    const QByteArray name = report.file.toUtf8();
+    const bool hasBlank = report.file.contains(u' '); // a tab tells where the name ends
+    const QByteArray name = report.file.toUtf8() + (hasBlank ? "\t" : "");
     return "--- " + name + "\n+++ " + name + '\n' + LineDiff(report.before, report.after);
 }
 

@@ -10,6 +10,18 @@
 
 namespace Hesperin {
 
+namespace {
+
+/// The number that the file has in an element, which may lie outside the 16 bits of `value`.
+double InFile(const ReadCreature& read, QStringView element, std::int16_t value) {
+    for (const LimitedNumber& limited : read.limited)
+        if (limited.element == element)
+            return TextToNumber(limited.text);
+    return value;
+}
+
+} // namespace
+
 const std::vector<double>* ModScale::RatiosOf(std::int16_t tier, Figure figure) const {
     if (tier < 1 || static_cast<std::size_t>(tier) >= Tiers)
         return nullptr;
@@ -49,11 +61,11 @@ ModScale ScaleOf(const QStringList& paths) {
             continue;
         const std::int16_t tier =
             RoundTo16Bits(TextToNumber(read.creature.Choices[ListField::Tier].text));
-        const std::pair<Figure, std::int16_t> inFile[] = {
-            {Figure::Power, read.figures.FilePower},
-            {Figure::Experience, read.figures.FileExperience},
-            {Figure::Growth, read.figures.FileGrowth},
-            {Figure::Cost, read.figures.FileGold}};
+        const std::pair<Figure, double> inFile[] = {
+            {Figure::Power, InFile(read, u"Power", read.figures.FilePower)},
+            {Figure::Experience, InFile(read, u"Exp", read.figures.FileExperience)},
+            {Figure::Growth, InFile(read, u"WeeklyGrowth", read.figures.FileGrowth)},
+            {Figure::Cost, InFile(read, u"Gold", read.figures.FileGold)}};
         for (const auto& [figure, value] : inFile)
             scale.Add(tier, figure,
                       ResultOf(evaluation.powers, *evaluation.figures, Method::Average, figure),

@@ -8,9 +8,11 @@ namespace Hesperin {
 
 namespace {
 
-constexpr qsizetype MostDigits = 12;
+constexpr qsizetype MostDigits = 18; // they fit into 64 bits
+constexpr qsizetype MostDigitsOfWhole = 12;
+constexpr std::int64_t LargestWhole = 999'999'999'999;
 
-__extension__ using Wide = __int128; // two numbers of 12 digits, multiplied
+__extension__ using Wide = __int128; // a number of 12 digits and one of 18, multiplied
 
 Wide TenTo(int places) {
     Wide power = 1;
@@ -20,10 +22,13 @@ Wide TenTo(int places) {
 }
 
 /// `number` of 10^-`places`, to the nearest whole one.
-std::int64_t Rounded(Wide number, int places) {
+std::optional<std::int64_t> Rounded(Wide number, int places) {
     const Wide one = TenTo(places);
     const Wide half = number < 0 ? -one / 2 : one / 2;
-    return static_cast<std::int64_t>((number + half) / one);
+    const Wide whole = (number + half) / one;
+    if (whole > LargestWhole || whole < -LargestWhole)
+        return std::nullopt;
+    return static_cast<std::int64_t>(whole);
 }
 
 } // namespace
@@ -44,16 +49,17 @@ std::optional<Decimal> ReadDecimal(QStringView text) {
 
 std::optional<std::int64_t> ReadWhole(QStringView text) {
     const auto number = ReadDecimal(text);
-    if (!number || text.contains(u'.'))
+    const qsizetype sign = text.startsWith(u'-') || text.startsWith(u'+') ? 1 : 0;
+    if (!number || text.contains(u'.') || text.size() - sign > MostDigitsOfWhole)
         return std::nullopt;
     return number->units;
 }
 
-std::int64_t Sum(std::int64_t whole, const Decimal& number, int sign) {
+std::optional<std::int64_t> Sum(std::int64_t whole, const Decimal& number, int sign) {
     return Rounded(Wide{whole} * TenTo(number.places) + sign * Wide{number.units}, number.places);
 }
 
-std::int64_t Product(std::int64_t whole, const Decimal& factor) {
+std::optional<std::int64_t> Product(std::int64_t whole, const Decimal& factor) {
     return Rounded(Wide{whole} * factor.units, factor.places);
 }
 

@@ -13,15 +13,16 @@ struct Decimal {
     int places = 0;
 };
 
-/// An optional sign and digits with an optional full stop and fraction, at most 12 digits in all;
+/// An optional sign and digits with an optional full stop and fraction, at most 18 digits in all;
 /// none for anything else.
 std::optional<Decimal> ReadDecimal(QStringView text);
 
 /// The whole number that `text` is, an optional sign and at most 12 digits; none for anything else.
 std::optional<std::int64_t> ReadWhole(QStringView text);
 
-/// The nearest whole number, halves away from zero. `whole` has at most 12 digits.
-std::int64_t Sum(std::int64_t whole, const Decimal& number, int sign);
-std::int64_t Product(std::int64_t whole, const Decimal& factor);
+/// The nearest whole number, halves away from zero; none when it has more than 12 digits. `whole`
+/// has at most 12.
+std::optional<std::int64_t> Sum(std::int64_t whole, const Decimal& number, int sign);
+std::optional<std::int64_t> Product(std::int64_t whole, const Decimal& factor);
 
 } // namespace Hesperin

@@ -82,7 +82,11 @@ Result<DocumentText> DocumentText::Decode(const QByteArray& bytes) {
         document.text = DecodeCodePage(content, CodePage::Windows1252);
         break;
     }
-    if (document.encoding != Encoding::Utf8 || document.text.size() == content.size())
+    if (document.text.contains(QChar(0))) // characters of four bytes
+        return Error{Error::What::EncodingUnknown, QStringLiteral("UTF-32")};
+    const bool oneByteAUnit = document.text.size() == content.size() &&
+                              !document.text.contains(QChar::ReplacementCharacter);
+    if (document.encoding != Encoding::Utf8 || oneByteAUnit)
         return document;
     document.offsets.reserve(static_cast<std::size_t>(document.text.size()) + 1);
     quint32 offset = 0;
@@ -96,6 +100,8 @@ Result<DocumentText> DocumentText::Decode(const QByteArray& bytes) {
                                            : 3U;
     }
     document.offsets.push_back(offset);
+    if (offset != content.size()) // some bytes are no UTF-8
+        return Error{Error::What::EncodingUnknown, QStringLiteral("UTF-8")};
     return document;
 }
 

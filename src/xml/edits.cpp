@@ -5,8 +5,9 @@
 namespace Hesperin {
 
 Result<QByteArray> ApplyEdits(const QByteArray& file, std::vector<Edit> edits) {
-    std::stable_sort(edits.begin(), edits.end(),
-                     [](const Edit& a, const Edit& b) { return a.offset < b.offset; });
+    std::stable_sort(edits.begin(), edits.end(), [](const Edit& a, const Edit& b) {
+        return std::pair(a.offset, a.length > 0) < std::pair(b.offset, b.length > 0);
+    });
     QByteArray edited;
     edited.reserve(file.size() + file.size() / 8);
     qsizetype done = 0;

@@ -18,8 +18,8 @@ struct Edit {
     bool operator==(const Edit&) const = default;
 };
 
-/// The file with all edits applied; those of one offset in the order given. Edits that overlap or
-/// reach past the end are refused (Error::What::UnsafeEdit).
+/// The file with all edits applied; those of one offset in the order given, insertions first. Edits
+/// that overlap or reach past the end are refused (Error::What::UnsafeEdit).
 Result<QByteArray> ApplyEdits(const QByteArray& file, std::vector<Edit> edits);
 
 } // namespace Hesperin

@@ -89,7 +89,7 @@ Replacing AskBeforeReplacing(Program& program, const QString& path, const QByteA
     const Messages& messages = program.state.messages;
     const bool isOpened = IsOpenedFile(program, path);
     QStringList lines{Fill(messages.MsgReplace, {path})};
-    if (old) {
+    if (old) { // else it is larger than any creature file, or may not be read
         if (isOpened && program.state.baseline->bytes != *old)
             lines.append(messages.MsgReplaceChanged);
         if (const QStringList lost = LostBySave(*old, composed); !lost.isEmpty())
@@ -212,7 +212,10 @@ Failure mnuUpdate_Click(Program& program) {
     if (!plan->conflicts.empty())
         return program.Refuse(Saving(path, ConflictError(messages, plan->conflicts)));
     if (plan->file.Changes().empty()) {
-        program.Warn(BoxIcon::Information, messages.MsgUpdateNothing);
+        program.Warn(BoxIcon::Information,
+                     messages.MsgUpdateNothing +
+                         (plan->nameChanged ? QLatin1String("\n\n") + messages.MsgUpdateName
+                                            : QString()));
         return {};
     }
     const auto edited = plan->file.Write();
