@@ -20,7 +20,7 @@ const QList<std::pair<QString, QString>> Escapes{
     {"\\n", "\n"}, {"\\r", "\r"}, {"\\t", "\t"}, {"\\b", "\b"}, {"\\s", " "}};
 
 /// What comes of the changes in front of " :: " in the elements behind it.
-QString Outcome(const QString& act) {
+QString EditOutcome(const QString& act) {
     QString source = act.section(" :: ", 1);
     const bool isWhole = source.contains(QRegularExpression("<Creature[ />]"));
     for (const auto& [spelled, character] : Escapes)
@@ -49,7 +49,7 @@ QString Outcome(const QString& act) {
     return result;
 }
 
-TEST(EditedFile, ChangesOnlyWhatIsAskedFor) { ExpectCases("edits/edits.txt", Outcome); }
+TEST(EditedFile, ChangesOnlyWhatIsAskedFor) { ExpectCases("edits/edits.txt", EditOutcome); }
 
 TEST(EditedFile, KeepsTheLimits) {
     const QByteArray end = "<Health>4</Health></Creature>";
