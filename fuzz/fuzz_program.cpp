@@ -1,8 +1,9 @@
 #include "fuzz_program.h"
 
-#include "cli/state_json.h"
-#include "support/invariants.h"
 #include "app/handlers/form_load.h"
+#include "cli/state_json.h"
+#include "reports/json.h"
+#include "support/invariants.h"
 
 #include <QJsonArray>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cli/cli_platform.h"
 #include "app/program.h"
+#include "cli/cli_platform.h"
 
 #include <QCoreApplication>
 
