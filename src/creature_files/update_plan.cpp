@@ -5,6 +5,8 @@
 #include "creature_files/writer.h"
 #include "text/decimal.h"
 
+#include <QSet>
+
 #include <algorithm>
 
 namespace Hesperin {
@@ -214,16 +216,19 @@ Result<UpdatePlan> PlanUpdate(const QByteArray& opened, const Creature& baseline
 }
 
 QStringList LostBySave(const QByteArray& old, const QByteArray& composed) {
+    if (old == composed)
+        return {};
     const auto oldContents = EditedFile::ContentsOf(old);
     const auto newContents = EditedFile::ContentsOf(composed);
     if (!oldContents || !newContents)
         return {};
+    const QSet<QString> kept(newContents->begin(), newContents->end());
     QStringList names;
     QList<int> counts;
     for (const QString& content : *oldContents) {
         const QString name = content.section(u'=', 0, 0);
         const QString value = content.section(u'=', 1);
-        if (value.isEmpty() || newContents->contains(content) || IsInWindow(name, value))
+        if (value.isEmpty() || kept.contains(content) || IsInWindow(name, value))
             continue;
         const QString top = name.startsWith(QLatin1String("Creature@"))
                                 ? name
