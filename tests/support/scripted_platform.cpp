@@ -16,8 +16,8 @@ int ScriptedPlatform::Ask(const Question& question) {
     if (question.ofDialog && !answer)
         return pressed;
     const QString& button = question.buttons[pressed];
-    boxes.push_back({BoxIcon::Question, question.title,
-                     question.text + " [" + question.buttons.join(", ") + "] " + button});
+    boxes.push_back(
+        {BoxIcon::Question, question.title, question.text + " [" + question.buttons.join(", ") + "] " + button});
     return pressed;
 }
 
