@@ -23,7 +23,7 @@ public:
     }
 
     bool yes = true;   ///< the answer to every question
-    QString ownButton; ///< the one pressed where the question has buttons of its own
+    QString ownButton; ///< the one pressed where a question has it
     QStringList paths; ///< what is typed into the file dialogs, in order; then they are cancelled
 
     QStringList told; ///< a line for each: "Critical|Warning!|...", the buttons after a question; "file?|" and a name
@@ -60,10 +60,15 @@ private:
         if (buttons.size() > 1)
             told.last() += '|' + buttons.join(' ');
         QAbstractButton* answer = box.button(yes ? QMessageBox::Yes : QMessageBox::No);
+        if (answer == nullptr)
+            answer = box.button(QMessageBox::Ok);
         for (QAbstractButton* own : box.buttons())
             if (own->text() == ownButton)
                 answer = own;
-        QTest::mouseClick(answer != nullptr ? answer : box.button(QMessageBox::Ok), Qt::LeftButton);
+        for (QAbstractButton* own : box.buttons())
+            if (answer == nullptr && (own == box.escapeButton()) != yes)
+                answer = own;
+        QTest::mouseClick(answer, Qt::LeftButton);
     }
 
     void AnswerDialog(QFileDialog& dialog) {
