@@ -1,6 +1,7 @@
 // Takes pictures of every page and window in both languages, to be looked at and for the guide:
 //   talmir-pictures FOLDER
 #include "app/handlers/file_menu.h"
+#include "app/handlers/save_and_update.h"
 #include "window/window_in_use.h"
 #include "window/windowed_program.h"
 
@@ -47,6 +48,20 @@ int main(int argc, char** argv) {
         take("about");
         use.platform.ShowStatus(use.state.messages.MsgNoCalculator);
         take("status");
+
+        QString question;
+        use.answers.yes = false;
+        use.answers.look = [&](QMessageBox& box) { box.grab().save(prefix + question + ".png"); };
+        const QString path = use.Path("frost_witch.xdb");
+        QFile::copy(TALMIR_SOURCE_DIR "/samples/frost_witch.xdb", path);
+        OpenCreatureFile(use.program, path);
+        use.form.txtHealth.SetText("450");
+        use.form.Abilities(1).SetTicked(true);
+        question = "update";
+        mnuUpdate_Click(use.program);
+        use.answers.paths = {path};
+        question = "replace";
+        mnuSave_Click(use.program);
     }
     return 0;
 }

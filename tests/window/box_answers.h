@@ -11,6 +11,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include <functional>
+
 namespace Hesperin {
 
 /// Answers the message boxes and file dialogs that come up, as a user would, and keeps what they
@@ -22,9 +24,10 @@ public:
         timer.start(1);
     }
 
-    bool yes = true;   ///< the answer to every question
-    QString ownButton; ///< the one pressed where a question has it
-    QStringList paths; ///< what is typed into the file dialogs, in order; then they are cancelled
+    bool yes = true;                        ///< the answer to every question
+    std::function<void(QMessageBox&)> look; ///< sees each box before it is answered
+    QString ownButton;                      ///< the one pressed where a question has it
+    QStringList paths;                      ///< what is typed into the file dialogs, in order; then they are cancelled
 
     QStringList told; ///< a line for each: "Critical|Warning!|...", the buttons after a question; "file?|" and a name
     int width = 0;    ///< of the last box
@@ -53,6 +56,8 @@ private:
         const QString icon = QVariant::fromValue(box.icon()).toString();
         told.append(icon + '|' + box.windowTitle() + '|' + box.text().section('\n', 0, 0));
         width = box.width();
+        if (look)
+            look(box);
         QStringList buttons;
         for (const QAbstractButton* button : box.buttons())
             buttons.append(button->text());
