@@ -13,6 +13,9 @@
 #include <QFileInfo>
 #include <QSet>
 
+#include <deque>
+#include <future>
+
 namespace Hesperin {
 
 namespace {
@@ -100,14 +103,23 @@ public:
           diff(parser.isSet(DiffOption)), json(parser.isSet(JsonOption)) {}
 
     int Over(const QStringList& files) {
+        // Some at once: while one waits for the disk, another is read.
+        constexpr std::size_t together = 4;
+        constexpr auto anyWay = std::launch::async | std::launch::deferred; // threads may lack
         Progress progress(files.size());
-        for (const QString& file : files) {
+        std::deque<std::future<Changed>> running;
+        for (qsizetype started = 0; started < files.size() || !running.empty();) {
+            if (started < files.size() && running.size() < together) {
+                const QString& file = files[started++];
+                running.push_back(std::async(anyWay, [this, file] { return ChangeOne(file); }));
+                continue;
+            }
             progress.Step();
-            ChangeReport report = changer.Try(file);
-            if (write && !report.error && !report.changes.empty())
-                Write(report);
+            const Changed changed = running.front().get();
+            running.pop_front();
             progress.Clear();
-            Tell(report);
+            Tell(changed.report);
+            TellSave(changed);
         }
         for (const QString& folder : folders)
             if (!SyncFolder(folder))
@@ -118,15 +130,29 @@ public:
     }
 
 private:
-    void Write(ChangeReport& report) {
-        const SaveOutcome outcome = SaveFileOfMany(report.file, report.after);
+    struct Changed {
+        ChangeReport report;
+        std::vector<SaveNote> notes;
+    };
+
+    Changed ChangeOne(const QString& file) const {
+        Changed changed{changer.Try(file), {}};
+        ChangeReport& report = changed.report;
+        if (!write || report.error || report.changes.empty())
+            return changed;
+        SaveOutcome outcome = SaveFileOfMany(file, report.after);
         report.error = outcome.failure;
         report.written = !outcome.failure;
-        if (!report.written)
-            return;
-        folders.insert(QFileInfo(QFileInfo(report.file).canonicalFilePath()).path());
-        if (!outcome.notes.empty())
-            Complain(QStringLiteral("%1: %2").arg(report.file, NotesText(messages, outcome.notes)));
+        changed.notes = std::move(outcome.notes);
+        return changed;
+    }
+
+    void TellSave(const Changed& changed) {
+        const QString& file = changed.report.file;
+        if (changed.report.written)
+            folders.insert(QFileInfo(QFileInfo(file).canonicalFilePath()).path());
+        if (!changed.notes.empty())
+            Complain(QStringLiteral("%1: %2").arg(file, NotesText(messages, changed.notes)));
     }
 
     void Tell(const ChangeReport& report) {

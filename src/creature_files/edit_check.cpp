@@ -87,9 +87,13 @@ QStringList EditedFile::ExpectedContents(bool& isSafe) const {
         const auto content = [&](const QString& value) {
             return change.element + u'=' + (isAttribute ? Normal(value) : value.trimmed());
         };
-        if (change.old)
-            goes(content(*change.old));
-        expected->append(content(change.now.value_or(QString())));
+        const QString now = content(change.now.value_or(QString()));
+        const qsizetype place = change.old ? expected->indexOf(content(*change.old)) : -1;
+        isSafe = isSafe && (place >= 0 || !change.old);
+        if (place >= 0) // in its place, so that nothing need be sorted
+            (*expected)[place] = now;
+        else
+            expected->append(now);
         const QString around = change.element.section(u'/', 0, -2);
         if (!change.old && !around.isEmpty()) // the first child of what was empty
             expected->removeOne(around + u'=');
@@ -121,8 +125,10 @@ Failure EditedFile::Check(const QByteArray& edited) const {
         return after.Why();
     bool isSafe = true;
     QStringList expected = ExpectedContents(isSafe);
-    expected.sort();
-    after->sort();
+    if (expected != *after) { // lists and what is added have other places
+        expected.sort();
+        after->sort();
+    }
     return isSafe && expected == *after ? Failure() : Error{Error::What::UnsafeEdit};
 }
 

@@ -9,15 +9,21 @@ namespace Hesperin {
 
 namespace {
 
+/// On one line.
+QString Shown(const std::optional<QString>& value) {
+    return QString(value.value_or(QString())).replace(u'\n', QLatin1String("\\n"));
+}
+
 QString ChangeLine(const FileChange& change) {
+    const QString start = QLatin1String("  ") + change.element + QLatin1String(": ");
     if (change.old && change.now)
-        return QStringLiteral("  %1: %2 -> %3\n").arg(change.element, *change.old, *change.now);
+        return start + Shown(change.old) + QLatin1String(" -> ") + Shown(change.now) + u'\n';
     if (!EditedFile::IsList(change.element))
-        return QStringLiteral("  %1: (lacking) -> %2\n")
-            .arg(change.element, change.now.value_or(QString()));
-    return change.now
-               ? QStringLiteral("  %1: + %2\n").arg(change.element, *change.now)
-               : QStringLiteral("  %1: - %2\n").arg(change.element, change.old.value_or(QString()));
+        return start + QLatin1String("(lacking) -> ") + Shown(change.now) + u'\n';
+    return start +
+           (change.now ? QLatin1String("+ ") + Shown(change.now)
+                       : QLatin1String("- ") + Shown(change.old)) +
+           u'\n';
 }
 
 } // namespace

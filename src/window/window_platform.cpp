@@ -5,6 +5,7 @@
 #include "text/fill.h"
 #include "window/ability_window.h"
 #include "window/about_window.h"
+#include "window/long_text.h"
 #include "window/main_window.h"
 #include "window/status_window.h"
 
@@ -86,6 +87,7 @@ int WindowPlatform::Ask(const Question& question) {
         buttons.append(box.addButton(caption, QMessageBox::ActionRole));
     box.setDefaultButton(qobject_cast<QPushButton*>(buttons[question.standard]));
     box.setEscapeButton(buttons[question.cancel]);
+    LetLongTextScroll(box);
     box.exec();
     const qsizetype pressed = buttons.indexOf(box.clickedButton());
     return pressed < 0 ? question.cancel : static_cast<int>(pressed);

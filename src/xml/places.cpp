@@ -94,10 +94,10 @@ std::optional<QString> CharacterOf(QStringView reference) {
     bool isNumber = false;
     const bool hex = reference.startsWith(u"#x");
     const uint code = reference.sliced(hex ? 2 : 1).toUInt(&isNumber, hex ? 16 : 10);
-    if (!isNumber)
+    if (!isNumber || code > QChar::LastValidCodePoint)
         return std::nullopt;
-    const char32_t character = code;
-    return QString::fromUcs4(&character, 1);
+    return QStringView(QChar::fromUcs4(code))
+        .toString(); // U+FEFF too, which fromUcs4 of QString drops
 }
 
 } // namespace
