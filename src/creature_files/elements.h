@@ -35,7 +35,7 @@ struct Element {
     QStringView name;
     QStringView parent; ///< the element around it; empty for Creature itself
     Says says;
-    int readAs = 0; ///< place in the order of reading, from 1; 0: not read
+    std::int8_t readAs = 0; ///< place in the order of reading, from 1; 0: not read
     NumberField field = NumberField::Count;
     ListField list = ListField::Count;
     QStringView text{};

@@ -87,7 +87,7 @@ QString ErrorReason(const Messages& messages, const Error& error) {
 }
 
 QString ErrorText(const Messages& messages, const Error& error) {
-    const QString reason = ErrorReason(messages, error);
+    QString reason = ErrorReason(messages, error);
     switch (error.doing) {
     case Error::Doing::Opening:
         return Fill(messages.MsgFileRefused, {error.file, reason});

@@ -13,23 +13,23 @@ using Corrected = Correction::What;
 
 /// A number and the field that it comes from, in the order in which they are read.
 struct Row {
-    Corrected what;
     QStringView EnteredParameters::*entered;
+    Corrected what;
     Parameter parameter;
 };
 
 constexpr Row Fields[] = {
-    {Corrected::Attack, &EnteredParameters::Attack, Parameter::Attack},
-    {Corrected::Defence, &EnteredParameters::Defence, Parameter::Defence},
-    {Corrected::Health, &EnteredParameters::Health, Parameter::Health},
-    {Corrected::MinDam, &EnteredParameters::MinDam, Parameter::MinDam},
-    {Corrected::MaxDam, &EnteredParameters::MaxDam, Parameter::MaxDam},
+    {&EnteredParameters::Attack, Corrected::Attack, Parameter::Attack},
+    {&EnteredParameters::Defence, Corrected::Defence, Parameter::Defence},
+    {&EnteredParameters::Health, Corrected::Health, Parameter::Health},
+    {&EnteredParameters::MinDam, Corrected::MinDam, Parameter::MinDam},
+    {&EnteredParameters::MaxDam, Corrected::MaxDam, Parameter::MaxDam},
 };
 
 constexpr Row Lists[] = {
-    {Corrected::Speed, &EnteredParameters::Speed, Parameter::Speed},
-    {Corrected::Initiative, &EnteredParameters::Initiative, Parameter::Initiative},
-    {Corrected::Tier, &EnteredParameters::Tier, Parameter::Tier},
+    {&EnteredParameters::Speed, Corrected::Speed, Parameter::Speed},
+    {&EnteredParameters::Initiative, Corrected::Initiative, Parameter::Initiative},
+    {&EnteredParameters::Tier, Corrected::Tier, Parameter::Tier},
 };
 
 /// The value that takes the place of `value`, if it needs one.
