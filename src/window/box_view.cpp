@@ -12,10 +12,7 @@ BoxView::BoxView(CheckBox& box, QWidget* parent, const QRect& place) : View(box,
     setText(control.Caption());
     setAccessibleName(control.Caption());
     setFont(FittingFont(BoxFont(), control.Caption(), place.width() - indicator));
-    connect(this, &QCheckBox::clicked, this, [this](bool checked) {
-        control.SetTicked(checked);
-        Sync(); // a rule may have taken the tick back
-    });
+    connect(this, &QCheckBox::clicked, this, [this](bool checked) { control.SetTicked(checked); });
     SyncAll();
 }
 

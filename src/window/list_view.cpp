@@ -12,10 +12,8 @@ ListView::ListView(ComboBox& list, QWidget* parent, const QRect& place, const QF
     setGeometry(place);
     setFont(wantedFont);
     setMaxVisibleItems(20);
-    connect(this, &QComboBox::activated, this, [this](int index) {
-        control.Select(static_cast<std::int16_t>(index));
-        Sync(); // a rule may have fallen back to another entry, or to the same text
-    });
+    connect(this, &QComboBox::activated, this,
+            [this](int index) { control.Select(static_cast<std::int16_t>(index)); });
     SyncAll();
 }
 

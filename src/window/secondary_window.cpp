@@ -2,7 +2,6 @@
 
 #include "window/fonts.h"
 
-#include <QCloseEvent>
 #include <QLabel>
 #include <QScreen>
 
@@ -37,11 +36,6 @@ void SecondaryWindowView::ShowCentred(QSize size) {
 void SecondaryWindowView::Close() {
     program.form.frmMain.SetEnabled(true);
     done(Accepted);
-}
-
-void SecondaryWindowView::closeEvent(QCloseEvent* event) {
-    program.form.frmMain.SetEnabled(true);
-    QDialog::closeEvent(event);
 }
 
 QLabel* AddText(QWidget& window, const char* name, const QString& text, const QRect& place,

@@ -24,8 +24,6 @@ protected:
     /// Fixes the size and shows the window in the middle of the screen, the button in focus.
     void ShowCentred(QSize size);
 
-    void closeEvent(QCloseEvent* event) override;
-
     Program& program;
 
 private:
