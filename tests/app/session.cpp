@@ -145,9 +145,9 @@ bool Session::Answer(const char* dialog, FileDialog& settings) {
     return dialogPath.has_value();
 }
 
-void Session::Tell(const QString& what) {
+void Session::Tell(QString what) { // a copy, since it may be a word that changes
     TellChanges();
-    told.append(QString(what).replace('\n', "\\n").replace('\r', "\\r"));
+    told.append(what.replace('\n', "\\n").replace('\r', "\\r"));
 }
 
 void Session::TellChanges() {

@@ -35,7 +35,7 @@ private:
     void Do(const QString& verb, const QString& all);
     void Prepare(const QString& verb, const QString& all, const QString& name, const QString& rest);
     void Start(const QString& language);
-    void Tell(const QString& what);
+    void Tell(QString what);
     void TellChanges();
     bool Answer(const char* dialog, FileDialog& settings);
 
