@@ -2,8 +2,9 @@
 #include "support/error_in_words.h"
 #include "xml/xml_document.h"
 
-#include <QElapsedTimer>
 #include <QStringEncoder>
+
+#include <ctime>
 
 namespace Hesperin {
 
@@ -139,10 +140,9 @@ TEST(NormaliseXml, StopsSoonInADocumentMadeToKeepTheParserBusy) {
     };
     for (const auto& test : cases) {
         SCOPED_TRACE(test.what);
-        QElapsedTimer clock;
-        clock.start();
+        const std::clock_t start = std::clock(); // of the processor, whatever else it does
         EXPECT_EQ(Normalised(test.document), test.wrong);
-        EXPECT_LT(clock.elapsed(), 3000) << "unguarded, the parser takes minutes for some of these";
+        EXPECT_LT(std::clock() - start, 6 * CLOCKS_PER_SEC) << "unguarded, the parser takes minutes";
     }
 }
 
