@@ -76,6 +76,14 @@ TEST(EditedFile, KeepsTheLimits) {
     EXPECT_EQ(setting(padded(longest, 'x')).value_or(Error{}).what, Error::What::TextTooLong);
 }
 
+TEST(EditedFile, RefusesWhatWouldBeReadOtherwise) {
+    auto file =
+        EditedFile::Open("<?xml version='1.0' encoding='ISO-8859-1'?><Creature><X><![CDATA[a]]></X></Creature>");
+    ASSERT_TRUE(file);
+    ASSERT_EQ(file->Set("X", QString::fromUtf8("Ж")), Failure()); // which CDATA can't hold here
+    EXPECT_EQ(file->Write().Why().what, Error::What::UnsafeEdit);
+}
+
 class EditPlay {
 public:
     explicit EditPlay(unsigned seed) : random(seed) {}
