@@ -13,7 +13,7 @@ namespace Hesperin {
 namespace {
 
 /// Does what a line says and tells the boxes and what has changed in the file a.xdb.
-class Session {
+class UpdateSession {
 public:
     QString Outcome(const QString& line) {
         program->platform.boxes.clear();
@@ -90,7 +90,7 @@ private:
 };
 
 TEST(Update, GoesAsTold) {
-    Session session;
+    UpdateSession session;
     ExpectCases("updates/sessions.txt", [&](const QString& line) { return session.Outcome(line); });
 }
 

@@ -13,7 +13,7 @@ namespace Hesperin {
 namespace {
 
 /// Runs commands of the shell in the folder, in which `set` is the program's, and `file NAME ELEMENTS` makes a file.
-QString Outcome(const QTemporaryDir& folder, QString commands) {
+QString SetOutcome(const QTemporaryDir& folder, QString commands) {
     commands.replace(QRegularExpression("(^|; )set\\b"), "\\1\"$0\" set");
     const QString words = "file() { printf \"<Creature>\\n\\t$2\\n</Creature>\\n\" >\"$1\"; }\n";
     const CliOutcome outcome = RunShell(words + commands, folder.path());
@@ -27,7 +27,7 @@ TEST(Set, GoesAsTold) {
     const QTemporaryDir folder;
     for (const char* name : {"swamp_archer.xdb", "hill_peasant.xdb"})
         WriteFile(folder.filePath(name), ReadAll(QString(TALMIR_SOURCE_DIR "/samples/") + name).replace("\r\n", "\n"));
-    ExpectCases("set/sessions.txt", [&](const QString& line) { return Outcome(folder, line); });
+    ExpectCases("set/sessions.txt", [&](const QString& line) { return SetOutcome(folder, line); });
 }
 
 TEST(Set, TheExamplesOfItsHelpWorkFromTheTop) {

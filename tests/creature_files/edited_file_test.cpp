@@ -16,14 +16,14 @@ namespace Hesperin {
 
 namespace {
 
-const QList<std::pair<QString, QString>> Escapes{
+const QList<std::pair<QString, QString>> EscapesOfCases{
     {"\\n", "\n"}, {"\\r", "\r"}, {"\\t", "\t"}, {"\\b", "\b"}, {"\\s", " "}};
 
 /// What comes of the changes in front of " :: " in the elements behind it.
 QString EditOutcome(const QString& act) {
     QString source = act.section(" :: ", 1);
     const bool isWhole = source.contains(QRegularExpression("<Creature[ />]"));
-    for (const auto& [spelled, character] : Escapes)
+    for (const auto& [spelled, character] : EscapesOfCases)
         source.replace(spelled, character);
     const QString start = isWhole ? "" : "<Creature>\n\t";
     const QString end = isWhole ? "" : "\n</Creature>";
@@ -31,7 +31,7 @@ QString EditOutcome(const QString& act) {
     Failure failure = file ? Failure() : file.Why();
     std::vector<Error> notes;
     for (QString text : act.section(" :: ", 0, 0).split(' ')) {
-        for (const auto& [spelled, character] : Escapes)
+        for (const auto& [spelled, character] : EscapesOfCases)
             text.replace(spelled, character);
         const auto change = ReadChange(text);
         if (!change)
@@ -43,7 +43,7 @@ QString EditOutcome(const QString& act) {
     if (!edited)
         return "refused: " + ErrorReason(MessagesIn(English), edited.Why());
     QString result = QString::fromUtf8(*edited).sliced(start.size()).chopped(end.size());
-    for (const auto& [spelled, character] : Escapes)
+    for (const auto& [spelled, character] : EscapesOfCases)
         if (character != " ")
             result.replace(character, spelled);
     return result;
@@ -76,9 +76,17 @@ TEST(EditedFile, KeepsTheLimits) {
     EXPECT_EQ(setting(padded(longest, 'x')).value_or(Error{}).what, Error::What::TextTooLong);
 }
 
-class Play {
+TEST(EditedFile, RefusesWhatWouldBeReadOtherwise) {
+    auto file =
+        EditedFile::Open("<?xml version='1.0' encoding='ISO-8859-1'?><Creature><X><![CDATA[a]]></X></Creature>");
+    ASSERT_TRUE(file);
+    ASSERT_EQ(file->Set("X", QString::fromUtf8("Ж")), Failure()); // which CDATA can't hold here
+    EXPECT_EQ(file->Write().Why().what, Error::What::UnsafeEdit);
+}
+
+class EditPlay {
 public:
-    explicit Play(unsigned seed) : random(seed) {}
+    explicit EditPlay(unsigned seed) : random(seed) {}
 
     /// A creature as a file says it, with some of what `creature` has drawn anew.
     Creature Drawn(Creature creature, int changes) {
@@ -149,7 +157,7 @@ QStringList Rest(const QByteArray& file, const std::vector<FileChange>& changes)
 TEST(EditedFile, RandomEditsReadBackAsTheCreatureAndTouchNothingElse) {
     for (unsigned seed = 0; seed < 300; ++seed) {
         SCOPED_TRACE(seed);
-        Play play(seed);
+        EditPlay play(seed);
         const Creature before = play.Drawn(EmptyCreature(), 40);
         const QByteArray file = play.Laid(before);
         const Creature after = play.Drawn(before, 1 + play.Below(20));

@@ -44,7 +44,7 @@ QByteArray WithContent(const QByteArray& file, const QString& content) {
     return "no X";
 }
 
-QByteArray Utf16(const QString& text, bool bigEndian) {
+QByteArray InUtf16(const QString& text, bool bigEndian) {
     QByteArray bytes;
     for (const QChar unit : text)
         (bytes += static_cast<char>(bigEndian ? unit.row() : unit.cell())) +=
@@ -79,8 +79,8 @@ TEST(Edits, AreSpelledInTheFilesOwnEncoding) {
     for (const bool bigEndian : {false, true})
         for (const QString& mark : {QString(QChar(0xFEFF)), QString()}) {
             const QString start = mark + QString::fromUtf8("<C><!--Ж\U0001F409--><X>");
-            EXPECT_EQ(WithContent(Utf16(start + "old</X></C>", bigEndian), content),
-                      Utf16(start + content + "</X></C>", bigEndian));
+            EXPECT_EQ(WithContent(InUtf16(start + "old</X></C>", bigEndian), content),
+                      InUtf16(start + content + "</X></C>", bigEndian));
         }
     EXPECT_EQ(WithContent(QByteArray("\xFF\xFE\0\0<\0\0\0", 8), content), "refused: UTF-32");
 }
