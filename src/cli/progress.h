@@ -10,7 +10,7 @@ class Progress {
 public:
     explicit Progress(qsizetype count);
     ~Progress() { Clear(); }
-    Q_DISABLE_COPY_MOVE(Progress)
+    Q_DISABLE_COPY(Progress)
 
     void Step();
 

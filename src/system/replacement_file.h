@@ -15,7 +15,7 @@ class ReplacementFile {
 public:
     explicit ReplacementFile(const QString& target);
     ~ReplacementFile();
-    Q_DISABLE_COPY_MOVE(ReplacementFile)
+    Q_DISABLE_COPY(ReplacementFile)
 
     /// Why an old file may not be replaced by this user; 0 also where there is none.
     int Refusal() const;

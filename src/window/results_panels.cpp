@@ -65,6 +65,7 @@ private:
 /// One panel, into which results are put in groups of four: a heading, and Power, Experience,
 /// Growth and Cost in a square below it.
 class Panel {
+    Q_DISABLE_COPY(Panel) // the page keeps its view
 public:
     Panel(Program& owner, Frame& frame, QWidget& page, const QRect& place)
         : program(owner), view(new FrameView(frame, &page, HeadingFont(), place)) {}
