@@ -75,7 +75,8 @@ private:
 
     /// How far one change less leads on diagonal k.
     int Furthest(int k, int changes) const {
-        return rounds[static_cast<std::size_t>(changes)][static_cast<std::size_t>(k + changes + 1)];
+        const int place = k + changes + 1;
+        return rounds[static_cast<std::size_t>(changes)][static_cast<std::size_t>(place)];
     }
 
     /// Whether the last change on diagonal k is a line that comes.
