@@ -80,13 +80,13 @@ void OverAMod(benchmark::State& state, const QString& program, QStringList argum
 void SaveAllAlone(benchmark::State& state) {
     OverAMod(state, QStringLiteral("start/save_all"), {});
 }
-BENCHMARK(SaveAllAlone)->UseRealTime()->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(SaveAllAlone)->UseRealTime()->Iterations(1);
 
 void SetOverAMod(benchmark::State& state) {
     OverAMod(state, QStringLiteral("talmir-cli"),
              {QStringLiteral("set"), QStringLiteral("--write"), QStringLiteral("Health=1")});
 }
-BENCHMARK(SetOverAMod)->UseRealTime()->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(SetOverAMod)->UseRealTime()->Iterations(1);
 
 } // namespace
 

@@ -103,8 +103,8 @@ public:
           diff(parser.isSet(DiffOption)), json(parser.isSet(JsonOption)) {}
 
     int Over(const QStringList& files) {
-        // Some at once: while one waits for the disk, another is read.
-        constexpr std::size_t together = 4;
+        // Some at once: the disk takes many that wait for it in one go.
+        constexpr std::size_t together = 16;
         constexpr auto anyWay = std::launch::async | std::launch::deferred; // threads may lack
         Progress progress(files.size());
         std::deque<std::future<Changed>> running;
