@@ -1,7 +1,7 @@
 #include "support/test_program.h"
 
-#include "form/form_lists.h"
 #include "app/handlers/form_load.h"
+#include "form/form_lists.h"
 
 #include <QDir>
 

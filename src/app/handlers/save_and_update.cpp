@@ -212,10 +212,10 @@ Failure mnuUpdate_Click(Program& program) {
     if (!plan->conflicts.empty())
         return program.Refuse(Saving(path, ConflictError(messages, plan->conflicts)));
     if (plan->file.Changes().empty()) {
-        program.Warn(BoxIcon::Information,
-                     messages.MsgUpdateNothing +
-                         (plan->nameChanged ? QLatin1String("\n\n") + messages.MsgUpdateName
-                                            : QString()));
+        program.Warn(
+            BoxIcon::Information,
+            messages.MsgUpdateNothing +
+                (plan->nameChanged ? QLatin1String("\n\n") + messages.MsgUpdateName : QString()));
         return {};
     }
     const auto edited = plan->file.Write();
