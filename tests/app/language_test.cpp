@@ -1,5 +1,6 @@
 #include "app/apply_language.h"
 #include "app/handlers/options_menu.h"
+#include "app/resets.h"
 #include "localisation/captions.h"
 #include "support/test_program.h"
 
@@ -88,6 +89,15 @@ TEST(Language, EveryMessageIsInEnglishAndRussian) {
         EXPECT_FALSE(english[i].isEmpty() || HasCyrillic(english[i])) << i;
         EXPECT_TRUE(HasCyrillic(russian[i]) || russian[i] == "RU") << english[i].toStdString();
     }
+}
+
+TEST(Start, NamesEachBoxBySpellAndAResetLowersTheFlagWhateverIsTicked) {
+    TestProgram test(English);
+    for (std::size_t i = 1; i <= SpellCount; ++i)
+        EXPECT_EQ(test.form.Spells(static_cast<int>(i)).Caption(), SpellToken[i]);
+    test.state.SpecabilityFlag = FlagTrue;
+    Reset_Specabilities(test.program);
+    EXPECT_EQ(test.state.SpecabilityFlag, FlagFalse);
 }
 
 TEST(Language, AnyOtherNumberDoesNothing) {
