@@ -38,7 +38,7 @@ QStringList ListOf(const Tokens& tokens, std::size_t first) {
 
 /// The words that the catalogue has for the items of a list.
 QStringList KnownWords(const QString& list) {
-    if (list == QLatin1String("Abilities"))
+    if (list == AbilityList)
         return ListOf(AbilityTokens(), 1);
     return ListOf(SpellTokens(), 1) + ListOf(SpecabilityTokens(), 0);
 }
@@ -52,7 +52,7 @@ Failure CheckWord(const Change& change, const QString& word, const QStringList& 
 }
 
 Failure CheckItem(const Change& change, const ListItem& item) {
-    if (change.name == QLatin1String("Upgrades")) {
+    if (change.name == UpgradeList) {
         const QString beginning = QStringLiteral("CREATURE_");
         return item.word.startsWith(beginning)
                    ? Failure()
@@ -65,7 +65,7 @@ Failure CheckItem(const Change& change, const ListItem& item) {
 }
 
 Failure ApplyToList(const Change& change, bool anyWord, EditedFile& file) {
-    const bool isSpell = change.name == QLatin1String("KnownSpells");
+    const bool isSpell = change.name == SpellList;
     const ListItem item{isSpell ? change.operand.section(u':', 0, 0) : change.operand,
                         isSpell ? change.operand.section(u':', 1) : QString()};
     if (change.does == Change::Does::Subtract)

@@ -42,12 +42,8 @@ Failure EditedFile::AddContentEdits(int element, const QString& text,
                                     std::vector<Edit>& edits) const {
     const ElementPlace& place = elements[static_cast<std::size_t>(element)];
     const QStringView all = document.Text();
-    if (place.isEmptyTag) { // <X/> opens up
-        qsizetype slash = place.startTag.end - 2;
-        while (all[slash - 1].isSpace())
-            --slash;
-        Replace({slash, place.startTag.end},
-                u'>' + Spelled(text) + QLatin1String("</") + place.name.toString() + u'>', edits);
+    if (place.isEmptyTag) {
+        OpenUp(place, Spelled(text), edits);
         return {};
     }
     QString rest = text; // for the first piece; what the others held goes

@@ -1,7 +1,7 @@
 // How what an edit in place adds is laid out, and the elements of the format that a file lacks.
 #include "creature_files/edited_file.h"
 
-#include "creature_files/blanks.h"
+#include "text/blanks.h"
 
 #include <algorithm>
 
@@ -24,9 +24,7 @@ QString Tag(QStringView name, QStringView slash = {}) {
 /// The white space in front of a place, from its last line end on; all of it where it has none.
 QString EditedFile::IndentBefore(qsizetype place) const {
     const QStringView text = document.Text();
-    qsizetype start = place;
-    while (start > 0 && IsBlank(text[start - 1]))
-        --start;
+    const qsizetype start = BlanksBefore(text, place);
     const QStringView blanks = text.sliced(start, place - start);
     qsizetype lineEnd = std::max(blanks.lastIndexOf(u'\n'), blanks.lastIndexOf(u'\r'));
     if (lineEnd < 0)
@@ -97,19 +95,20 @@ QString EditedFile::ItemMarkup(const ListItem& item, const ListState& list,
            Tag(u"Mastery", u"/") + closing + Tag(u"Item", u"/");
 }
 
+/// <X/> becomes <X>, the markup and </X>.
+void EditedFile::OpenUp(const ElementPlace& element, const QString& markup,
+                        std::vector<Edit>& edits) const {
+    const Span end{BlanksBefore(document.Text(), element.startTag.end - 2), element.startTag.end};
+    Replace(end, u'>' + markup + Tag(element.name, u"/"), edits);
+}
+
 /// Gives an element without children its first ones.
 void EditedFile::FillIn(const ElementPlace& element, const QString& markup,
                         std::vector<Edit>& edits) const {
-    const QStringView text = document.Text();
     const QString own = IndentBefore(element.startTag.start);
     const QString closing = HasLineEnd(markup) && HasLineEnd(own) ? own : QString();
-    if (element.isEmptyTag) { // it opens up
-        qsizetype slash = element.startTag.end - 2;
-        while (IsBlank(text[slash - 1]))
-            --slash;
-        return Replace({slash, element.startTag.end},
-                       u'>' + markup + closing + Tag(element.name, u"/"), edits);
-    }
+    if (element.isEmptyTag)
+        return OpenUp(element, markup + closing, edits);
     const QString indent = IndentBefore(element.content.end);
     const qsizetype at = element.content.end - indent.size();
     if (HasLineEnd(indent)) // the closing tag has a line of its own

@@ -9,25 +9,20 @@ namespace Hesperin {
 
 namespace {
 
-QString PathIn(const Element& element) {
-    return element.parent.isEmpty() ? element.name.toString()
-                                    : element.parent.toString() + u'/' + element.name.toString();
-}
-
-bool IsAt(const Element& element, QStringView path) {
-    if (element.parent.isEmpty())
-        return path == element.name;
-    return path.size() == element.parent.size() + 1 + element.name.size() &&
-           path.startsWith(element.parent) && path[element.parent.size()] == u'/' &&
-           path.endsWith(element.name);
-}
-
 /// Line ends as a parser gives them.
 QString WithLineFeeds(QStringView text) {
     QString plain = text.toString();
     if (plain.contains(u'\r'))
         plain.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
     return plain;
+}
+
+/// The format's element of that last name; null when it has none.
+const Element* ElementNamed(QStringView name) {
+    for (const Element& element : Elements)
+        if (element.name == name)
+            return &element;
+    return nullptr;
 }
 
 /// Whether a document can hold the text at all.
@@ -101,7 +96,7 @@ int EditedFile::ChildOf(int parent, QStringView name) const {
 Error EditedFile::Unknown(const QString& name) const {
     QStringList known;
     for (const Element& element : Elements)
-        known += {element.name.toString(), PathIn(element)};
+        known += {element.name.toString(), Hesperin::PathOf(element)};
     for (std::size_t i = 1; i < elements.size(); ++i) {
         known += {elements[i].name.toString(), PathOf(static_cast<int>(i))};
         for (const AttributePlace& attribute : AttributesOf(document.Text(), elements[i].startTag))
@@ -146,16 +141,13 @@ Result<EditedFile::Target> EditedFile::Find(const QString& name) const {
     }
     target.element = found.first;
     target.path = target.element == None ? own : PathOf(target.element);
-    for (const Element& element : Elements)
-        if (Hesperin::IsAt(element, target.path) ||
-            (target.element == None && element.name == own)) {
-            target.format = &element;
-            break;
-        }
+    target.format = ElementAt(target.path);
+    if (target.element == None && target.format == nullptr)
+        target.format = ElementNamed(own);
     if (target.element == None && (target.format == nullptr || !target.attribute.isEmpty()))
         return Unknown(name);
     if (target.element == None)
-        target.path = PathIn(*target.format);
+        target.path = Hesperin::PathOf(*target.format);
     if (!target.attribute.isEmpty()) {
         target.path += u'@' + target.attribute;
         const ElementPlace& place = elements[static_cast<std::size_t>(target.element)];

@@ -27,8 +27,16 @@ struct ListItem {
     QString word;
     QString mastery{};
 
+    /// Whether the item is of that word, letter case not counting.
+    bool Is(const QString& other) const { return word.compare(other, Qt::CaseInsensitive) == 0; }
+
     QString Text() const { return mastery.isEmpty() ? word : word + u':' + mastery; }
 };
+
+/// The three lists of items.
+extern const QString AbilityList;
+extern const QString SpellList;
+extern const QString UpgradeList;
 
 class EditedFile {
 public:
@@ -50,7 +58,7 @@ public:
     /// Sets the content. An element of the format that is lacking is added.
     Failure Set(const QString& name, const QString& text);
 
-    /// The items of the list Abilities, KnownSpells or Upgrades after the changes so far.
+    /// The items of one of the three lists after the changes so far.
     Result<std::vector<ListItem>> Items(const QString& list) const;
 
     /// Adds an item as the last one. One that is there, letter case not counting, stays, in
@@ -123,6 +131,7 @@ private:
     Failure AddListEdits(const ListState& list, std::vector<Edit>& edits) const;
     void AddMissingEdits(std::vector<Edit>& edits) const;
     void RemoveItems(Span items, const ElementPlace& list, std::vector<Edit>& edits) const;
+    void OpenUp(const ElementPlace& element, const QString& markup, std::vector<Edit>& edits) const;
     void FillIn(const ElementPlace& element, const QString& markup, std::vector<Edit>& edits) const;
     void Replace(Span span, const QString& text, std::vector<Edit>& edits) const;
 

@@ -61,6 +61,22 @@ constexpr Element Table[] = {
 
 const std::span<const Element> Elements(Table);
 
+QString PathOf(const Element& element) {
+    return element.parent.isEmpty() ? element.name.toString()
+                                    : element.parent.toString() + u'/' + element.name.toString();
+}
+
+const Element* ElementAt(QStringView path) {
+    const qsizetype slash = path.lastIndexOf(u'/');
+    const QStringView name = path.sliced(slash + 1);
+    const QStringView parent = path.first(std::max<qsizetype>(slash, 0));
+    const auto* found =
+        std::find_if(std::begin(Table), std::end(Table), [&](const Element& element) {
+            return element.name == name && element.parent == parent;
+        });
+    return found == std::end(Table) ? nullptr : found;
+}
+
 std::span<const Element* const> ElementsToRead() {
     static const std::vector<const Element*> order = [] {
         std::vector<const Element*> read;

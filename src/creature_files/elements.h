@@ -4,7 +4,7 @@
 
 #include "catalogue/parameters.h"
 
-#include <QStringView>
+#include <QString>
 
 #include <span>
 
@@ -42,6 +42,12 @@ struct Element {
 };
 
 extern const std::span<const Element> Elements;
+
+/// The element's path below Creature: "Cost/Gold".
+QString PathOf(const Element& element);
+
+/// The element of the format that has the path; null when none has.
+const Element* ElementAt(QStringView path);
 
 /// Every element that is read, in the order of reading.
 std::span<const Element* const> ElementsToRead();

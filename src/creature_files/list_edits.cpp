@@ -1,16 +1,13 @@
 // The lists of items of a file that is edited in place.
 #include "creature_files/edited_file.h"
 
-#include "creature_files/blanks.h"
+#include "text/blanks.h"
 
 #include <algorithm>
 
 namespace Hesperin {
 
 namespace {
-
-constexpr QStringView Lists[] = {u"Abilities", u"KnownSpells", u"Upgrades"};
-constexpr QStringView SpellList = u"KnownSpells";
 
 const QString NoMastery = QStringLiteral("MASTERY_NONE");
 
@@ -20,8 +17,12 @@ bool SameWord(const QString& one, const QString& other) {
 
 } // namespace
 
+const QString AbilityList = QStringLiteral("Abilities");
+const QString SpellList = QStringLiteral("KnownSpells");
+const QString UpgradeList = QStringLiteral("Upgrades");
+
 bool EditedFile::IsList(const QString& name) {
-    return std::find(std::begin(Lists), std::end(Lists), name) != std::end(Lists);
+    return name == AbilityList || name == SpellList || name == UpgradeList;
 }
 
 Result<EditedFile::ListState> EditedFile::ReadList(const QString& list) const {
@@ -89,7 +90,7 @@ Failure EditedFile::AddItem(const QString& list, const ListItem& item) {
     if (list == SpellList && wanted.mastery.isEmpty())
         wanted.mastery = NoMastery;
     for (ItemState& known : (*state)->items) {
-        if (!known.now || !SameWord(known.now->word, wanted.word))
+        if (!known.now || !known.now->Is(wanted.word))
             continue;
         const QString& level = known.now->mastery;
         if (list == SpellList && !SameWord(level.isEmpty() ? NoMastery : level, wanted.mastery)) {
@@ -108,7 +109,7 @@ Failure EditedFile::RemoveItem(const QString& list, const ListItem& item) {
     if (!state)
         return state.Why();
     for (ItemState& known : (*state)->items)
-        if (known.now && SameWord(known.now->word, item.word) &&
+        if (known.now && known.now->Is(item.word) &&
             (item.mastery.isEmpty() || SameWord(known.now->mastery, item.mastery)))
             known.now.reset();
     auto& items = (*state)->items;
@@ -165,9 +166,7 @@ Failure EditedFile::AddListEdits(const ListState& list, std::vector<Edit>& edits
         for (auto item = list.items.rbegin(); item != list.items.rend(); ++item)
             rest.remove(spanOf(*item).start - place.content.start, spanOf(*item).Length());
         if (rest.trimmed().isEmpty()) {
-            qsizetype bracket = place.startTag.end - 1;
-            while (IsBlank(text[bracket - 1]))
-                --bracket;
+            const qsizetype bracket = BlanksBefore(text, place.startTag.end - 1);
             Replace({bracket, place.end}, EmptyTagEnd(list.element), edits);
             return {};
         }

@@ -13,8 +13,6 @@ namespace Hesperin {
 
 namespace {
 
-const QString SpellItems = QStringLiteral("KnownSpells");
-const QString AbilityItems = QStringLiteral("Abilities");
 const QString Nothing = QStringLiteral("-"); // stands for what isn't there
 
 /// Whether an update may write the element's content: it says something that the user enters.
@@ -42,11 +40,6 @@ bool Agree(const QString& inFile, const QString& inWindow) {
     return one && other ? *one == *other : inFile == inWindow;
 }
 
-QString NameOf(const Element& element) {
-    return element.parent.isEmpty() ? element.name.toString()
-                                    : element.parent.toString() + u'/' + element.name.toString();
-}
-
 /// Whether the window shows what stands there, so that it isn't lost where it goes.
 bool IsInWindow(const QString& name, const QString& value) {
     const auto knows = [&value](const auto& tokens) {
@@ -54,15 +47,14 @@ bool IsInWindow(const QString& name, const QString& value) {
             return value.compare(token, Qt::CaseInsensitive) == 0;
         });
     };
-    if (name.startsWith(AbilityItems + u'/'))
+    if (name.startsWith(AbilityList + u'/'))
         return knows(AbilityTokens());
-    if (name == SpellItems + QLatin1String("/Item/Spell"))
+    if (name == SpellList + QLatin1String("/Item/Spell"))
         return knows(SpellTokens()) || knows(SpecabilityTokens());
-    if (name.startsWith(SpellItems + u'/'))
+    if (name.startsWith(SpellList + u'/'))
         return true;
-    return std::any_of(Elements.begin(), Elements.end(), [&name](const Element& element) {
-        return NameOf(element) == name && IsEntered(element.says);
-    });
+    const Element* element = ElementAt(name);
+    return element != nullptr && IsEntered(element->says);
 }
 
 class Planner {
@@ -94,16 +86,16 @@ private:
             return NoteIfOther(element, after);
         if (TakesNumber(element) && !ReadWhole(after)) {
             Error error{Error::What::NoWholeNumber, after};
-            error.element = NameOf(element);
+            error.element = PathOf(element);
             return error;
         }
-        return Set(NameOf(element), after);
+        return Set(PathOf(element), after);
     }
 
     Failure NoteIfOther(const Element& element, const QString& inWindow) {
-        const auto inFile = plan.file.Content(NameOf(element));
+        const auto inFile = plan.file.Content(PathOf(element));
         if (inFile && *inFile && !Agree(**inFile, inWindow))
-            plan.leftAlone.push_back({NameOf(element), **inFile, inWindow});
+            plan.leftAlone.push_back({PathOf(element), **inFile, inWindow});
         return {};
     }
 
@@ -128,10 +120,10 @@ private:
                 continue;
             const ListItem item{AbilityTokens()[static_cast<std::size_t>(i)]};
             if (!now.Has(i)) {
-                if (auto failure = plan.file.RemoveItem(AbilityItems, item))
+                if (auto failure = plan.file.RemoveItem(AbilityList, item))
                     return failure;
             } else if (IsWrittenAbility(i)) {
-                if (auto failure = plan.file.AddItem(AbilityItems, item))
+                if (auto failure = plan.file.AddItem(AbilityList, item))
                     return failure;
             }
         }
@@ -161,12 +153,12 @@ private:
         if (!inOpened || !onDisk)
             return inOpened ? onDisk.Why() : inOpened.Why();
         if (*onDisk != *inOpened && *onDisk != wanted) {
-            plan.conflicts.push_back({SpellItems, WithMastery(token, *inOpened),
+            plan.conflicts.push_back({SpellList, WithMastery(token, *inOpened),
                                       WithMastery(token, *onDisk), WithMastery(token, wanted)});
             return {};
         }
-        return wanted ? plan.file.AddItem(SpellItems, {token, *wanted})
-                      : plan.file.RemoveItem(SpellItems, {token});
+        return wanted ? plan.file.AddItem(SpellList, {token, *wanted})
+                      : plan.file.RemoveItem(SpellList, {token});
     }
 
     static QString WithMastery(const QString& token, const std::optional<QString>& mastery) {
@@ -175,11 +167,11 @@ private:
 
     /// The mastery that a file has for the item; none when it lacks the item.
     static Result<std::optional<QString>> MasteryIn(const EditedFile& file, const QString& token) {
-        const auto items = file.Items(SpellItems);
+        const auto items = file.Items(SpellList);
         if (!items)
             return items.Why();
         for (const ListItem& item : *items)
-            if (item.word.compare(token, Qt::CaseInsensitive) == 0)
+            if (item.Is(token))
                 return std::optional(item.mastery);
         return std::optional<QString>();
     }
@@ -190,10 +182,10 @@ private:
         const QString after = ContentFor(element, now);
         if (before == after)
             return {};
-        const auto inFile = opened.Content(NameOf(element));
+        const auto inFile = opened.Content(PathOf(element));
         if (!inFile)
             return inFile.Why();
-        return *inFile && Agree(**inFile, before) ? Set(NameOf(element), after) : Failure();
+        return *inFile && Agree(**inFile, before) ? Set(PathOf(element), after) : Failure();
     }
 
     const Creature& baseline;

@@ -12,8 +12,14 @@ namespace Hesperin {
 
 namespace {
 
-/// Sets the figure that the file's creature has as it stands now.
-Failure SetComputed(const ComputedChange& computed, const ModScale* scale, EditedFile& file) {
+/// What the creature in a file comes to.
+struct Computed {
+    Evaluation evaluation;
+    QString tier;
+};
+
+/// Of the file's creature with the changes so far.
+Result<Computed> Compute(const EditedFile& file) {
     const auto bytes = file.Write();
     if (!bytes)
         return bytes.Why();
@@ -21,33 +27,44 @@ Failure SetComputed(const ComputedChange& computed, const ModScale* scale, Edite
     if (!document)
         return document.Why();
     const Creature creature = ReadCreatureText(*document, EmptyCreature()).creature;
-    const Evaluation evaluation = Evaluate(EnteredOf(creature));
-    if (!evaluation.figures)
+    Computed computed{Evaluate(EnteredOf(creature)), creature.Choices[ListField::Tier].text};
+    if (!computed.evaluation.figures)
         return Error{Error::What::NoPower};
-    double figure =
-        ResultOf(evaluation.powers, *evaluation.figures, computed.method, computed.figure);
+    return computed;
+}
+
+Failure SetFigure(const ComputedChange& change, const Computed& computed, const ModScale* scale,
+                  EditedFile& file) {
+    double figure = ResultOf(computed.evaluation.powers, *computed.evaluation.figures,
+                             change.method, change.figure);
     if (scale != nullptr) {
-        const QString tier = creature.Choices[ListField::Tier].text;
-        const auto divisor = scale->Of(RoundTo16Bits(TextToNumber(tier)), computed.figure);
+        const auto divisor = scale->Of(RoundTo16Bits(TextToNumber(computed.tier)), change.figure);
         if (!divisor) {
-            Error error{Error::What::NoScale, tier};
-            error.element = computed.name;
+            Error error{Error::What::NoScale, computed.tier};
+            error.element = change.name;
             return error;
         }
         figure = std::round(figure / *divisor);
     }
-    return file.Set(computed.name, WholeText(figure));
+    return file.Set(change.name, WholeText(figure));
 }
 
+/// The computed figures last: none of them is read by the computation.
 Failure ApplyAll(const FileChanger& changer, EditedFile& file, std::vector<Error>& notes) {
+    std::vector<ComputedChange> figures;
     for (const Change& change : changer.changes)
-        if (!ReadComputed(change))
-            if (auto failure = Apply(change, changer.anyWord, file, notes))
-                return failure;
-    for (const Change& change : changer.changes)
-        if (const auto computed = ReadComputed(change))
-            if (auto failure = SetComputed(*computed, changer.scale, file))
-                return failure;
+        if (const auto figure = ReadComputed(change))
+            figures.push_back(*figure);
+        else if (auto failure = Apply(change, changer.anyWord, file, notes))
+            return failure;
+    if (figures.empty())
+        return {};
+    const auto computed = Compute(file);
+    if (!computed)
+        return computed.Why();
+    for (const ComputedChange& change : figures)
+        if (auto failure = SetFigure(change, *computed, changer.scale, file))
+            return failure;
     return {};
 }
 

@@ -1,5 +1,6 @@
 #include "xml/places.h"
 
+#include "text/blanks.h"
 #include "xml/markup_walk.h"
 
 #include <algorithm>
@@ -8,10 +9,6 @@
 namespace Hesperin {
 
 namespace {
-
-bool IsBlank(QChar character) {
-    return character == u' ' || character == u'\t' || character == u'\n' || character == u'\r';
-}
 
 class ElementFinder : public MarkupWalk {
 public:

@@ -60,6 +60,8 @@ void WriteFile(const QString& path, const QByteArray& bytes) {
 }
 
 QString TestedProgram(const char* name) {
+    static const QTemporaryDir data; // of a user, for the copies that it keeps
+    qputenv("XDG_DATA_HOME", data.path().toUtf8());
     return qEnvironmentVariable("TALMIR_PROGRAMS", TALMIR_PROGRAMS) + '/' + name + (OnLinux ? "" : ".exe");
 }
 

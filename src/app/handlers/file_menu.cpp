@@ -10,6 +10,7 @@
 #include "localisation/titles.h"
 #include "reports/reading_text.h"
 #include "system/version_record.h"
+#include "text/blanks.h"
 #include "text/numbers.h"
 
 namespace Hesperin {
@@ -22,7 +23,7 @@ void TakeCreatureNumber(MainForm& form) {
     constexpr qsizetype numberLength = 3;
     constexpr double lastOfTheGame = 179;
     const QString number =
-        WithoutBlanks(form.ComDialog.FileName).right(numberAndExtension).left(numberLength);
+        WithoutSpaces(form.ComDialog.FileName).right(numberAndExtension).left(numberLength);
     if (TextToNumber(number) > lastOfTheGame)
         form.txtIDC.SetText(number);
 }

@@ -9,6 +9,7 @@
 #include "system/backups.h"
 #include "system/read_file.h"
 #include "system/save_file.h"
+#include "text/blanks.h"
 #include "text/fill.h"
 #include "text/numbers.h"
 #include "text/shortened.h"
@@ -143,16 +144,8 @@ Error ConflictError(const Messages& messages, const std::vector<UpdateConflict>&
 
 } // namespace
 
-QString WithoutBlanks(QStringView text) {
-    while (text.startsWith(u' '))
-        text = text.sliced(1);
-    while (text.endsWith(u' '))
-        text.chop(1);
-    return text.toString();
-}
-
 void ShowFilePage(MainForm& form) {
-    form.Tablus.At(Page::File).SetCaption(WithoutBlanks(form.ComDialog.FileName));
+    form.Tablus.At(Page::File).SetCaption(WithoutSpaces(form.ComDialog.FileName));
     form.Tablus.At(Page::File).Switch(true);
 }
 

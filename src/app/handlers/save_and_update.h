@@ -29,7 +29,4 @@ void ForgetBaseline(Program& program);
 /// Shows the page of the file, named as in the dialog.
 void ShowFilePage(MainForm& form);
 
-/// The text without the blanks at its ends.
-QString WithoutBlanks(QStringView text);
-
 } // namespace Hesperin
