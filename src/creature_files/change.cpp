@@ -1,6 +1,7 @@
 #include "creature_files/change.h"
 
 #include "creature_files/file_tokens.h"
+#include "creature_files/reader.h"
 #include "text/decimal.h"
 #include "text/nearest.h"
 
@@ -9,18 +10,6 @@
 namespace Hesperin {
 
 namespace {
-
-struct ComputedName {
-    QStringView element;
-    Figure figure;
-};
-
-constexpr ComputedName ComputedNames[] = {
-    {u"Power", Figure::Power},
-    {u"Exp", Figure::Experience},
-    {u"WeeklyGrowth", Figure::Growth},
-    {u"Gold", Figure::Cost},
-};
 
 constexpr std::pair<QStringView, Method> MethodNames[] = {
     {u"average", Method::Average}, {u"rolvane", Method::Rolvane}, {u"hesperin", Method::Hesperin}};
@@ -145,10 +134,10 @@ std::optional<Change> ReadChange(const QString& text) {
 std::optional<ComputedChange> ReadComputed(const Change& change) {
     if (change.does != Change::Does::Set)
         return std::nullopt;
-    for (const ComputedName& name : ComputedNames)
+    for (const FigureInFile& row : FiguresInFile)
         for (const auto& [word, method] : MethodNames)
-            if (change.name.section(u'/', -1) == name.element && change.operand == word)
-                return ComputedChange{change.name, method, name.figure};
+            if (change.name.section(u'/', -1) == row.element && change.operand == word)
+                return ComputedChange{change.name, method, row.figure};
     return std::nullopt;
 }
 

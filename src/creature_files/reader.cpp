@@ -111,18 +111,10 @@ private:
 
     /// Where a figure of the file is kept beside its field.
     std::int16_t* FigureOf(NumberField field) {
-        switch (field) {
-        case NumberField::Power:
-            return &result.figures.FilePower;
-        case NumberField::Exp:
-            return &result.figures.FileExperience;
-        case NumberField::Growth:
-            return &result.figures.FileGrowth;
-        case NumberField::Gold:
-            return &result.figures.FileGold;
-        default:
-            return nullptr;
-        }
+        for (const FigureInFile& row : FiguresInFile)
+            if (row.field == field)
+                return &(result.figures.*row.value);
+        return nullptr;
     }
 
     void ReadField(const Element& element, const Tags& tags) {

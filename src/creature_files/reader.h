@@ -1,5 +1,6 @@
 #pragma once
 
+#include "catalogue/results.h"
 #include "creature_files/scanning.h"
 #include "model/creature.h"
 
@@ -25,6 +26,21 @@ struct ReadCreature {
     std::vector<LimitedNumber> limited;
     QString spellExcerpt; ///< the part of the file that the last spell's mastery was looked for in
     QString specabilityExcerpt; ///< the same for the last special ability
+};
+
+/// A figure that the program computes too, and where a creature file has it.
+struct FigureInFile {
+    Figure figure;
+    NumberField field;
+    QStringView element;
+    std::int16_t FileFigures::*value;
+};
+
+inline constexpr FigureInFile FiguresInFile[] = {
+    {Figure::Power, NumberField::Power, u"Power", &FileFigures::FilePower},
+    {Figure::Experience, NumberField::Exp, u"Exp", &FileFigures::FileExperience},
+    {Figure::Growth, NumberField::Growth, u"WeeklyGrowth", &FileFigures::FileGrowth},
+    {Figure::Cost, NumberField::Gold, u"Gold", &FileFigures::FileGold},
 };
 
 /// Reads the normalised text of a creature file over `cleared`, a creature without any tick: what

@@ -12,12 +12,12 @@ namespace Hesperin {
 
 namespace {
 
-/// The number that the file has in an element, which may lie outside the 16 bits of `value`.
-double InFile(const ReadCreature& read, QStringView element, std::int16_t value) {
+/// The figure that the file has, which may lie outside the 16 bits that are read of it.
+double InFile(const ReadCreature& read, const FigureInFile& row) {
     for (const LimitedNumber& limited : read.limited)
-        if (limited.element == element)
+        if (limited.element == row.element)
             return TextToNumber(limited.text);
-    return value;
+    return read.figures.*row.value;
 }
 
 } // namespace
@@ -61,15 +61,10 @@ ModScale ScaleOf(const QStringList& paths) {
             continue;
         const std::int16_t tier =
             RoundTo16Bits(TextToNumber(read.creature.Choices[ListField::Tier].text));
-        const std::pair<Figure, double> inFile[] = {
-            {Figure::Power, InFile(read, u"Power", read.figures.FilePower)},
-            {Figure::Experience, InFile(read, u"Exp", read.figures.FileExperience)},
-            {Figure::Growth, InFile(read, u"WeeklyGrowth", read.figures.FileGrowth)},
-            {Figure::Cost, InFile(read, u"Gold", read.figures.FileGold)}};
-        for (const auto& [figure, value] : inFile)
-            scale.Add(tier, figure,
-                      ResultOf(evaluation.powers, *evaluation.figures, Method::Average, figure),
-                      value);
+        for (const FigureInFile& row : FiguresInFile)
+            scale.Add(tier, row.figure,
+                      ResultOf(evaluation.powers, *evaluation.figures, Method::Average, row.figure),
+                      InFile(read, row));
     }
     return scale;
 }

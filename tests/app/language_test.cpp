@@ -91,10 +91,12 @@ TEST(Language, EveryMessageIsInEnglishAndRussian) {
     }
 }
 
-TEST(Start, NamesEachBoxBySpellAndAResetLowersTheFlagWhateverIsTicked) {
+TEST(Start, NamesBoxesLetsBackspaceThroughAndAResetLowersTheFlag) {
     TestProgram test(English);
     for (std::size_t i = 1; i <= SpellCount; ++i)
         EXPECT_EQ(test.form.Spells(static_cast<int>(i)).Caption(), SpellToken[i]);
+    for (const char16_t key : {u'\b', u'9'})
+        EXPECT_TRUE(test.form.txtHealth.Accepts(key));
     test.state.SpecabilityFlag = FlagTrue;
     Reset_Specabilities(test.program);
     EXPECT_EQ(test.state.SpecabilityFlag, FlagFalse);
