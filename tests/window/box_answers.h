@@ -29,7 +29,8 @@ public:
     QString ownButton;                      ///< the one pressed where a question has it
     QStringList paths;                      ///< what is typed into the file dialogs, in order; then they are cancelled
 
-    QStringList told; ///< a line for each: "Critical|Warning!|...", the buttons after a question; "file?|" and a name
+    QStringList told; ///< a line for each: "Critical|Warning!|...", the buttons after a question; "file?|", the name
+                      ///< and the cancelling button
     int width = 0;    ///< of the last box
 
 private:
@@ -78,13 +79,13 @@ private:
 
     void AnswerDialog(QFileDialog& dialog) {
         auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
-        told.append("file?|" + name->text());
+        auto* buttons = dialog.findChild<QDialogButtonBox*>("buttonBox");
+        told.append("file?|" + name->text() + '|' + buttons->button(QDialogButtonBox::Cancel)->text().remove('&'));
         const QString path = paths.isEmpty() ? QString() : paths.takeFirst();
         name->setText(path);
         const auto pressed = path.isEmpty()                                   ? QDialogButtonBox::Cancel
                              : dialog.acceptMode() == QFileDialog::AcceptOpen ? QDialogButtonBox::Open
                                                                               : QDialogButtonBox::Save;
-        auto* buttons = dialog.findChild<QDialogButtonBox*>("buttonBox");
         QTest::mouseClick(buttons->button(pressed), Qt::LeftButton);
     }
 
