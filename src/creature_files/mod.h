@@ -1,0 +1,71 @@
+// A mod: the files of folders and archives, later ones over earlier ones.
+#pragma once
+
+#include "text/error.h"
+
+#include <QByteArray>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace Hesperin {
+
+/// A document of a mod.
+struct ModFile {
+    QString path;         ///< below the folder or archive, with /; of a file named alone its name
+    QString place;        ///< the file on disk; of one in an archive the archive
+    bool packed = false;  ///< lies in an archive
+    std::size_t source{}; ///< which of the paths it comes from, from 0
+};
+
+/// A place of which nothing could be had: a folder, an archive.
+struct RefusedPlace {
+    QString path;
+    Error error;
+};
+
+class Mod {
+public:
+    /// Walks through `paths`: files, folders, and the game's archives (.pak, .h5u). A link given as
+    /// a path is followed, links to folders below it are not. Of several documents of one inner
+    /// path, letter case not counting, the one of the last path stays. `goOn` is asked now and
+    /// then; false ends the walk.
+    explicit Mod(const QStringList& paths, const std::function<bool()>& goOn = {});
+    ~Mod();
+    Mod(const Mod&) = delete;
+    Mod& operator=(const Mod&) = delete;
+
+    /// Every .xdb, whatever its root, in the order of the inner paths' code units.
+    const std::vector<ModFile>& Files() const { return files; }
+
+    const std::vector<RefusedPlace>& Refused() const { return refused; }
+
+    /// Whether a file of any kind has that inner path ("GameMechanics/…/A.(Creature).xdb"), letter
+    /// case not counting.
+    bool Has(const QString& path) const;
+
+    /// The bytes of the document, or why they can't be had: above `limit`, damaged, … May be called
+    /// by several threads at once.
+    Result<QByteArray> Read(const ModFile& file, qint64 limit) const;
+
+    /// The document of that inner path, letter case not counting; null when there is none.
+    const ModFile* Find(const QString& path) const;
+
+private:
+    struct Sources;
+
+    std::vector<ModFile> files;
+    std::vector<RefusedPlace> refused;
+    std::unique_ptr<Sources> sources;
+};
+
+/// Whether the document is known to have another root than Creature.
+bool IsOtherDocument(const QByteArray& bytes);
+
+/// Calls `visit` for each of `count` places from 0, with `jobs` threads at once (0: one for each
+/// core). `visit` gives false to end the walk early. The order of the calls is open.
+void VisitAll(std::size_t count, unsigned jobs, const std::function<bool(std::size_t)>& visit);
+
+} // namespace Hesperin

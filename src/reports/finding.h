@@ -1,0 +1,60 @@
+// What is wrong, or looks wrong, in a mod.
+#pragma once
+
+#include "localisation/messages.h"
+
+#include <QString>
+
+#include <span>
+
+namespace Hesperin {
+
+enum class Severity : std::uint8_t { Error, Warning, Note };
+
+enum class Rule : std::uint8_t {
+    Document,
+    ElementMissing,
+    ElementTwice,
+    Number,
+    NumberRange,
+    NumberOrder,
+    FigureZero,
+    TokenAbility,
+    TokenSpell,
+    TokenSpecability,
+    TokenTwice,
+    ElementSame,
+    CasterMana,
+    CasterSpells,
+    ShooterRange,
+    Nature,
+    UpgradeWeaker,
+    FigureOutlier,
+    Link,
+    Count
+};
+
+/// One rule: its name ("token.ability"), how grave a finding is, and why it is one, in the four
+/// languages (null: none).
+struct RuleRow {
+    const char* name;
+    Severity severity;
+    Texts reason;
+};
+
+extern const std::span<const RuleRow> RuleRows; ///< by Rule
+
+struct Finding {
+    Rule rule;
+    Severity severity; ///< that of the rule, but for the note that links were not checked
+    QString file;      ///< inner path; empty: of the whole mod
+    qint64 line = 0;   ///< from 1; 0: no place
+    qint64 column = 0;
+    QString element;  ///< its path below Creature
+    QString found;    ///< what stands there
+    QString expected; ///< empty: nothing that could be named
+
+    bool operator==(const Finding&) const = default;
+};
+
+} // namespace Hesperin
