@@ -13,6 +13,12 @@ int main(int argc, char** argv) {
     Hesperin::WindowedProgram program(early);
     if (!program.Start({}))
         return 1;
-    const EndAfterFirstPicture end(*QApplication::topLevelWidgets().constFirst());
+    QWidget* shown = nullptr; // menus are windows too
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible())
+            shown = window;
+    if (shown == nullptr)
+        return 1;
+    const EndAfterFirstPicture end(*shown);
     return QApplication::exec();
 }
