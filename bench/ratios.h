@@ -14,8 +14,9 @@ struct Ratio {
     std::string floor;
 };
 
-/// Runs all registered benchmarks, several times and in random order, and prints the ratio of the
-/// medians for each row. Gives an exit code.
+/// Runs all registered benchmarks, several times and in random order, and prints for each row the
+/// ratio of the shortest times, or of the medians where the benchmark is one of wall time. Gives an
+/// exit code.
 int RunAndPrintRatios(int argc, char** argv, const std::vector<Ratio>& ratios);
 
 } // namespace Hesperin
