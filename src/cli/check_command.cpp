@@ -48,9 +48,8 @@ qsizetype CountModPaths(const QStringList& paths) {
     const auto game = std::find_if(all.begin(), all.end(), [](const QString& argument) {
         return argument.startsWith(QLatin1String("--game"));
     });
-    const auto count = std::count_if(all.begin(), game, [&paths](const QString& argument) {
-        return paths.contains(argument);
-    });
+    const auto count = std::count_if(
+        all.begin(), game, [&paths](const QString& argument) { return paths.contains(argument); });
     return game == all.end() || count == 0 ? paths.size() : std::min(count, paths.size());
 }
 
@@ -61,9 +60,8 @@ QString Counted(std::size_t number, const char* one) {
 
 std::size_t CountOf(const std::vector<Finding>& findings, Severity severity) {
     return static_cast<std::size_t>(
-        std::count_if(findings.begin(), findings.end(), [severity](const Finding& finding) {
-            return finding.severity == severity;
-        }));
+        std::count_if(findings.begin(), findings.end(),
+                      [severity](const Finding& finding) { return finding.severity == severity; }));
 }
 
 void PrintJson(const Survey& survey) {
@@ -129,8 +127,7 @@ int RunCheck(const QCommandLineParser& parser) {
         PrintText(survey, messages);
     for (const RefusedPlace& place : survey.refused)
         Complain(QStringLiteral("%1: %2").arg(place.path, ErrorReason(messages, place.error)));
-    const bool isFine =
-        survey.refused.empty() && CountOf(survey.findings, Severity::Error) == 0;
+    const bool isFine = survey.refused.empty() && CountOf(survey.findings, Severity::Error) == 0;
     return isFine ? AllDone : SomethingFailed;
 }
 

@@ -34,19 +34,15 @@ QString CreatureKey(QString word) {
     return word == QLatin1String("UNKNOWN") ? QString() : word.remove(u'_').remove(u' ');
 }
 
-double AveragePowerOf(const SurveyRow& row) {
-    return AverageOf(row.powers.PowerRolvane, row.powers.PowerHesperin);
-}
-
 /// The bases of upgrades.
 class Bases {
 public:
-    explicit Bases(const Survey& survey, const std::vector<CheckedFile>& checked)
+    explicit Bases(const Survey& survey, const std::vector<CheckedFile*>& checked)
         : rows(survey.rows) {
         for (std::size_t row = 0; row < rows.size(); ++row)
             byKey[CreatureKey(rows[row].File())].push_back(row);
         for (std::size_t row = 0; row < checked.size(); ++row)
-            for (const QString& word : checked[row].upgrades)
+            for (const QString& word : checked[row]->upgrades)
                 if (const QString key = CreatureKey(word); !key.isEmpty())
                     byUpgrade[key].push_back(row);
     }
@@ -56,8 +52,8 @@ public:
     std::optional<std::size_t> Of(std::size_t row, const QString& named) const {
         const QString key = CreatureKey(named);
         const QString own = CreatureKey(rows[row].File());
-        auto base = key.isEmpty() ? TheOne(byUpgrade.value(own), row)
-                                  : TheOne(byKey.value(key), row);
+        auto base =
+            key.isEmpty() ? TheOne(byUpgrade.value(own), row) : TheOne(byKey.value(key), row);
         return base && *base != row ? base : std::nullopt;
     }
 
@@ -96,32 +92,18 @@ std::optional<QString> TargetOf(const QString& file, QString reference) {
 }
 
 bool HasFile(const Mod& mod, const QString& path) {
-    return std::any_of(std::begin(Roots), std::end(Roots), [&](QStringView root) {
-        return mod.Has(root.toString() + path);
-    });
-}
-
-bool LeadsSomewhere(const SurveyRow& row, const QString& reference, const Mod& mod,
-                    const Mod& game) {
-    const QString written = reference.section(u'#', 0, 0).trimmed();
-    if (written.isEmpty()) // within the file
-        return true;
-    const auto target = TargetOf(row.File(), written);
-    if (target && (HasFile(mod, *target) || HasFile(game, *target)))
-        return true;
-    // A file may have been named without the folder that it refers to.
-    const bool isBeside = !row.packed && !written.startsWith(u'/') && !written.startsWith(u'\\');
-    return isBeside && QFileInfo::exists(FolderOf(row.place) + QString(written).replace(u'\\', u'/'));
+    return std::any_of(std::begin(Roots), std::end(Roots),
+                       [&](QStringView root) { return mod.Has(root.toString() + path); });
 }
 
 void CheckUpgrade(const Survey& survey, const Bases& bases, std::size_t index,
                   const CheckedFile& checked, FindingList& findings) {
     const SurveyRow& row = survey.rows[index];
     const auto base = bases.Of(index, checked.base.text);
-    if (!base || row.problem || survey.rows[*base].problem)
+    if (!base || !row.figures || !survey.rows[*base].figures)
         return;
-    const double own = AveragePowerOf(row);
-    const double least = AveragePowerOf(survey.rows[*base]);
+    const double own = row.figures->PowerAverage;
+    const double least = survey.rows[*base].figures->PowerAverage;
     if (own > least)
         return;
     findings
@@ -152,34 +134,71 @@ Finding LinksNotChecked() {
 
 } // namespace
 
-void ReadVocabulary(const Mod& mod, Vocabulary& vocabulary, std::vector<RefusedPlace>& refused) {
+ModCheck::ModCheck(const Mod& whole, const QStringList& gamePaths,
+                   const std::function<bool()>& goOn)
+    : mod(whole), checked(whole.Files().size()) {
+    if (!gamePaths.isEmpty()) {
+        game = std::make_unique<Mod>(gamePaths, goOn);
+        refused = game->Refused();
+        ReadWords(*game);
+    }
+    ReadWords(mod);
+}
+
+void ModCheck::ReadWords(const Mod& place) {
     for (const QString& name : VocabularyFiles) {
         for (const QStringView root : Roots) {
-            const ModFile* file = mod.Find(root.toString() + name);
+            const ModFile* file = place.Find(root.toString() + name);
             if (file == nullptr)
                 continue;
-            const auto bytes = mod.Read(*file, LargestVocabularyFile);
-            const Failure failure = bytes ? vocabulary.Add(*bytes) : Failure(bytes.Why());
-            if (failure)
-                refused.push_back({file->packed ? file->path : file->place, *failure});
+            const auto bytes = place.Read(*file, LargestVocabularyFile);
+            if (const Failure failure = bytes ? vocabulary.Add(*bytes) : Failure(bytes.Why()))
+                refused.push_back(
+                    {file->packed ? file->place + u'/' + file->path : file->place, *failure});
         }
     }
 }
 
-void AddFindings(std::vector<CheckedFile> checked, const Mod& mod, const Mod* game,
-                 Survey& survey) {
-    if (game == nullptr && !survey.rows.empty())
+void ModCheck::LookAt(std::size_t at, const QByteArray& bytes, const Result<QString>& normalised) {
+    const QString& file = mod.Files()[at].path;
+    checked[at] = std::make_unique<CheckedFile>();
+    if (normalised)
+        *checked[at] = CheckFile(file, bytes, *normalised, vocabulary);
+    else
+        checked[at]->findings.push_back(UnreadableFile(file, normalised.Why()));
+}
+
+bool ModCheck::LeadsSomewhere(const SurveyRow& row, const QString& reference) const {
+    const QString written = reference.section(u'#', 0, 0).trimmed();
+    if (written.isEmpty()) // within the file
+        return true;
+    const auto target = TargetOf(row.File(), written);
+    if (target && (HasFile(mod, *target) || HasFile(*game, *target)))
+        return true;
+    // A file may have been named without the folder that it refers to.
+    const bool isBeside = !row.packed && !written.startsWith(u'/') && !written.startsWith(u'\\');
+    return isBeside &&
+           QFileInfo::exists(FolderOf(row.place) + QString(written).replace(u'\\', u'/'));
+}
+
+void ModCheck::AddTo(Survey& survey) {
+    std::move(refused.begin(), refused.end(), std::back_inserter(survey.refused));
+    if (!game && !survey.rows.empty())
         survey.findings.push_back(LinksNotChecked());
-    const Bases bases(survey, checked);
-    for (std::size_t i = 0; i < checked.size(); ++i) {
+    std::vector<CheckedFile*> files; // by row
+    for (const auto& file : checked)
+        if (file)
+            files.push_back(file.get());
+    const Bases bases(survey, files);
+    for (std::size_t i = 0; i < files.size(); ++i) {
         const SurveyRow& row = survey.rows[i];
         FindingList findings(row.File());
-        CheckUpgrade(survey, bases, i, checked[i], findings);
-        CheckDeviation(survey, row, checked[i], findings);
-        for (const FileElement& reference : checked[i].references)
-            if (game != nullptr && !LeadsSomewhere(row, reference.text, mod, *game))
+        CheckUpgrade(survey, bases, i, *files[i], findings);
+        CheckDeviation(survey, row, *files[i], findings);
+        for (const FileElement& reference : files[i]->references)
+            if (game && !LeadsSomewhere(row, reference.text))
                 findings.Add(Rule::Link, reference);
-        std::vector<Finding> all = std::move(checked[i].findings);
+        std::vector<Finding> all = std::move(files[i]->findings);
         for (Finding& finding : findings.Take())
             all.push_back(std::move(finding));
         std::stable_sort(all.begin(), all.end(), [](const Finding& a, const Finding& b) {

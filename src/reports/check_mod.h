@@ -4,14 +4,32 @@
 #include "reports/check_file.h"
 #include "reports/survey.h"
 
+#include <memory>
+
 namespace Hesperin {
 
-/// The words of the catalogue, of the game and of the mod. What of them can't be read is added to
-/// `refused`.
-void ReadVocabulary(const Mod& mod, Vocabulary& vocabulary, std::vector<RefusedPlace>& refused);
+/// The check of a mod, which goes along with its survey.
+class ModCheck {
+public:
+    /// `gamePaths`: the game's own folders and archives; none: references aren't checked.
+    ModCheck(const Mod& mod, const QStringList& gamePaths, const std::function<bool()>& goOn);
 
-/// Adds the findings of each file and those between files to the survey, whose rows are complete,
-/// in their order. `checked`: by row; `game`: the game's own files, null when they are not known.
-void AddFindings(std::vector<CheckedFile> checked, const Mod& mod, const Mod* game, Survey& survey);
+    /// Checks the file `at` of the mod. May be called by several threads, for one file each.
+    void LookAt(std::size_t at, const QByteArray& bytes, const Result<QString>& normalised);
+
+    /// Adds the findings, in their order, to the survey of all files that were looked at, and
+    /// those of the game's places that were refused. Its rows have their deviations.
+    void AddTo(Survey& survey);
+
+private:
+    void ReadWords(const Mod& place);
+    bool LeadsSomewhere(const SurveyRow& row, const QString& reference) const;
+
+    const Mod& mod;
+    std::unique_ptr<Mod> game; ///< null: none is known
+    Vocabulary vocabulary;
+    std::vector<RefusedPlace> refused;
+    std::vector<std::unique_ptr<CheckedFile>> checked; ///< by file; null: not looked at
+};
 
 } // namespace Hesperin

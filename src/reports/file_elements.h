@@ -11,8 +11,8 @@ namespace Hesperin {
 
 /// An element, or an attribute.
 struct FileElement {
-    QString path{}; ///< below Creature; of an attribute with @ and its name
-    QString text{}; ///< its content, white space around it left out
+    QString path{};  ///< below Creature; of an attribute with @ and its name
+    QString text{};  ///< its content, white space around it left out
     qint64 line = 0; ///< of its start tag, from 1; 0: no place in the file's own text
     qint64 column = 0;
     const Element* format = nullptr; ///< null: no element of the format

@@ -33,8 +33,9 @@ enum class Rule : std::uint8_t {
     Count
 };
 
-/// One rule: its name ("token.ability"), how grave a finding is, why it is one and what was expected
-/// instead, in the four languages (null: none). %1 stands for the `expected` of the finding.
+/// One rule: its name ("token.ability"), how grave a finding is, why it is one and what was
+/// expected instead, in the four languages (null: none). %1 stands for the `expected` of the
+/// finding.
 struct RuleRow {
     const char* name;
     Severity severity;
@@ -48,8 +49,8 @@ extern const std::span<const RuleRow> RuleRows; ///< by Rule
 struct Finding {
     Rule rule{};
     Severity severity{}; ///< that of the rule, but for the note that links were not checked
-    QString file;      ///< inner path; empty: of the whole mod
-    qint64 line = 0;   ///< from 1; 0: no place
+    QString file;        ///< inner path; empty: of the whole mod
+    qint64 line = 0;     ///< from 1; 0: no place
     qint64 column = 0;
     QString element;  ///< its path below Creature; of an attribute with @ and its name
     QString found;    ///< what stands there
