@@ -106,6 +106,11 @@ struct Messages {
     QString MsgCancel;
     QString MsgYes;
     QString MsgNo;
+    QString MsgSeverityError;
+    QString MsgSeverityWarning;
+    QString MsgSeverityNote;
+    QString MsgExpected;
+    QString MsgLinksNotChecked;
 
     // How a result is named for those who cannot see where it stands: what it is (%1), the figure.
     QString FigureByRolvane;
