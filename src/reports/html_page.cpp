@@ -1,5 +1,7 @@
 #include "reports/html_page.h"
 
+#include <QByteArrayList>
+
 namespace Hesperin {
 
 QByteArray InHtml(const QString& text) {
