@@ -22,6 +22,7 @@ struct Command {
 extern const Command CalcCommand;
 extern const Command RunCommand;
 extern const Command SetCommand;
+extern const Command TableCommand;
 extern const Command TextsCommand;
 
 } // namespace Hesperin
