@@ -5,6 +5,7 @@
 #include "localisation/error_text.h"
 #include "localisation/languages.h"
 #include "reports/table_csv.h"
+#include "reports/table_html.h"
 #include "reports/table_rows.h"
 #include "reports/table_text.h"
 #include "text/decimal.h"
@@ -147,6 +148,20 @@ void PrintTable(const QCommandLineParser& parser, const Survey& survey, const Ta
         PrintBytes(CsvLine(row, messages));
 }
 
+/// Writes the page into a file, or tells why it can't be written; then false.
+bool WritePage(const Survey& survey, const QString& path, const Messages& messages) {
+    auto [failure, notes] = SaveFile(path, TableHtml(survey, messages));
+    if (failure) {
+        failure->file = path;
+        failure->doing = Error::Doing::Saving;
+        Complain(ErrorText(messages, *failure));
+        return false;
+    }
+    if (!notes.empty())
+        Complain(NotesText(messages, notes));
+    return true;
+}
+
 int RunTable(const QCommandLineParser& parser) {
     const Wishes wishes(parser);
     if (!wishes.wrong.isEmpty()) {
@@ -154,10 +169,6 @@ int RunTable(const QCommandLineParser& parser) {
         return WrongUsage;
     }
     const Messages messages = MessagesIn(English);
-    if (parser.isSet(TableOption::Html)) {
-        Complain(QStringLiteral("talmir-cli table: --html is not available yet"));
-        return SomethingFailed;
-    }
     Survey survey = TakeSurveyTold(wishes.survey);
     TableSides sides{AllRefused(survey), std::nullopt};
     bool allRead = sides.refused.empty();
@@ -171,12 +182,17 @@ int RunTable(const QCommandLineParser& parser) {
             allRead = false;
         }
     }
-    AddRefusedRows(survey);
+    const bool asPage = parser.isSet(TableOption::Html);
+    if (!asPage) // which lists them apart
+        AddRefusedRows(survey);
     if (wishes.outliers)
         KeepOutliers(survey.rows, *wishes.outliers);
     if (wishes.order)
         SortRows(survey.rows, *wishes.order, messages);
-    PrintTable(parser, survey, sides, messages);
+    if (asPage)
+        allRead = WritePage(survey, parser.value(TableOption::Html), messages) && allRead;
+    else
+        PrintTable(parser, survey, sides, messages);
     return allRead ? AllDone : SomethingFailed;
 }
 
