@@ -9,7 +9,7 @@ namespace Hesperin {
 
 namespace {
 
-constexpr QStringView AbilityPrefix = u"ABILITY_";
+const QString AbilityPrefix = QStringLiteral("ABILITY_");
 
 bool CanBeTold(const Element& element) {
     return TakesNumber(element) || TakesFlag(element) || element.says == Says::ListEntry ||
@@ -34,8 +34,9 @@ std::optional<Decimal> NumberIn(QString text) {
 /// "true" or "false" for what spreadsheets make of it; any other text as it is.
 QString FlagIn(const QString& text) {
     static const std::pair<QStringView, const char*> words[] = {
-        {u"true", "true"},   {u"1", "true"},  {u"истина", "true"},
-        {u"false", "false"}, {u"0", "false"}, {u"ложь", "false"}};
+        {u"true", "true"},   {u"false", "false"}, {u"1", "true"},    {u"0", "false"},
+        {u"истина", "true"}, {u"ложь", "false"},  {u"wahr", "true"}, {u"falsch", "false"},
+        {u"vrai", "true"},   {u"faux", "false"}};
     for (const auto& [word, flag] : words)
         if (text.compare(word, Qt::CaseInsensitive) == 0)
             return QLatin1String(flag);

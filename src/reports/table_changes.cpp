@@ -28,6 +28,7 @@ class FilesBelow {
 public:
     explicit FilesBelow(const QString& path)
         : root(path), isFolder(QFileInfo(path).isDir()),
+          canonical(QFileInfo(path).canonicalFilePath() + u'/'),
           lookup(path.endsWith(u'/') ? path.chopped(1) : path) {}
 
     /// The file of that inner path; empty when there is none.
@@ -40,12 +41,21 @@ public:
         for (const QString& level : levels)
             if (level.isEmpty() || level == u"." || level == u"..")
                 return {};
-        return lookup.Find(levels);
+        QString file = lookup.Find(levels);
+        return IsInside(file) ? file : QString();
     }
 
 private:
+    /// Links to folders lead elsewhere.
+    bool IsInside(const QString& file) const {
+        const QFileInfo place(file);
+        const QString folder = QFileInfo(place.path()).canonicalFilePath() + u'/';
+        return !file.isEmpty() && !place.isDir() && folder.startsWith(canonical);
+    }
+
     QString root;
     bool isFolder;
+    QString canonical; ///< of the folder, with / behind it
     PathLookup lookup;
 };
 
@@ -128,8 +138,8 @@ private:
         const Element* element = ElementOfHeading(heading);
         if (element == nullptr) {
             if (!ColumnOf(heading))
-                read.refusals.push_back(
-                    At({Error::What::ColumnUnknown, heading, NearestHeading(heading)}, row, {}));
+                read.refusals.push_back(At(
+                    {Error::What::ColumnUnknown, heading, NearestHeading(heading)}, row, heading));
             return;
         }
         const auto isTwin = [&](const QString& other) {
@@ -139,7 +149,7 @@ private:
         if (twins == 1)
             elements[static_cast<std::size_t>(at)] = element;
         else if (std::find_if(headings.begin(), headings.end(), isTwin) - headings.begin() == at)
-            read.refusals.push_back(At({Error::What::ColumnTwice, heading}, row, {}));
+            read.refusals.push_back(At({Error::What::ColumnTwice, heading}, row, heading));
     }
 
     static bool IsBlank(const CsvRow& row) {
@@ -150,7 +160,7 @@ private:
     /// Of several rows of one file the first stays, to tell of them all.
     void Keep(TableRow row) {
         const QString number = QString::number(row.number);
-        const QString place = QFileInfo(row.file).canonicalFilePath();
+        const QString place = row.refusal ? QString() : QFileInfo(row.file).canonicalFilePath();
         if (const auto known = places.constFind(place);
             !place.isEmpty() && known != places.constEnd()) {
             rowsOf[*known].append(number);

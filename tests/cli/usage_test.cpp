@@ -32,6 +32,10 @@ TEST(Usage, HelpAndVersionGoToStandardOutputAndWrongUsageIsCode2) {
         {"run - --lang", nullptr},
         {"run - --lang ru", nullptr},
         {"run --json -", nullptr},
+        {"apply --help", "talmir-cli apply"},
+        {"apply a.csv", nullptr},
+        {"apply a.csv b c", nullptr},
+        {"apply a.csv b --diff --json", nullptr},
         {"texts", nullptr},
         {"texts a --lang FR", nullptr},
     };
