@@ -12,8 +12,8 @@ using namespace Hesperin;
 
 namespace {
 
-const Command* const Commands[] = {&CalcCommand, &SetCommand, &ApplyCommand, &RunCommand,
-                                   &TextsCommand};
+const Command* const Commands[] = {&CalcCommand,  &SetCommand, &TableCommand,
+                                   &ApplyCommand, &RunCommand, &TextsCommand};
 
 QString Overview() {
     QString text = QStringLiteral("Usage: talmir-cli COMMAND [ARGUMENTS]\n"

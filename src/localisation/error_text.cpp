@@ -53,6 +53,7 @@ constexpr QString Messages::*Sentences[] = {
     &Messages::MsgColumnLacking,
     &Messages::MsgColumnUnknown,
     &Messages::MsgColumnTwice,
+    &Messages::MsgRowNamesNone,
     &Messages::MsgRowTwice,
     &Messages::MsgRowTooLong,
     &Messages::MsgCellEmpty,

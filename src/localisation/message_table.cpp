@@ -93,6 +93,7 @@ constexpr MessageRow Table[] = {
     {&Messages::MsgColumnLacking,         {u"It has no column \"%1\".", u"В ней нет столбца \"%1\".", nullptr, nullptr}},
     {&Messages::MsgColumnUnknown,         {u"There is no column \"%1\"; the nearest is \"%2\".", u"Столбца \"%1\" не бывает; ближайший — \"%2\".", nullptr, nullptr}},
     {&Messages::MsgColumnTwice,           {u"It has more than one column \"%1\", and none of them counts.", u"Столбцов \"%1\" в ней больше одного, ни один не учитывается.", nullptr, nullptr}},
+    {&Messages::MsgRowNamesNone,          {u"A row names no file.", u"Строка не называет файла.", nullptr, nullptr}},
     {&Messages::MsgRowTwice,              {u"More than one row is about this file: %1.", u"Об этом файле больше одной строки: %1.", nullptr, nullptr}},
     {&Messages::MsgRowTooLong,            {u"The row has %1 cells, the heading only %2.", u"В строке ячеек: %1, а в заголовке только %2.", nullptr, nullptr}},
     {&Messages::MsgCellEmpty,             {u"The cell is empty; the file has \"%1\".", u"Ячейка пуста, а в файле \"%1\".", nullptr, nullptr}},

@@ -83,6 +83,7 @@ struct Messages {
     QString MsgColumnLacking;
     QString MsgColumnUnknown;
     QString MsgColumnTwice;
+    QString MsgRowNamesNone;
     QString MsgRowTwice;
     QString MsgRowTooLong;
     QString MsgCellEmpty;

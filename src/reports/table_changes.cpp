@@ -5,6 +5,7 @@
 #include "reports/survey.h"
 #include "system/path_lookup.h"
 #include "system/read_file.h"
+#include "text/csv.h"
 #include "text/csv_reader.h"
 #include "text/nearest.h"
 
@@ -27,8 +28,7 @@ Error At(Error error, qint64 row, const QString& heading) {
 class FilesBelow {
 public:
     explicit FilesBelow(const QString& path)
-        : root(path), isFolder(QFileInfo(path).isDir()),
-          canonical(QFileInfo(path).canonicalFilePath() + u'/'),
+        : root(path), isFolder(QFileInfo(path).isDir()), canonical(Canonical(path)),
           lookup(path.endsWith(u'/') ? path.chopped(1) : path) {}
 
     /// The file of that inner path; empty when there is none.
@@ -46,16 +46,21 @@ public:
     }
 
 private:
+    /// With a slash behind it.
+    static QString Canonical(const QString& folder) {
+        const QString path = QDir(folder).canonicalPath();
+        return path.endsWith(u'/') ? path : path + u'/';
+    }
+
     /// Links to folders lead elsewhere.
     bool IsInside(const QString& file) const {
         const QFileInfo place(file);
-        const QString folder = QFileInfo(place.path()).canonicalFilePath() + u'/';
-        return !file.isEmpty() && !place.isDir() && folder.startsWith(canonical);
+        return !file.isEmpty() && !place.isDir() && Canonical(place.path()).startsWith(canonical);
     }
 
     QString root;
     bool isFolder;
-    QString canonical; ///< of the folder, with / behind it
+    QString canonical;
     PathLookup lookup;
 };
 
@@ -96,16 +101,18 @@ public:
         };
         const QString inner = textOf(fileColumn);
         const QString& heading = headings[fileColumn];
-        const Error noFile = At({Error::What::FileMissing}, row.number, heading);
         if (inner.isEmpty()) {
             if (!IsBlank(row))
-                read.refusals.push_back(noFile);
+                read.refusals.push_back(At({Error::What::RowNamesNone}, row.number, heading));
             return;
         }
         TableRow made{row.number, files.Find(inner), {}, {}};
-        if (made.file.isEmpty()) {
+        QString place;
+        if (!made.file.isEmpty()) {
+            place = QFileInfo(made.file).canonicalFilePath();
+        } else {
             made.file = inner;
-            made.refusal = noFile;
+            made.refusal = At({Error::What::FileMissing}, row.number, heading);
         }
         qsizetype used = row.cells.size();
         while (used > headings.size() && row.cells[used - 1].isEmpty())
@@ -118,7 +125,7 @@ public:
             if (const auto cell = static_cast<qsizetype>(i);
                 elements[i] != nullptr && cell < row.cells.size())
                 made.cells.push_back({elements[i], headings[cell], textOf(cell).trimmed()});
-        Keep(std::move(made));
+        Keep(std::move(made), place);
     }
 
     TableChanges Finish() {
@@ -157,10 +164,10 @@ private:
                            [](const QString& cell) { return cell.trimmed().isEmpty(); });
     }
 
-    /// Of several rows of one file the first stays, to tell of them all.
-    void Keep(TableRow row) {
+    /// Of several rows of one file the first stays, to tell of them all. `place`: of the file,
+    /// whatever names lead to it; empty: there is none.
+    void Keep(TableRow row, const QString& place) {
         const QString number = QString::number(row.number);
-        const QString place = row.refusal ? QString() : QFileInfo(row.file).canonicalFilePath();
         if (const auto known = places.constFind(place);
             !place.isEmpty() && known != places.constEnd()) {
             rowsOf[*known].append(number);

@@ -125,13 +125,4 @@ Result<std::vector<CsvRow>> ReadCsv(const QByteArray& bytes) {
     return rows;
 }
 
-QString WithoutGuard(const QString& cell) {
-    qsizetype end = 0;
-    while (end < cell.size() && cell[end] == u'\'')
-        ++end;
-    const bool guarded =
-        end > 0 && end < cell.size() && QStringView(u"=+-@\t\r").contains(cell[end]);
-    return guarded ? cell.sliced(1) : cell;
-}
-
 } // namespace Hesperin

@@ -23,8 +23,4 @@ struct CsvRow {
 /// that nothing closes.
 Result<std::vector<CsvRow>> ReadCsv(const QByteArray& bytes);
 
-/// The text of a cell without the guard, one apostrophe in front of what a spreadsheet would take
-/// for a formula.
-QString WithoutGuard(const QString& cell);
-
 } // namespace Hesperin

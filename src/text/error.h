@@ -57,6 +57,7 @@ struct Error {
         ColumnLacking, ///< the column `value`
         ColumnUnknown, ///< `value` is its heading, `expected` the nearest known one
         ColumnTwice,   ///< `value` is its heading
+        RowNamesNone,  ///< no file
         RowTwice,      ///< the rows `value` are of one file
         RowTooLong,    ///< it has `value` cells, the heading `expected`
         CellEmpty,     ///< where the file has `value`
