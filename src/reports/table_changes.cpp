@@ -229,7 +229,10 @@ ChangeReport TryRow(const TableRow& row) {
         TryEdit(row.file, [&](EditedFile& file, std::vector<Error>& notes) -> Failure {
             for (const TableCell& cell : row.cells) {
                 const auto now = ContentFor(cell, file);
-                if ((now && SaysTheSame(cell, *now)) || listed.Says(cell))
+                if (now && SaysTheSame(cell, *now))
+                    continue;
+                // An empty one may stand for an element that only others in the file hold.
+                if ((!now || cell.text.isEmpty()) && listed.Says(cell))
                     continue;
                 const Failure failure =
                     now ? ApplyCell(cell, *now, file, notes) : Failure(now.Why());

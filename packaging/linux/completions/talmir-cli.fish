@@ -15,6 +15,12 @@ complete -c talmir-cli -n '__fish_seen_subcommand_from set' -l any-word -d 'Add 
 complete -c talmir-cli -n '__fish_seen_subcommand_from set' -l scale-of -r -F -d 'Divide computed figures by the scale of a mod'
 complete -c talmir-cli -n '__fish_seen_subcommand_from set' -k -a '(__fish_complete_suffix .xdb)'
 
+complete -c talmir-cli -n __fish_use_subcommand -a apply -d 'Change creature files as a table says'
+complete -c talmir-cli -n '__fish_seen_subcommand_from apply' -l write -d 'Write the files that change'
+complete -c talmir-cli -n '__fish_seen_subcommand_from apply' -l diff -d 'Print the changed lines'
+complete -c talmir-cli -n '__fish_seen_subcommand_from apply' -l json -d 'Print one JSON object a line and file'
+complete -c talmir-cli -n '__fish_seen_subcommand_from apply' -F
+
 complete -c talmir-cli -n __fish_use_subcommand -a run -d 'Play a script of user actions'
 complete -c talmir-cli -n '__fish_seen_subcommand_from run' -l lang -x -a 'EN RU' -d 'Language at the start'
 complete -c talmir-cli -n '__fish_seen_subcommand_from run' -l keep-going -d 'Go on behind what cannot be done'
