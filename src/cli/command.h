@@ -19,6 +19,7 @@ struct Command {
     int (*run)(const QCommandLineParser& parser); ///< gives an exit code
 };
 
+extern const Command ApplyCommand;
 extern const Command CalcCommand;
 extern const Command CheckCommand;
 extern const Command RunCommand;

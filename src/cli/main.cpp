@@ -13,7 +13,11 @@ using namespace Hesperin;
 namespace {
 
 const Command* const Commands[] = {&CalcCommand,  &SetCommand, &TableCommand,
+<<<<<<< HEAD
                                    &CheckCommand, &RunCommand, &TextsCommand};
+=======
+                                   &ApplyCommand, &RunCommand, &TextsCommand};
+>>>>>>> w-c
 
 QString Overview() {
     QString text = QStringLiteral("Usage: talmir-cli COMMAND [ARGUMENTS]\n"

@@ -49,6 +49,15 @@ constexpr QString Messages::*Sentences[] = {
     &Messages::MsgNoPower,
     &Messages::MsgNoScale,
     &Messages::MsgCantBeSpelled,
+    &Messages::MsgEndlessQuote,
+    &Messages::MsgColumnLacking,
+    &Messages::MsgColumnUnknown,
+    &Messages::MsgColumnTwice,
+    &Messages::MsgRowNamesNone,
+    &Messages::MsgRowTwice,
+    &Messages::MsgRowTooLong,
+    &Messages::MsgCellEmpty,
+    &Messages::MsgNeverWritten,
     &Messages::MsgUnsafeEdit,
     &Messages::MsgUpdateConflicts,
 };
@@ -64,12 +73,19 @@ static_assert(std::size(NoteSentences) == static_cast<std::size_t>(SaveNote::May
 // clang-format on
 
 QString Place(const Messages& messages, const Error& error) {
-    if (error.line == 0)
-        return {};
-    if (error.column == 0)
-        return Fill(messages.MsgAtLineAlone, {QString::number(error.line)});
-    return Fill(error.element.isEmpty() ? messages.MsgAtLine : messages.MsgAtLineIn,
-                {QString::number(error.line), QString::number(error.column), error.element});
+    const QString& element = error.element;
+    const QString line = QString::number(error.line);
+    const QString column = QString::number(error.column);
+    QString place;
+    if (error.line > 0 && error.column == 0)
+        place = Fill(messages.MsgAtLineAlone, {line});
+    else if (error.line > 0)
+        place = Fill(element.isEmpty() || error.row > 0 ? messages.MsgAtLine : messages.MsgAtLineIn,
+                     {line, column, element});
+    if (error.row > 0)
+        place += Fill(element.isEmpty() ? messages.MsgAtRow : messages.MsgAtCell,
+                      {QString::number(error.row), element});
+    return place;
 }
 
 } // namespace

@@ -79,6 +79,17 @@ struct Messages {
     QString MsgNoPower;
     QString MsgNoScale;
     QString MsgCantBeSpelled;
+    QString MsgEndlessQuote;
+    QString MsgColumnLacking;
+    QString MsgColumnUnknown;
+    QString MsgColumnTwice;
+    QString MsgRowNamesNone;
+    QString MsgRowTwice;
+    QString MsgRowTooLong;
+    QString MsgCellEmpty;
+    QString MsgNeverWritten;
+    QString MsgAtRow;
+    QString MsgAtCell;
     QString MsgUnsafeEdit;
     QString MsgAtLineAlone;
     QString MsgSavedBut;

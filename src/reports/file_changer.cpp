@@ -70,7 +70,7 @@ Failure ApplyAll(const FileChanger& changer, EditedFile& file, std::vector<Error
 
 } // namespace
 
-ChangeReport FileChanger::Try(const QString& path) const {
+ChangeReport TryEdit(const QString& path, const Editing& edit) {
     ChangeReport report{path, {}, {}, {}, {}, {}, false};
     const auto bytes = ReadFile(path, LargestCreatureFile);
     auto file = bytes ? EditedFile::Open(*bytes) : Result<EditedFile>(bytes.Why());
@@ -78,7 +78,7 @@ ChangeReport FileChanger::Try(const QString& path) const {
         report.error = file.Why();
         return report;
     }
-    report.error = ApplyAll(*this, *file, report.notes);
+    report.error = edit(*file, report.notes);
     if (report.error)
         return report;
     std::vector<FileChange> made = file->Changes();
@@ -93,6 +93,12 @@ ChangeReport FileChanger::Try(const QString& path) const {
     report.before = *bytes;
     report.after = *edited;
     return report;
+}
+
+ChangeReport FileChanger::Try(const QString& path) const {
+    return TryEdit(path, [this](EditedFile& file, std::vector<Error>& notes) {
+        return ApplyAll(*this, file, notes);
+    });
 }
 
 } // namespace Hesperin

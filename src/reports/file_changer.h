@@ -4,7 +4,15 @@
 #include "reports/change_report.h"
 #include "reports/mod_scale.h"
 
+#include <functional>
+
 namespace Hesperin {
+
+/// Makes changes in a file; what is told of those that were made goes to `notes`.
+using Editing = std::function<Failure(EditedFile& file, std::vector<Error>& notes)>;
+
+/// What `edit` does to the file `path`; nothing is written.
+ChangeReport TryEdit(const QString& path, const Editing& edit);
 
 /// Makes the same changes in one file after another.
 struct FileChanger {

@@ -14,6 +14,10 @@ QString Guarded(const QString& text) {
     return LooksLikeAFormula(text) ? u'\'' + text : text;
 }
 
+QString WithoutGuard(const QString& cell) {
+    return cell.startsWith(u'\'') && LooksLikeAFormula(cell) ? cell.sliced(1) : cell;
+}
+
 void AppendCsvCell(const QString& cell, QByteArray& line) {
     const bool plain = std::none_of(cell.begin(), cell.end(), [](QChar character) {
         return character == u',' || character == u';' || character == u'"' || character == u'\t' ||

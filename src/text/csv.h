@@ -15,6 +15,9 @@ bool LooksLikeAFormula(QStringView cell);
 /// back.
 QString Guarded(const QString& text);
 
+/// The text behind such a cell.
+QString WithoutGuard(const QString& cell);
+
 /// Appends the cell to a line: in quotes, with its own doubled, where it needs them.
 void AppendCsvCell(const QString& cell, QByteArray& line);
 

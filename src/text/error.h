@@ -52,6 +52,16 @@ struct Error {
         NoPower,     ///< Power is 0, so that there are no figures
         NoScale,     ///< tier `value` has no scale for `element`
         CantBeSpelled, ///< `value` has a character that no document can hold
+        // A table can't be applied.
+        EndlessQuote,  ///< a quote that nothing closes
+        ColumnLacking, ///< the column `value`
+        ColumnUnknown, ///< `value` is its heading, `expected` the nearest known one
+        ColumnTwice,   ///< `value` is its heading
+        RowNamesNone,  ///< no file
+        RowTwice,      ///< the rows `value` are of one file
+        RowTooLong,    ///< it has `value` cells, the heading `expected`
+        CellEmpty,     ///< where the file has `value`
+        NeverWritten,  ///< it is an archive
         UnsafeEdit,    ///< the edited file would not be what was asked for
         Conflict,      ///< someone else has changed the same in the file: `value` says what
     };
@@ -67,6 +77,7 @@ struct Error {
     qint64 line = 0;   ///< from 1; 0 when no place can be named
     qint64 column = 0; ///< from 1
     QString element{}; ///< the innermost one that is open there
+    qint64 row = 0;    ///< of a table, from 1; 0: none. `element` is the column's heading then
 
     bool operator==(const Error&) const = default;
 };

@@ -1,4 +1,4 @@
-// Sessions with `talmir-cli set`: tests/data/set.
+// Sessions with `talmir-cli set` and `apply`: tests/data/set, tests/data/apply.
 #include "cli/run_cli.h"
 #include "reports/line_diff.h"
 #include "support/cases_file.h"
@@ -12,23 +12,28 @@ namespace Hesperin {
 
 namespace {
 
-/// Runs commands of the shell in the folder, in which `set` is the program's, and `file NAME ELEMENTS` makes a file.
-QString SetOutcome(const QTemporaryDir& folder, QString commands) {
-    commands.replace(QRegularExpression("(^|; )set\\b"), "\\1\"$0\" set");
+/// Runs commands of the shell in the folder, in which `set` and `apply` are the program's, and `file NAME ELEMENTS`
+/// makes a file.
+QString EditOutcome(const QTemporaryDir& folder, QString commands) {
+    commands.replace(QRegularExpression("(^|; )(set|apply)\\b"), "\\1\"$0\" \\2");
     const QString words = "file() { printf \"<Creature>\\n\\t$2\\n</Creature>\\n\" >\"$1\"; }\n";
     const CliOutcome outcome = RunShell(words + commands, folder.path());
     return outcome.out.trimmed() + '\n' + outcome.err.trimmed() +
            (outcome.code == 0 ? "" : "\nexit code " + QString::number(outcome.code));
 }
 
-TEST(Set, GoesAsTold) {
+void ExpectSessions(const char* cases) {
     if (!QFile::exists("/bin/sh"))
         GTEST_SKIP() << "no shell";
     const QTemporaryDir folder;
     for (const char* name : {"swamp_archer.xdb", "hill_peasant.xdb"})
         WriteFile(folder.filePath(name), ReadAll(QString(TALMIR_SOURCE_DIR "/samples/") + name).replace("\r\n", "\n"));
-    ExpectCases("set/sessions.txt", [&](const QString& line) { return SetOutcome(folder, line); });
+    ExpectCases(cases, [&](const QString& line) { return EditOutcome(folder, line); });
 }
+
+TEST(Set, GoesAsTold) { ExpectSessions("set/sessions.txt"); }
+
+TEST(Apply, GoesAsTold) { ExpectSessions("apply/sessions.txt"); }
 
 TEST(Set, TheExamplesOfItsHelpWorkFromTheTop) {
     const QStringList examples = RunCli({"set", "--help"}).Lines().filter(QRegularExpression("^  talmir-cli set "));

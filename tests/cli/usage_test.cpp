@@ -36,6 +36,10 @@ TEST(Usage, HelpAndVersionGoToStandardOutputAndWrongUsageIsCode2) {
         {"check", nullptr},
         {"check --game a", nullptr},
         {"check --bogus a", nullptr},
+        {"apply --help", "talmir-cli apply"},
+        {"apply a.csv", nullptr},
+        {"apply a.csv b c", nullptr},
+        {"apply a.csv b --diff --json", nullptr},
         {"texts", nullptr},
         {"texts a --lang FR", nullptr},
     };

@@ -20,6 +20,12 @@ complete -c talmir-cli -n '__fish_seen_subcommand_from check' -l json -d 'Print 
 complete -c talmir-cli -n '__fish_seen_subcommand_from check' -l game -r -F -d 'Folder or archive of the game'
 complete -c talmir-cli -n '__fish_seen_subcommand_from check' -F
 
+complete -c talmir-cli -n __fish_use_subcommand -a apply -d 'Change creature files as a table says'
+complete -c talmir-cli -n '__fish_seen_subcommand_from apply' -l write -d 'Write the files that change'
+complete -c talmir-cli -n '__fish_seen_subcommand_from apply' -l diff -d 'Print the changed lines'
+complete -c talmir-cli -n '__fish_seen_subcommand_from apply' -l json -d 'Print one JSON object a line and file'
+complete -c talmir-cli -n '__fish_seen_subcommand_from apply' -F
+
 complete -c talmir-cli -n __fish_use_subcommand -a run -d 'Play a script of user actions'
 complete -c talmir-cli -n '__fish_seen_subcommand_from run' -l lang -x -a 'EN RU' -d 'Language at the start'
 complete -c talmir-cli -n '__fish_seen_subcommand_from run' -l keep-going -d 'Go on behind what cannot be done'
