@@ -107,6 +107,46 @@ struct Messages {
     QString MsgYes;
     QString MsgNo;
 
+    // Where the creature stands in the mod: deviation in percent (%1), its tier (%2); its place
+    // (%1) among so many (%2).
+    QString StandingDeviation;
+    QString StandingPlace;
+    QString StandingUncomputed;
+    QString StandingNoPower;
+    QString StandingNoTier;
+
+    // The window of the survey. An ampersand stands before the letter that Alt reaches.
+    QString SurveyTitle;
+    QString SurveyFolder;
+    QString SurveyArchives;
+    QString SurveyReload;
+    QString SurveyUnload;
+    QString SurveyCsv;
+    QString SurveyHtml;
+    QString SurveyFilter;
+    QString SurveyFilterHint;
+    QString SurveyTier;
+    QString SurveyTown;
+    QString SurveyAll;
+    QString SurveyOutliers;
+    QString SurveyOutliersTip;
+    QString SurveyShown;
+    QString SurveyRefused;
+    QString SurveyCreatures;
+    QString SurveyFindings;
+    QString SurveyEmpty;
+    QString SurveyNothing;
+    QString SurveyNoMatch;
+    QString SurveyPacked;
+    QString SurveyWalking;
+    QString SurveyReading;
+    QString SurveyPicture;
+    QString SurveyArchiveFiles;
+    QString SurveyPanel;
+    QString SurveyFindingSeverity;
+    QString SurveyFindingPlace;
+    QString SurveyFindingWords;
+
     // How a result is named for those who cannot see where it stands: what it is (%1), the figure.
     QString FigureByRolvane;
     QString FigureByHesperin;
