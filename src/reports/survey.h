@@ -3,6 +3,7 @@
 #pragma once
 
 #include "creature_files/mod.h"
+#include "model/formulas.h"
 #include "reports/finding.h"
 #include "reports/mod_scale.h"
 

@@ -1,0 +1,116 @@
+#include "reports/deviation_labels.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Hesperin {
+
+namespace {
+
+constexpr double LabelHeight = 13;
+constexpr double BesideGap = 2;   ///< between point and name
+constexpr qsizetype Longest = 24; ///< characters of a name
+
+/// The name, cut so that it fits the panel.
+QString Fitting(const QString& name, double room) {
+    const QString ellipsis(QChar(0x2026));
+    QString text = name.size() > Longest ? name.first(Longest - 1) + ellipsis : name;
+    while (text.size() > 1 && WidthInPicture(text) > room)
+        text = text.first(text.size() - 2) + ellipsis;
+    if (text.size() > 1 && text[text.size() - 2].isHighSurrogate())
+        text.remove(text.size() - 2, 1);
+    return text;
+}
+
+/// Places for a name of that size, the best first: beside the point, slightly above or below,
+/// over and under it.
+std::vector<QRectF> PlacesBeside(const DeviationPoint& point, double radius, double width) {
+    const double right = point.x + radius + BesideGap;
+    const double left = point.x - radius - BesideGap - width;
+    const double middle = point.y - LabelHeight / 2;
+    std::vector<QRectF> places;
+    for (const double shift : {0.0, -0.45, 0.45, -0.8, 0.8})
+        for (const double x : {right, left})
+            places.emplace_back(x, middle + shift * LabelHeight, width, LabelHeight);
+    const double over = point.y - radius - LabelHeight;
+    for (const double y : {over, point.y + radius})
+        for (const double part : {0.5, 0.2, 0.8})
+            places.emplace_back(point.x - width * part, y, width, LabelHeight);
+    return places;
+}
+
+/// What is taken in a panel: its points, and the names that have been placed.
+class TakenPlaces {
+public:
+    TakenPlaces(const DeviationPanel& ofPanel, double ofPoint)
+        : panel(ofPanel), free(ofPanel.place.adjusted(1, 1, -1, -1)), radius(ofPoint) {}
+
+    bool IsFree(const QRectF& place) const {
+        return free.contains(place) &&
+               std::none_of(names.begin(), names.end(),
+                            [&](const QRectF& name) { return name.intersects(place); }) &&
+               !HidesAPoint(place);
+    }
+
+    void Take(const QRectF& place) { names.push_back(place); }
+
+private:
+    bool HidesAPoint(const QRectF& place) const {
+        const auto& points = panel.points; // from the top
+        const auto first =
+            std::partition_point(points.begin(), points.end(), [&](const DeviationPoint& point) {
+                return point.y < place.top() - radius;
+            });
+        for (auto point = first; point != points.end() && point->y <= place.bottom() + radius;
+             ++point) {
+            const double x = std::clamp(point->x, place.left(), place.right());
+            const double y = std::clamp(point->y, place.top(), place.bottom());
+            if (std::hypot(point->x - x, point->y - y) < radius)
+                return true;
+        }
+        return false;
+    }
+
+    const DeviationPanel& panel;
+    QRectF free;
+    double radius;
+    std::vector<QRectF> names;
+};
+
+} // namespace
+
+double WidthInPicture(const QString& text) {
+    constexpr double mean = 0.6 * DeviationFontSize;
+    constexpr char16_t firstWide = 0x1100; // from where on characters are as wide as high
+    const auto wide = std::count_if(text.begin(), text.end(),
+                                    [](QChar character) { return character >= QChar(firstWide); });
+    return mean * static_cast<double>(text.size()) +
+           (DeviationFontSize - mean) * static_cast<double>(wide);
+}
+
+void PlaceLabels(DeviationPanel& panel, double radius, const Survey& survey) {
+    std::vector<DeviationPoint*> named;
+    for (DeviationPoint& point : panel.points)
+        if (point.outlier || point.current)
+            named.push_back(&point);
+    std::stable_sort(named.begin(), named.end(),
+                     [](const DeviationPoint* one, const DeviationPoint* other) {
+                         return one->current != other->current
+                                    ? one->current
+                                    : std::abs(one->deviation) > std::abs(other->deviation);
+                     });
+    TakenPlaces taken(panel, radius);
+    for (DeviationPoint* point : named) {
+        const QString name =
+            Fitting(ShownName(survey.rows[point->row]), panel.place.width() - 2 * BesideGap);
+        for (const QRectF& place : PlacesBeside(*point, radius, WidthInPicture(name)))
+            if (taken.IsFree(place)) {
+                taken.Take(place);
+                point->label = name;
+                point->labelPlace = place;
+                break;
+            }
+    }
+}
+
+} // namespace Hesperin
