@@ -143,6 +143,11 @@ struct Messages {
     QString SurveyPicture;
     QString SurveyArchiveFiles;
     QString SurveyPanel;
+    QString SurveyCsvFiles;
+    QString SurveyHtmlFiles;
+    QString SurveySort;
+    QString SurveyPanelCount;
+    QString SurveyPanelScale;
     QString SurveyFindingSeverity;
     QString SurveyFindingPlace;
     QString SurveyFindingWords;

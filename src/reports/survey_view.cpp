@@ -115,6 +115,14 @@ QStringList SurveyView::Towns() const {
     return sorted;
 }
 
+Survey SurveyView::OnlyShown() const {
+    Survey part = Whole();
+    part.rows.clear();
+    for (const std::size_t row : shown)
+        part.rows.push_back(Whole().rows[row]);
+    return part;
+}
+
 std::vector<std::size_t> SurveyView::FindingsShown() const {
     QSet<QString> files;
     for (const std::size_t row : shown)

@@ -1,12 +1,9 @@
 // Which creatures of a survey are shown, and in which order.
 #pragma once
 
-#include "reports/survey.h"
+#include "reports/deviation_picture.h"
 
 namespace Hesperin {
-
-/// An outlier deviates by more than this, in percent, either way.
-inline constexpr double OutlierPercent = 25;
 
 bool IsOutlier(const SurveyRow& row);
 
@@ -46,6 +43,9 @@ public:
     // What there is to choose from.
     std::vector<std::int16_t> Tiers() const;
     QStringList Towns() const;
+
+    /// The survey with no rows but those shown, in their order.
+    Survey OnlyShown() const;
 
     /// The findings in the files shown, and those of the whole mod.
     std::vector<std::size_t> FindingsShown() const;

@@ -90,7 +90,8 @@ QVariant SurveyTableModel::headerData(int section, Qt::Orientation orientation, 
     case Qt::DisplayRole:
         return ColumnWords(column, program.state.LanguageId);
     case Qt::ToolTipRole:
-        return HeadingOf(column);
+        return QString(HeadingOf(column) + QLatin1String(": ") +
+                       program.state.messages.SurveySort);
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(Qt::AlignVCenter |
                                    (HoldsNumbers(column) ? Qt::AlignRight : Qt::AlignLeft));
