@@ -1,36 +1,28 @@
 #include "creature_files/creature_folder.h"
 
 #include "creature_files/document.h"
+#include "creature_files/folder_walk.h"
+#include "creature_files/mod.h"
 #include "system/read_file.h"
 
-#include <QDirIterator>
 #include <QFileInfo>
-#include <QXmlStreamReader>
 
 #include <algorithm>
 
 namespace Hesperin {
 
-namespace {
-
-/// Whether the document is known to have another root.
-bool IsOtherDocument(const QString& path) {
-    const auto content = ReadFile(path, LargestCreatureFile);
-    if (!content)
-        return false;
-    QXmlStreamReader reader(*content);
-    return reader.readNextStartElement() && reader.qualifiedName() != QLatin1String("Creature");
-}
-
-} // namespace
-
 QStringList CreatureFilesBelow(const QString& folder) {
+    const QString root = folder.endsWith(u'/') ? folder : folder + u'/';
     QStringList paths;
-    QDirIterator files(folder, {QStringLiteral("*.xdb")}, QDir::Files,
-                       QDirIterator::Subdirectories);
-    while (files.hasNext())
-        if (const QString path = files.next(); !IsOtherDocument(path))
-            paths.append(path);
+    FolderVisitor visitor;
+    visitor.file = [&](const QString& path) {
+        if (!IsDocumentName(path))
+            return;
+        const auto content = ReadFile(root + path, LargestCreatureFile);
+        if (!content || !IsOtherDocument(*content))
+            paths.append(root + path);
+    };
+    WalkFolder(folder, visitor);
     std::sort(paths.begin(), paths.end());
     return paths;
 }

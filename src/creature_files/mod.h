@@ -20,7 +20,7 @@ struct ModFile {
     std::size_t source{}; ///< which of the paths it comes from, from 0
 };
 
-/// A place of which nothing could be had: a folder, an archive.
+/// A place of which nothing could be had: a folder, an archive, a path that leads nowhere.
 struct RefusedPlace {
     QString path;
     Error error;
@@ -29,15 +29,17 @@ struct RefusedPlace {
 class Mod {
 public:
     /// Walks through `paths`: files, folders, and the game's archives (.pak, .h5u). A link given as
-    /// a path is followed, links to folders below it are not. Of several documents of one inner
-    /// path, letter case not counting, the one of the last path stays. `goOn` is asked now and
-    /// then; false ends the walk.
+    /// a path is followed, links to folders below it are not; nor are hidden files and folders, and
+    /// archives that a folder holds, looked into. Of several documents of one inner path, letter
+    /// case not counting, the one of the last path stays. `goOn` is asked now and then; false ends
+    /// the walk.
     explicit Mod(const QStringList& paths, const std::function<bool()>& goOn = {});
     ~Mod();
     Mod(const Mod&) = delete;
     Mod& operator=(const Mod&) = delete;
 
-    /// Every .xdb, whatever its root, in the order of the inner paths' code units.
+    /// Every .xdb, whatever its root, and the files named alone, in the order of the inner paths'
+    /// code units.
     const std::vector<ModFile>& Files() const { return files; }
 
     const std::vector<RefusedPlace>& Refused() const { return refused; }
@@ -50,18 +52,27 @@ public:
     /// by several threads at once.
     Result<QByteArray> Read(const ModFile& file, qint64 limit) const;
 
+    /// Its first bytes, `count` at most. May be called by several threads at once.
+    Result<QByteArray> ReadStart(const ModFile& file, qint64 count) const;
+
     /// The document of that inner path, letter case not counting; null when there is none.
     const ModFile* Find(const QString& path) const;
 
 private:
-    struct Sources;
+    class Walk;
+    struct Contents;
 
     std::vector<ModFile> files;
     std::vector<RefusedPlace> refused;
-    std::unique_ptr<Sources> sources;
+    std::unique_ptr<Contents> contents;
 };
 
-/// Whether the document is known to have another root than Creature.
+/// Whether a file of that name is a document: *.xdb in any letter case.
+inline bool IsDocumentName(QStringView name) {
+    return name.endsWith(u".xdb", Qt::CaseInsensitive);
+}
+
+/// Whether the document is known to have another root than Creature. Its first bytes will do.
 bool IsOtherDocument(const QByteArray& bytes);
 
 /// Calls `visit` for each of `count` places from 0, with `jobs` threads at once (0: one for each

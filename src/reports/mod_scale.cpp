@@ -1,26 +1,10 @@
 #include "reports/mod_scale.h"
 
-#include "creature_files/creature_folder.h"
-#include "creature_files/document.h"
-#include "creature_files/reader.h"
-#include "model/evaluation.h"
-#include "text/numbers.h"
+#include "reports/survey.h"
 
 #include <algorithm>
 
 namespace Hesperin {
-
-namespace {
-
-/// The figure that the file has, which may lie outside the 16 bits that are read of it.
-double InFile(const ReadCreature& read, const FigureInFile& row) {
-    for (const LimitedNumber& limited : read.limited)
-        if (limited.element == row.element)
-            return TextToNumber(limited.text);
-    return read.figures.*row.value;
-}
-
-} // namespace
 
 const std::vector<double>* ModScale::RatiosOf(std::int16_t tier, Figure figure) const {
     if (tier < 1 || static_cast<std::size_t>(tier) >= Tiers)
@@ -50,23 +34,9 @@ std::size_t ModScale::CountOf(std::int16_t tier, Figure figure) const {
 }
 
 ModScale ScaleOf(const QStringList& paths) {
-    ModScale scale;
-    for (const QString& file : CreatureFilesAt(paths)) {
-        const auto document = LoadCreatureDocument(file);
-        if (!document)
-            continue;
-        const ReadCreature read = ReadCreatureText(document->text, EmptyCreature());
-        const Evaluation evaluation = Evaluate(EnteredOf(read.creature));
-        if (!evaluation.figures)
-            continue;
-        const std::int16_t tier =
-            RoundTo16Bits(TextToNumber(read.creature.Choices[ListField::Tier].text));
-        for (const FigureInFile& row : FiguresInFile)
-            scale.Add(tier, row.figure,
-                      ResultOf(evaluation.powers, *evaluation.figures, Method::Average, row.figure),
-                      InFile(read, row));
-    }
-    return scale;
+    SurveyWish wish;
+    wish.paths = paths;
+    return TakeSurvey(wish).scale;
 }
 
 } // namespace Hesperin

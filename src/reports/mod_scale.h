@@ -32,8 +32,8 @@ private:
         ratios;
 };
 
-/// The scale of the creature files named and of those below the folders named; what can't be read
-/// has no part in it.
+/// The scale of the mod that these files, folders and archives are; what can't be read has no part
+/// in it.
 ModScale ScaleOf(const QStringList& paths);
 
 } // namespace Hesperin

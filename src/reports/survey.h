@@ -72,7 +72,12 @@ struct SurveyRow {
     bool packed = false; ///< lies in an archive: can't be opened in the window
     std::array<QString, TextColumns> texts;
     std::int16_t tier = 0; ///< its own CreatureTier, 0 when that can't be read
-    double power = 0;      ///< its own Power as a number, which may lie outside 16 bits
+
+    // Its own figures as numbers, which may lie outside 16 bits.
+    double power = 0;
+    double experience = 0;
+    double growth = 0;
+    double gold = 0;
 
     Powers powers;                  ///< unless there is a problem
     std::optional<Figures> figures; ///< none with a problem or a Power of 0
@@ -82,7 +87,9 @@ struct SurveyRow {
     std::optional<double> deviation; ///< in percent, one decimal
     std::optional<Error> problem;
 
+    /// What stands in the file; of a column up to Abilities.
     const QString& Text(Column column) const { return texts[static_cast<std::size_t>(column)]; }
+    QString& Text(Column column) { return texts[static_cast<std::size_t>(column)]; }
     const QString& File() const { return Text(Column::File); }
     const QString& Name() const { return Text(Column::Name); }
 
@@ -90,7 +97,8 @@ struct SurveyRow {
     std::optional<double> Number(Column column) const;
 };
 
-/// What the cell shows, without regard to the locale; of a problem its words.
+/// What the cell shows, without regard to the locale; of a problem its words. The scale is rounded,
+/// Number gives it whole.
 QString CellText(const SurveyRow& row, Column column, const Messages& messages);
 
 struct Survey {
@@ -118,7 +126,8 @@ struct SurveyProgress {
 
 Survey TakeSurvey(const SurveyWish& wish, SurveyProgress* progress = nullptr);
 
-/// The row of one document; scale and deviation are still lacking.
+/// The row of one document, whose problem may be that it is no creature; scale and deviation are
+/// still lacking.
 SurveyRow RowOf(const ModFile& file, const Result<QByteArray>& bytes);
 
 /// Deviation of a creature from its tier, in percent to one decimal: how far computed to own Power

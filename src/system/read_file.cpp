@@ -26,4 +26,11 @@ Result<QByteArray> ReadFile(const QString& path, qint64 limit) {
     return bytes;
 }
 
+Result<QByteArray> ReadFileStart(const QString& path, qint64 count) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return ErrorOf(file.errorString());
+    return file.read(count);
+}
+
 } // namespace Hesperin

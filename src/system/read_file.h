@@ -11,4 +11,7 @@ namespace Hesperin {
 /// waiting, are refused unopened.
 Result<QByteArray> ReadFile(const QString& path, qint64 limit);
 
+/// Its first bytes, `count` at most; of a file that ReadFile has looked at.
+Result<QByteArray> ReadFileStart(const QString& path, qint64 count);
+
 } // namespace Hesperin

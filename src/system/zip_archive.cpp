@@ -74,74 +74,118 @@ struct ZipArchive::Reader {
     unzFile zip;
 };
 
-ZipArchive::ZipArchive(const QString& path, const QStringList& endings)
-    : reader(std::make_unique<Reader>(path)) {
-    if (reader->zip != nullptr)
-        ReadNames(endings);
-    else if (reader->file.error() != QFileDevice::NoError)
+ZipArchive::ZipArchive(const QString& place, const QStringList& endings) : path(place) {
+    auto reader = std::make_unique<Reader>(path);
+    const bool isOpen = reader->zip != nullptr;
+    if (!isOpen && reader->file.error() != QFileDevice::NoError)
         fault = ErrorOf(reader->file.errorString());
-    else
+    else if (!isOpen)
         fault = Error{Error::What::NotAnArchive};
+    idle.push_back(std::move(reader));
+    if (isOpen)
+        ReadNames(endings);
 }
 
 ZipArchive::~ZipArchive() = default;
 
-QString ZipArchive::Folded(QString name) {
+QString ZipArchive::WithSlashes(QString name) {
     name.replace(u'\\', u'/');
     while (name.startsWith(QLatin1String("./")))
         name.remove(0, 2);
     while (name.startsWith(u'/'))
         name.remove(0, 1);
-    return name.toCaseFolded();
+    return name;
 }
 
 /// Of several entries of one name the last counts, as it was added last.
 void ZipArchive::ReadNames(const QStringList& endings) {
+    const unzFile zip = idle.front()->zip;
     std::array<char, 1024> name{}; // a longer one is none of ours
-    int step = unzGoToFirstFile(reader->zip);
-    for (; step == UNZ_OK; step = unzGoToNextFile(reader->zip)) {
+    int step = unzGoToFirstFile(zip);
+    for (; step == UNZ_OK; step = unzGoToNextFile(zip)) {
         unz_file_info64 info{};
-        if (unzGetCurrentFileInfo64(reader->zip, &info, name.data(), name.size(), nullptr, 0,
-                                    nullptr, 0) != UNZ_OK)
+        if (unzGetCurrentFileInfo64(zip, &info, name.data(), name.size(), nullptr, 0, nullptr, 0) !=
+            UNZ_OK)
             break;
         const auto length = static_cast<std::size_t>(info.size_filename);
         if (length >= name.size())
             continue;
-        const QString folded =
-            Folded(QString::fromUtf8(name.data(), static_cast<qsizetype>(length)));
+        const QString spelled =
+            WithSlashes(QString::fromUtf8(name.data(), static_cast<qsizetype>(length)));
+        const QString folded = spelled.toCaseFolded();
         unz64_file_pos place{};
         const bool wanted = std::any_of(endings.begin(), endings.end(),
                                         [&](const QString& end) { return folded.endsWith(end); });
-        if (wanted && unzGetFilePos64(reader->zip, &place) == UNZ_OK)
-            places.insert(folded, {place.pos_in_zip_directory, place.num_of_file});
+        if (wanted && unzGetFilePos64(zip, &place) == UNZ_OK)
+            places.insert(folded, {place.pos_in_zip_directory, place.num_of_file,
+                                   spelled == folded ? QString() : spelled});
     }
     if (step != UNZ_END_OF_LIST_OF_FILE)
         fault = Error{Error::What::ArchiveDamaged};
 }
 
-Result<QByteArray> ZipArchive::Read(const QString& name, qint64 limit) {
+QStringList ZipArchive::Names() const {
+    QStringList names;
+    names.reserve(places.size());
+    for (auto entry = places.begin(); entry != places.end(); ++entry)
+        names.append(entry->spelled.isEmpty() ? entry.key() : entry->spelled);
+    return names;
+}
+
+/// The size that the archive tells bounds what is unpacked, so that no more than `limit` ever is.
+Result<QByteArray> ZipArchive::Unpack(Reader& reader, const QString& name, qint64 limit,
+                                      Wish wish) const {
     constexpr uLong encrypted = 1;
     const Error damaged{Error::What::DamagedInArchive};
-    const Place place = places.value(Folded(name));
-    const unz64_file_pos position{place.inDirectory, place.number};
+    const auto place = places.constFind(Folded(name));
+    if (place == places.constEnd() || reader.zip == nullptr)
+        return damaged;
+    const unz64_file_pos position{place->inDirectory, place->number};
     unz_file_info64 info{};
-    if (unzGoToFilePos64(reader->zip, &position) != UNZ_OK ||
-        unzGetCurrentFileInfo64(reader->zip, &info, nullptr, 0, nullptr, 0, nullptr, 0) != UNZ_OK)
+    if (unzGoToFilePos64(reader.zip, &position) != UNZ_OK ||
+        unzGetCurrentFileInfo64(reader.zip, &info, nullptr, 0, nullptr, 0, nullptr, 0) != UNZ_OK)
         return damaged;
     if ((info.flag & encrypted) != 0)
         return Error{Error::What::Encrypted};
-    if (unzOpenCurrentFile(reader->zip) != UNZ_OK)
-        return damaged;
-    QByteArray bytes(limit + 1, Qt::Uninitialized); // whatever size the archive tells
-    const int count =
-        unzReadCurrentFile(reader->zip, bytes.data(), static_cast<unsigned>(bytes.size()));
-    const int closed = unzCloseCurrentFile(reader->zip); // compares the checksum
-    if (count > limit)
+    const bool larger = info.uncompressed_size > static_cast<ZPOS64_T>(limit);
+    if (larger && wish == Wish::Whole)
         return Error{Error::What::FileTooLarge, {}, QString::number(limit)};
-    if (count < 0 || closed != UNZ_OK)
+    if (unzOpenCurrentFile(reader.zip) != UNZ_OK)
         return damaged;
-    bytes.truncate(count);
+    const qint64 size = larger ? limit : static_cast<qint64>(info.uncompressed_size);
+    QByteArray bytes(size, Qt::Uninitialized);
+    const int count =
+        unzReadCurrentFile(reader.zip, bytes.data(), static_cast<unsigned>(bytes.size()));
+    const int closed = unzCloseCurrentFile(reader.zip); // compares the checksum of a whole file
+    if (count != size || closed != UNZ_OK)
+        return damaged;
     return bytes;
+}
+
+/// By a reader that no other thread is using.
+Result<QByteArray> ZipArchive::UnpackByAny(const QString& name, qint64 limit, Wish wish) const {
+    std::unique_ptr<Reader> reader;
+    {
+        const std::scoped_lock lock(mutex);
+        if (!idle.empty()) {
+            reader = std::move(idle.back());
+            idle.pop_back();
+        }
+    }
+    if (!reader)
+        reader = std::make_unique<Reader>(path);
+    auto bytes = Unpack(*reader, name, limit, wish);
+    const std::scoped_lock lock(mutex);
+    idle.push_back(std::move(reader));
+    return bytes;
+}
+
+Result<QByteArray> ZipArchive::Read(const QString& name, qint64 limit) const {
+    return UnpackByAny(name, limit, Wish::Whole);
+}
+
+Result<QByteArray> ZipArchive::ReadStart(const QString& name, qint64 count) const {
+    return UnpackByAny(name, count, Wish::Start);
 }
 
 } // namespace Hesperin

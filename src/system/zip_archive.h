@@ -7,6 +7,8 @@
 #include <QStringList>
 
 #include <memory>
+#include <mutex>
+#include <vector>
 
 namespace Hesperin {
 
@@ -25,9 +27,15 @@ public:
 
     bool Has(const QString& name) const { return places.contains(Folded(name)); }
 
+    /// The names that were looked up, as the archive spells them but with slashes, in any order.
+    QStringList Names() const;
+
     /// The bytes of the file `name`, which must be there, or why they can't be had: more than
-    /// `limit`, encrypted, damaged.
-    Result<QByteArray> Read(const QString& name, qint64 limit);
+    /// `limit`, encrypted, damaged. May be called by several threads at once.
+    Result<QByteArray> Read(const QString& name, qint64 limit) const;
+
+    /// The first bytes of it, `count` at most.
+    Result<QByteArray> ReadStart(const QString& name, qint64 count) const;
 
 private:
     struct Reader;
@@ -35,12 +43,20 @@ private:
     struct Place {
         quint64 inDirectory;
         quint64 number;
+        QString spelled; ///< empty: as folded
     };
 
-    static QString Folded(QString name);
-    void ReadNames(const QStringList& endings);
+    enum class Wish : std::uint8_t { Whole, Start };
 
-    std::unique_ptr<Reader> reader;
+    static QString WithSlashes(QString name);
+    static QString Folded(const QString& name) { return WithSlashes(name).toCaseFolded(); }
+    void ReadNames(const QStringList& endings);
+    Result<QByteArray> Unpack(Reader& reader, const QString& name, qint64 limit, Wish wish) const;
+    Result<QByteArray> UnpackByAny(const QString& name, qint64 limit, Wish wish) const;
+
+    QString path;
+    mutable std::mutex mutex; ///< of `idle`
+    mutable std::vector<std::unique_ptr<Reader>> idle;
     QHash<QString, Place> places;
     Failure fault;
 };

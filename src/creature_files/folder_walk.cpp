@@ -1,0 +1,34 @@
+#include "creature_files/folder_walk.h"
+
+#include <QDirIterator>
+#include <QFileInfo>
+
+#include <vector>
+
+namespace Hesperin {
+
+void WalkFolder(const QString& folder, const FolderVisitor& visitor) {
+    const QString root = folder.endsWith(u'/') ? folder : folder + u'/';
+    std::vector<QString> waiting{QString()}; // folders, each with a slash behind it
+    while (!waiting.empty() && (!visitor.goOn || visitor.goOn())) {
+        const QString inner = std::move(waiting.back());
+        waiting.pop_back();
+        if (!QFileInfo(root + inner).isReadable()) {
+            if (visitor.refused)
+                visitor.refused(inner.chopped(inner.isEmpty() ? 0 : 1),
+                                Error{Error::What::NotAllowed});
+            continue;
+        }
+        QDirIterator entries(root + inner, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot);
+        while (entries.hasNext()) {
+            entries.next();
+            const QFileInfo entry = entries.fileInfo();
+            if (!entry.isDir())
+                visitor.file(inner + entries.fileName());
+            else if (!entry.isSymLink() && !entry.isJunction())
+                waiting.push_back(inner + entries.fileName() + u'/');
+        }
+    }
+}
+
+} // namespace Hesperin

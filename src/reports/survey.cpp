@@ -1,0 +1,160 @@
+#include "reports/survey.h"
+
+#include "creature_files/document.h"
+#include "creature_files/reader.h"
+#include "model/evaluation.h"
+#include "reports/survey_texts.h"
+#include "text/numbers.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Hesperin {
+
+namespace {
+
+/// By Figure.
+constexpr double SurveyRow::*OwnFigures[] = {&SurveyRow::power, &SurveyRow::experience,
+                                             &SurveyRow::growth, &SurveyRow::gold};
+static_assert(std::size(OwnFigures) == static_cast<std::size_t>(Figure::Count));
+
+/// The figure that the file has, which may lie outside the 16 bits that are read of it.
+double InFile(const ReadCreature& read, const FigureInFile& figure) {
+    for (const LimitedNumber& limited : read.limited)
+        if (limited.element == figure.element)
+            return TextToNumber(limited.text);
+    return read.figures.*figure.value;
+}
+
+void Compute(const QString& normalised, SurveyRow& row) {
+    const ReadCreature read = ReadCreatureText(normalised, EmptyCreature());
+    const Evaluation evaluation = Evaluate(EnteredOf(read.creature));
+    row.Text(Column::Name) = read.name.value_or(QString());
+    if (!read.missing.contains(QLatin1String("CreatureTier")))
+        row.tier = RoundTo16Bits(TextToNumber(read.creature.Choices[ListField::Tier].text));
+    for (const FigureInFile& figure : FiguresInFile)
+        row.*OwnFigures[static_cast<std::size_t>(figure.figure)] = InFile(read, figure);
+    row.powers = evaluation.powers;
+    row.figures = evaluation.figures;
+    row.product = evaluation.validated.parameters.AbilityProduct;
+    if (evaluation.advice)
+        row.advised = evaluation.advice->AdvisedTier;
+}
+
+void AddTo(ModScale& scale, const SurveyRow& row) {
+    if (!row.figures)
+        return;
+    for (const FigureInFile& figure : FiguresInFile)
+        scale.Add(row.tier, figure.figure,
+                  ResultOf(row.powers, *row.figures, Method::Average, figure.figure),
+                  row.*OwnFigures[static_cast<std::size_t>(figure.figure)]);
+}
+
+/// One survey while it is taken.
+class Taking {
+public:
+    Taking(const SurveyWish& asked, SurveyProgress& told) : wish(asked), progress(told) {}
+
+    Survey Take() {
+        const auto goOn = [this] { return !progress.cancel; };
+        const Mod mod(wish.paths, goOn);
+        rows.resize(mod.Files().size());
+        progress.all = mod.Files().size();
+        VisitAll(mod.Files().size(), wish.jobs, [&](std::size_t at) {
+            LookAt(mod, at);
+            ++progress.done;
+            return goOn();
+        });
+        Survey survey;
+        survey.cancelled = progress.cancel;
+        if (survey.cancelled)
+            return survey;
+        survey.refused = mod.Refused();
+        survey.other = other;
+        Collect(survey);
+        return survey;
+    }
+
+private:
+    /// A thread writes the row of its own file alone.
+    void LookAt(const Mod& mod, std::size_t at) {
+        const ModFile& file = mod.Files()[at];
+        const auto bytes = mod.Read(file, LargestCreatureFile);
+        auto row = std::make_unique<SurveyRow>(RowOf(file, bytes));
+        if (row->problem && IsOther(mod, file, bytes, *row->problem))
+            ++other;
+        else
+            rows[at] = std::move(row);
+    }
+
+    /// Whether what can't be used is no creature in the first place.
+    static bool IsOther(const Mod& mod, const ModFile& file, const Result<QByteArray>& bytes,
+                        const Error& problem) {
+        constexpr qint64 enoughForTheRoot = 1 << 16;
+        if (problem.what == Error::What::WrongRoot)
+            return true;
+        if (bytes)
+            return IsOtherDocument(*bytes);
+        if (problem.what != Error::What::FileTooLarge)
+            return false;
+        const auto start = mod.ReadStart(file, enoughForTheRoot);
+        return start && IsOtherDocument(*start);
+    }
+
+    void Collect(Survey& survey) {
+        survey.rows.reserve(rows.size() - other);
+        for (std::unique_ptr<SurveyRow>& row : rows)
+            if (row) {
+                AddTo(survey.scale, *row);
+                survey.rows.push_back(std::move(*row));
+                row.reset();
+            }
+        std::array<std::optional<double>, 9> scales; // by tier; no creature has tier 0
+        for (std::size_t tier = 1; tier < scales.size(); ++tier)
+            scales[tier] = survey.scale.Of(static_cast<std::int16_t>(tier), Figure::Power);
+        for (SurveyRow& row : survey.rows) {
+            const auto tier = static_cast<std::size_t>(std::max<int>(row.tier, 0));
+            row.scale = tier < scales.size() ? scales[tier] : std::nullopt;
+            if (row.figures)
+                row.deviation = DeviationOf(row.figures->PowerAverage, row.power, row.scale);
+        }
+        // Findings are looked for here, where every file's row and the mod are at hand.
+    }
+
+    const SurveyWish& wish;
+    SurveyProgress& progress;
+    std::vector<std::unique_ptr<SurveyRow>> rows; ///< by file; null: another document
+    std::atomic<std::size_t> other{0};
+};
+
+} // namespace
+
+std::optional<double> DeviationOf(double averagePower, double power, std::optional<double> scale) {
+    constexpr double steps = 1000; // of a tenth of a percent
+    if (averagePower <= 0 || power <= 0 || scale.value_or(0) <= 0)
+        return std::nullopt;
+    return std::round((averagePower / power / *scale - 1) * steps) / (steps / 100);
+}
+
+SurveyRow RowOf(const ModFile& file, const Result<QByteArray>& bytes) {
+    SurveyRow row;
+    row.place = file.place;
+    row.packed = file.packed;
+    row.Text(Column::File) = file.path;
+    const auto normalised = bytes ? NormaliseCreature(*bytes) : Result<QString>(bytes.Why());
+    if (!normalised) {
+        row.problem = normalised.Why();
+        row.problem->doing = Error::Doing::Opening;
+        return row;
+    }
+    ReadElementTexts(*normalised, row);
+    Compute(*normalised, row);
+    return row;
+}
+
+Survey TakeSurvey(const SurveyWish& wish, SurveyProgress* progress) {
+    SurveyProgress own;
+    return Taking(wish, progress != nullptr ? *progress : own).Take();
+}
+
+} // namespace Hesperin
