@@ -65,7 +65,7 @@ void SurveyBar::Offer(const SurveyView& view) {
     for (const std::int16_t one : view.Tiers())
         tiers.append(QString::number(one));
     Refill(*tier, tiers);
-    Refill(*town, all + view.Towns());
+    Refill(*town, QStringList{all} + view.Towns());
 }
 
 void SurveyBar::ShowCount(const SurveyView& view) {
