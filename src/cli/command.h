@@ -20,6 +20,7 @@ struct Command {
 };
 
 extern const Command CalcCommand;
+extern const Command CheckCommand;
 extern const Command RunCommand;
 extern const Command SetCommand;
 extern const Command TextsCommand;

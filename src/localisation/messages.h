@@ -106,6 +106,11 @@ struct Messages {
     QString MsgCancel;
     QString MsgYes;
     QString MsgNo;
+    QString MsgSeverityError;
+    QString MsgSeverityWarning;
+    QString MsgSeverityNote;
+    QString MsgExpected;
+    QString MsgLinksNotChecked;
 
     // Where the creature stands in the mod: deviation in percent (%1), its tier (%2); its place
     // (%1) among so many (%2).

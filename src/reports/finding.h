@@ -2,8 +2,7 @@
 #pragma once
 
 #include "localisation/messages.h"
-
-#include <QString>
+#include "text/error.h"
 
 #include <span>
 
@@ -34,25 +33,29 @@ enum class Rule : std::uint8_t {
     Count
 };
 
-/// One rule: its name ("token.ability"), how grave a finding is, and why it is one, in the four
-/// languages (null: none).
+/// One rule: its name ("token.ability"), how grave a finding is, why it is one and what was
+/// expected instead, in the four languages (null: none). %1 stands for the `expected` of the
+/// finding.
 struct RuleRow {
     const char* name;
     Severity severity;
     Texts reason;
+    Texts expected;
 };
 
 extern const std::span<const RuleRow> RuleRows; ///< by Rule
 
+/// Its words in a language: finding_text.h.
 struct Finding {
-    Rule rule;
-    Severity severity; ///< that of the rule, but for the note that links were not checked
-    QString file;      ///< inner path; empty: of the whole mod
-    qint64 line = 0;   ///< from 1; 0: no place
+    Rule rule{};
+    Severity severity{}; ///< that of the rule, but for the note that links were not checked
+    QString file;        ///< inner path; empty: of the whole mod
+    qint64 line = 0;     ///< from 1; 0: no place
     qint64 column = 0;
-    QString element;  ///< its path below Creature
+    QString element;  ///< its path below Creature; of an attribute with @ and its name
     QString found;    ///< what stands there
-    QString expected; ///< empty: nothing that could be named
+    QString expected; ///< the word or number for the rule's sentence; empty: none
+    Failure error{};  ///< of a document: why it can't be read
 
     bool operator==(const Finding&) const = default;
 };

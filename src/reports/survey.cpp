@@ -3,6 +3,7 @@
 #include "creature_files/document.h"
 #include "creature_files/reader.h"
 #include "model/evaluation.h"
+#include "reports/check_mod.h"
 #include "reports/survey_texts.h"
 #include "text/numbers.h"
 
@@ -50,6 +51,27 @@ void AddTo(ModScale& scale, const SurveyRow& row) {
                   row.*OwnFigures[static_cast<std::size_t>(figure.figure)]);
 }
 
+Result<QString> Normalised(const Result<QByteArray>& bytes) {
+    auto text = bytes ? NormaliseCreature(*bytes) : Result<QString>(bytes.Why());
+    if (!text)
+        text.Why().doing = Error::Doing::Opening;
+    return text;
+}
+
+SurveyRow RowFrom(const ModFile& file, const Result<QString>& normalised) {
+    SurveyRow row;
+    row.place = file.place;
+    row.packed = file.packed;
+    row.Text(Column::File) = file.path;
+    if (normalised) {
+        ReadElementTexts(*normalised, row);
+        Compute(*normalised, row);
+    } else {
+        row.problem = normalised.Why();
+    }
+    return row;
+}
+
 /// One survey while it is taken.
 class Taking {
 public:
@@ -58,6 +80,8 @@ public:
     Survey Take() {
         const auto goOn = [this] { return !progress.cancel; };
         const Mod mod(wish.paths, goOn);
+        if (wish.findings)
+            check = std::make_unique<ModCheck>(mod, wish.game, goOn);
         rows.resize(mod.Files().size());
         progress.all = mod.Files().size();
         VisitAll(mod.Files().size(), wish.jobs, [&](std::size_t at) {
@@ -80,11 +104,15 @@ private:
     void LookAt(const Mod& mod, std::size_t at) {
         const ModFile& file = mod.Files()[at];
         const auto bytes = mod.Read(file, LargestCreatureFile);
-        auto row = std::make_unique<SurveyRow>(RowOf(file, bytes));
-        if (row->problem && IsOther(mod, file, bytes, *row->problem))
+        const auto normalised = Normalised(bytes);
+        auto row = std::make_unique<SurveyRow>(RowFrom(file, normalised));
+        if (row->problem && IsOther(mod, file, bytes, *row->problem)) {
             ++other;
-        else
-            rows[at] = std::move(row);
+            return;
+        }
+        rows[at] = std::move(row);
+        if (check)
+            check->LookAt(at, bytes ? *bytes : QByteArray(), normalised);
     }
 
     /// Whether what can't be used is no creature in the first place.
@@ -118,11 +146,13 @@ private:
             if (row.figures)
                 row.deviation = DeviationOf(row.figures->PowerAverage, row.power, row.scale);
         }
-        // Findings are looked for here, where every file's row and the mod are at hand.
+        if (check)
+            check->AddTo(survey);
     }
 
     const SurveyWish& wish;
     SurveyProgress& progress;
+    std::unique_ptr<ModCheck> check;              ///< null: no findings are wanted
     std::vector<std::unique_ptr<SurveyRow>> rows; ///< by file; null: another document
     std::atomic<std::size_t> other{0};
 };
@@ -137,19 +167,7 @@ std::optional<double> DeviationOf(double averagePower, double power, std::option
 }
 
 SurveyRow RowOf(const ModFile& file, const Result<QByteArray>& bytes) {
-    SurveyRow row;
-    row.place = file.place;
-    row.packed = file.packed;
-    row.Text(Column::File) = file.path;
-    const auto normalised = bytes ? NormaliseCreature(*bytes) : Result<QString>(bytes.Why());
-    if (!normalised) {
-        row.problem = normalised.Why();
-        row.problem->doing = Error::Doing::Opening;
-        return row;
-    }
-    ReadElementTexts(*normalised, row);
-    Compute(*normalised, row);
-    return row;
+    return RowFrom(file, Normalised(bytes));
 }
 
 Survey TakeSurvey(const SurveyWish& wish, SurveyProgress* progress) {
