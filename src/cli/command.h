@@ -23,6 +23,7 @@ extern const Command CalcCommand;
 extern const Command CheckCommand;
 extern const Command RunCommand;
 extern const Command SetCommand;
+extern const Command TableCommand;
 extern const Command TextsCommand;
 
 } // namespace Hesperin

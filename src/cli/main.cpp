@@ -12,8 +12,8 @@ using namespace Hesperin;
 
 namespace {
 
-const Command* const Commands[] = {&CalcCommand, &SetCommand, &CheckCommand, &RunCommand,
-                                   &TextsCommand};
+const Command* const Commands[] = {&CalcCommand, &SetCommand, &TableCommand,
+                                   &CheckCommand, &RunCommand, &TextsCommand};
 
 QString Overview() {
     QString text = QStringLiteral("Usage: talmir-cli COMMAND [ARGUMENTS]\n"

@@ -10,9 +10,10 @@ Progress::Progress(qsizetype count) : total(count), isTerminal(ComplaintsGoToATe
     timer.start();
 }
 
-void Progress::Step() {
+void Progress::Reach(qsizetype count, qsizetype of) {
     constexpr qint64 pause = 100; // milliseconds between two tellings
-    ++done;
+    done = count;
+    total = of;
     if (!isTerminal || timer.elapsed() < nextAt)
         return;
     nextAt = timer.elapsed() + pause;

@@ -12,7 +12,10 @@ public:
     ~Progress() { Clear(); }
     Q_DISABLE_COPY(Progress)
 
-    void Step();
+    void Step() { Reach(done + 1, total); }
+
+    /// So many of so many are done.
+    void Reach(qsizetype count, qsizetype of);
 
     /// Takes the line away, so that something else can be told.
     void Clear();

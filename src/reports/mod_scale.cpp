@@ -33,6 +33,14 @@ std::size_t ModScale::CountOf(std::int16_t tier, Figure figure) const {
     return known == nullptr ? 0 : known->size();
 }
 
+std::vector<std::int16_t> ModScale::KnownTiers() const {
+    std::vector<std::int16_t> tiers;
+    for (std::int16_t tier = 1; static_cast<std::size_t>(tier) < Tiers; ++tier)
+        if (CountOf(tier, Figure::Power) > 0)
+            tiers.push_back(tier);
+    return tiers;
+}
+
 ModScale ScaleOf(const QStringList& paths) {
     SurveyWish wish;
     wish.paths = paths;

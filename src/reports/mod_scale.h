@@ -23,6 +23,9 @@ public:
     /// The number of creatures behind it.
     std::size_t CountOf(std::int16_t tier, Figure figure) const;
 
+    /// The tiers that have a scale of Power, rising.
+    std::vector<std::int16_t> KnownTiers() const;
+
 private:
     static constexpr std::size_t Tiers = 9; // 1 to 8
 
