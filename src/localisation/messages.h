@@ -157,6 +157,25 @@ struct Messages {
     QString SurveyFindingPlace;
     QString SurveyFindingWords;
 
+    // The survey's page and picture.
+    QString SurveyHeading;
+    QString SurveyCreatures;
+    QString SurveyOutliers;
+    QString SurveyUnread;
+    QString SurveyOther;
+    QString SurveyPicture;
+    QString SurveyPictureMeans;
+    QString SurveyTiers;
+    QString SurveyTier;
+    QString SurveyScale;
+    QString SurveyFilter;
+    QString SurveyShown;
+    QString SurveyOutliersOnly;
+    QString SurveyRefused;
+    QString PictureTier;
+    QString PictureScale;
+    QString PictureCount;
+
     // How a result is named for those who cannot see where it stands: what it is (%1), the figure.
     QString FigureByRolvane;
     QString FigureByHesperin;

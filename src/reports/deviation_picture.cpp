@@ -202,6 +202,12 @@ QString ShownName(const SurveyRow& row) {
     return name.isEmpty() ? row.File().section('/', -1).section('.', 0, 0).simplified() : name;
 }
 
+QString DeviationText(double deviation, int decimals) {
+    const QChar minus(0x2212);
+    QString text = QString::number(deviation, 'f', decimals).replace('-', minus);
+    return (deviation > 0 ? "+" : "") + text + " %";
+}
+
 DeviationPicture LayOutDeviations(const Survey& survey, double width, double height,
                                   const std::optional<std::vector<std::size_t>>& shown,
                                   std::optional<std::size_t> current) {

@@ -18,7 +18,7 @@ struct DeviationPoint {
     bool current = false; ///< the creature of the window
     QString label{};      ///< the name where it is shown: of outliers and the current one, without
                           ///< overlapping; a tool tip names every point
-    QRectF labelPlace{};  ///< the text stands in its middle
+    QRectF labelPlace{}; ///< a text beside the point begins at the point's side, else it is centred
 };
 
 struct DeviationLine {
@@ -58,6 +58,9 @@ inline constexpr double DeviationFontSize = 11;
 
 /// What a creature is called: its name, or that of its file when it has none; on one line.
 QString ShownName(const SurveyRow& row);
+
+/// "+31.2 %", with a minus sign as long as the plus.
+QString DeviationText(double deviation, int decimals = 1);
 
 /// Lays the picture out for a width and height in device-independent pixels. `shown`: the rows
 /// that take part (a filter); none given: all. `current`: the row of the window's creature.

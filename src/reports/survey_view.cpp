@@ -30,24 +30,6 @@ std::optional<std::size_t> FirstRow(const Survey& survey, Matches matches) {
     return static_cast<std::size_t>(row - survey.rows.begin());
 }
 
-/// Sorts places of rows by what `keyOf` gives of a row; those without a key come last.
-template <typename Key, typename KeyOf>
-void SortBy(const std::vector<SurveyRow>& rows, std::vector<std::size_t>& order, bool falling,
-            KeyOf keyOf) {
-    std::vector<std::optional<Key>> keys;
-    keys.reserve(rows.size());
-    for (const SurveyRow& row : rows)
-        keys.push_back(keyOf(row));
-    std::iota(order.begin(), order.end(), std::size_t{0});
-    std::stable_sort(order.begin(), order.end(), [&](std::size_t one, std::size_t other) {
-        const auto& a = keys[one];
-        const auto& b = keys[other];
-        if (!a || !b)
-            return a.has_value() && !b;
-        return falling ? *b < *a : *a < *b;
-    });
-}
-
 } // namespace
 
 bool IsOutlier(const SurveyRow& row) {
@@ -75,17 +57,8 @@ void SurveyView::Filter(const SurveyFilter& wish) {
     Gather();
 }
 
-void SurveyView::Sort(Column column, bool falling, const Messages& messages) {
-    const auto& rows = Whole().rows;
-    if (HoldsNumbers(column)) {
-        SortBy<double>(rows, order, falling,
-                       [column](const SurveyRow& row) { return row.Number(column); });
-    } else {
-        SortBy<QString>(rows, order, falling, [&](const SurveyRow& row) -> std::optional<QString> {
-            const QString text = CellText(row, column, messages).toCaseFolded();
-            return text.isEmpty() ? std::nullopt : std::optional(text);
-        });
-    }
+void SurveyView::Sort(const RowOrder& wish, const Messages& messages) {
+    order = SortedPlaces(Whole().rows, wish, messages);
     Gather();
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "reports/deviation_picture.h"
+#include "reports/table_rows.h"
 
 namespace Hesperin {
 
@@ -30,9 +31,7 @@ public:
 
     void Filter(const SurveyFilter& wish);
 
-    /// Numbers as numbers, texts without regard to letter case, empty cells last both ways; equal
-    /// ones stay in the order of their files.
-    void Sort(Column column, bool falling, const Messages& messages);
+    void Sort(const RowOrder& wish, const Messages& messages);
 
     /// The rows shown, as places in the survey.
     const std::vector<std::size_t>& Shown() const { return shown; }

@@ -82,9 +82,9 @@ void SurveyPages::BuildTable() {
     table->setModel(&rows);
     QHeaderView& heading = *table->horizontalHeader();
     for (int place = 0; place < static_cast<int>(Column::Count); ++place)
-        heading.moveSection(
-            heading.visualIndex(static_cast<int>(ColumnsInOrder()[static_cast<std::size_t>(place)])),
-            place);
+        heading.moveSection(heading.visualIndex(static_cast<int>(
+                                ColumnsInOrder()[static_cast<std::size_t>(place)])),
+                            place);
     heading.setSectionsMovable(true);
     heading.setSectionsClickable(true);
     table->installEventFilter(this);
@@ -118,8 +118,8 @@ void SurveyPages::Load(std::shared_ptr<const Survey> survey) {
     Rearrange([&] {
         view = SurveyView(std::move(survey));
         view.Filter(chosenFilter);
-        if (sortedBy)
-            view.Sort(*sortedBy, falling, program.state.messages);
+        if (order)
+            view.Sort(*order, program.state.messages);
     });
 }
 
@@ -130,12 +130,12 @@ void SurveyPages::Filter(const SurveyFilter& filter) {
 
 /// The first click on a column sorts it rising, the next one falling, and so on.
 void SurveyPages::SortBy(int column) {
-    falling = sortedBy == static_cast<Column>(column) && !falling;
-    sortedBy = static_cast<Column>(column);
+    const bool again = order && order->column == static_cast<Column>(column);
+    order = {static_cast<Column>(column), again && !order->falling};
     table->horizontalHeader()->setSortIndicatorShown(true);
-    table->horizontalHeader()->setSortIndicator(column, falling ? Qt::DescendingOrder
-                                                                : Qt::AscendingOrder);
-    Rearrange([&] { view.Sort(*sortedBy, falling, program.state.messages); });
+    table->horizontalHeader()->setSortIndicator(column, order->falling ? Qt::DescendingOrder
+                                                                       : Qt::AscendingOrder);
+    Rearrange([&] { view.Sort(*order, program.state.messages); });
 }
 
 /// The creature that was chosen stays so while it is shown.
@@ -197,7 +197,8 @@ void SurveyPages::Retranslate() {
     Refresh();
     FitColumns();
     table->setAccessibleName(messages.SurveyCreatures);
-    findingsTable->setAccessibleName(QString(messages.SurveyFindings).remove(QLatin1String(" (%1)")));
+    findingsTable->setAccessibleName(
+        QString(messages.SurveyFindings).remove(QLatin1String(" (%1)")));
     picture->setAccessibleName(messages.SurveyPicture);
 }
 

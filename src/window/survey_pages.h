@@ -53,8 +53,7 @@ private:
     QTableView* findingsTable;
     DeviationView* picture;
     QLabel* hint; ///< in the middle of an empty table
-    std::optional<Column> sortedBy;
-    bool falling = false;
+    std::optional<RowOrder> order;
 };
 
 } // namespace Hesperin
