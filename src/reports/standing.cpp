@@ -20,9 +20,4 @@ std::optional<Standing> StandIn(const Survey& survey, const StandingOf& creature
     return standing;
 }
 
-QString DeviationText(double deviation) {
-    const QString text = QString::number(deviation, 'f', 1);
-    return deviation > 0 ? u'+' + text : text;
-}
-
 } // namespace Hesperin

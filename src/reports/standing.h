@@ -22,7 +22,4 @@ struct Standing {
 /// None when there is no scale in the tier, or one of the two Powers is 0 or less.
 std::optional<Standing> StandIn(const Survey& survey, const StandingOf& creature);
 
-/// A deviation with its sign and one decimal: "+12.5", "0.0".
-QString DeviationText(double deviation);
-
 } // namespace Hesperin

@@ -5,7 +5,6 @@
 #include <QSet>
 
 #include <algorithm>
-#include <cmath>
 #include <numeric>
 
 namespace Hesperin {
@@ -31,10 +30,6 @@ std::optional<std::size_t> FirstRow(const Survey& survey, Matches matches) {
 }
 
 } // namespace
-
-bool IsOutlier(const SurveyRow& row) {
-    return row.deviation && std::abs(*row.deviation) > OutlierPercent;
-}
 
 SurveyView::SurveyView(std::shared_ptr<const Survey> taken) : survey(std::move(taken)) {
     for (const SurveyRow& row : Whole().rows)

@@ -6,8 +6,6 @@
 
 namespace Hesperin {
 
-bool IsOutlier(const SurveyRow& row);
-
 /// What narrows the table. Each choice narrows it further.
 struct SurveyFilter {
     QString words{};       ///< parted by blanks; each must occur in file, name, town or abilities

@@ -1,7 +1,6 @@
 #include "window/deviation_view.h"
 
 #include "app/standing.h"
-#include "reports/standing.h"
 #include "text/fill.h"
 #include "window/fonts.h"
 #include "window/palette.h"
@@ -23,11 +22,6 @@ QFont PictureFont(bool bold) {
     font.setPixelSize(static_cast<int>(DeviationFontSize));
     font.setBold(bold);
     return font;
-}
-
-QString PercentText(double deviation) {
-    const QString sign = deviation > 0 ? QStringLiteral("+") : QString();
-    return sign + QString::number(deviation, 'f', 0) + QStringLiteral(" %");
 }
 
 QColor Faded(QRgb colour, int alpha) {
@@ -123,7 +117,7 @@ void DeviationView::PaintPanel(QPainter& painter, const DeviationPanel& panel) c
         painter.drawLine(QPointF(panel.place.left(), line.y), {panel.place.right(), line.y});
         painter.setPen(QColor(colours.Text));
         painter.drawText(line.labelPlace, Qt::AlignRight | Qt::AlignVCenter | Qt::TextDontClip,
-                         line.labelPlace.isEmpty() ? QString() : PercentText(line.deviation));
+                         line.labelPlace.isEmpty() ? QString() : DeviationText(line.deviation, 0));
     }
     const auto write = [&](const QRectF& place, const QString& words) {
         painter.drawText(place, Qt::AlignCenter, words);
@@ -131,10 +125,10 @@ void DeviationView::PaintPanel(QPainter& painter, const DeviationPanel& panel) c
     painter.setPen(QColor(colours.Text));
     if (panel.scale)
         write(panel.scalePlace,
-              Fill(messages.SurveyPanelScale, {QString::number(*panel.scale, 'f', 2)}));
-    write(panel.countPlace, Fill(messages.SurveyPanelCount, {QString::number(panel.count)}));
+              Fill(messages.PictureScale, {QString::number(*panel.scale, 'f', 2)}));
+    write(panel.countPlace, Fill(messages.PictureCount, {QString::number(panel.count)}));
     painter.setFont(PictureFont(true));
-    write(panel.titlePlace, Fill(messages.SurveyPanel, {QString::number(panel.tier)}));
+    write(panel.titlePlace, Fill(messages.PictureTier, {QString::number(panel.tier)}));
     painter.setFont(PictureFont(false));
     for (const DeviationPoint& point : panel.points)
         PaintPoint(painter, point);
@@ -164,11 +158,10 @@ bool DeviationView::event(QEvent* event) {
         const auto* help = static_cast<QHelpEvent*>(event);
         const DeviationPoint* point = PointAt(help->pos());
         QToolTip::showText(help->globalPos(),
-                           point == nullptr ? QString()
-                                            : ShownName(view.Whole().rows[point->row]).toHtmlEscaped() +
-                                                  QLatin1String(": ") +
-                                                  DeviationText(point->deviation) +
-                                                  QLatin1String(" %"),
+                           point == nullptr
+                               ? QString()
+                               : ShownName(view.Whole().rows[point->row]).toHtmlEscaped() +
+                                     QLatin1String(": ") + DeviationText(point->deviation),
                            this);
         return true;
     }
@@ -199,12 +192,13 @@ void DeviationView::Step(int by) {
     const auto points = Points();
     if (points.empty())
         return;
-    const auto current = std::find_if(points.begin(), points.end(), [this](const auto* point) {
-        return point->row == selected;
-    });
+    const auto current = std::find_if(points.begin(), points.end(),
+                                      [this](const auto* point) { return point->row == selected; });
     const auto last = static_cast<std::ptrdiff_t>(points.size()) - 1;
     const std::ptrdiff_t place =
-        current == points.end() ? 0 : std::clamp<std::ptrdiff_t>(current - points.begin() + by, 0, last);
+        current == points.end()
+            ? 0
+            : std::clamp<std::ptrdiff_t>(current - points.begin() + by, 0, last);
     choose(points[static_cast<std::size_t>(place)]->row);
 }
 

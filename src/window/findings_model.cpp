@@ -65,13 +65,13 @@ QVariant FindingsModel::headerData(int section, Qt::Orientation orientation, int
     const Messages& messages = program.state.messages;
     switch (section) {
     case Kind:
-        return messages.SurveyFindingSeverity;
+        return messages.SurveyWindowFindingSeverity;
     case File:
         return ColumnWords(Column::File, program.state.LanguageId);
     case Line:
-        return messages.SurveyFindingPlace;
+        return messages.SurveyWindowFindingPlace;
     default:
-        return messages.SurveyFindingWords;
+        return messages.SurveyWindowFindingWords;
     }
 }
 

@@ -1,5 +1,6 @@
 #include "window/standing_panel.h"
 
+#include "reports/deviation_picture.h"
 #include "window/fonts.h"
 #include "window/frame_view.h"
 #include "window/label_view.h"
@@ -16,7 +17,6 @@ namespace Hesperin {
 namespace {
 
 constexpr double Radius = 3;
-constexpr double Outlier = 25; // percent, where a line stands
 
 /// The dots beside one another where there is room, in lanes above and below the middle where
 /// there isn't.
@@ -36,10 +36,10 @@ protected:
             return;
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        double reach = 2 * Outlier;
+        double reach = 2 * OutlierPercent;
         for (const double dot : values.dots)
             reach = std::max(reach, std::abs(dot));
-        reach = std::min(std::max(reach, std::abs(*values.mark)), 4 * Outlier);
+        reach = std::min(std::max(reach, std::abs(*values.mark)), 4 * OutlierPercent);
         const double middle = Middle();
         const auto across = [&](double value) {
             const double half = width() / 2.0 - 2 * Radius;
@@ -77,14 +77,13 @@ private:
         QFont font = BoxFont();
         font.setPixelSize(10);
         painter.setFont(font);
-        for (const double percent : {-Outlier, 0.0, Outlier}) {
+        for (const double percent : {-OutlierPercent, 0.0, OutlierPercent}) {
             const double x = std::round(across(percent)) + 0.5;
             painter.setPen(QPen(QColor(percent == 0 ? Colours().TextOff : Colours().Line), 1,
                                 percent == 0 ? Qt::SolidLine : Qt::DashLine));
             painter.drawLine(QPointF(x, 0), {x, height() - double{BelowStrip}});
             painter.setPen(QColor(Colours().Text));
-            const QString text = (percent > 0 ? QStringLiteral("+") : QString()) +
-                                 QString::number(percent) + QStringLiteral(" %");
+            const QString text = DeviationText(percent, 0);
             painter.drawText(QRectF(x - 30, height() - BelowStrip, 60, BelowStrip), Qt::AlignCenter,
                              text);
         }

@@ -60,7 +60,7 @@ SurveyFilter SurveyBar::Chosen() const {
 }
 
 void SurveyBar::Offer(const SurveyView& view) {
-    const QString all = program.state.messages.SurveyAll;
+    const QString all = program.state.messages.SurveyWindowAll;
     QStringList tiers{all};
     for (const std::int16_t one : view.Tiers())
         tiers.append(QString::number(one));
@@ -70,20 +70,20 @@ void SurveyBar::Offer(const SurveyView& view) {
 
 void SurveyBar::ShowCount(const SurveyView& view) {
     const auto number = [](std::size_t value) { return QString::number(value); };
-    count->setText(view.Loaded() ? Fill(program.state.messages.SurveyShown,
-                                        {number(view.Shown().size()),
-                                         number(view.Whole().rows.size())})
-                                 : QString());
+    count->setText(view.Loaded()
+                       ? Fill(program.state.messages.SurveyWindowShown,
+                              {number(view.Shown().size()), number(view.Whole().rows.size())})
+                       : QString());
 }
 
 void SurveyBar::Retranslate() {
     const Messages& messages = program.state.messages;
-    wordsLabel->setText(messages.SurveyFilter);
-    tierLabel->setText(messages.SurveyTier);
-    townLabel->setText(messages.SurveyTown);
-    outliers->setText(messages.SurveyOutliers);
-    outliers->setToolTip(messages.SurveyOutliersTip);
-    words->setPlaceholderText(messages.SurveyFilterHint);
+    wordsLabel->setText(messages.SurveyWindowFilter);
+    tierLabel->setText(messages.SurveyWindowTier);
+    townLabel->setText(messages.SurveyWindowTown);
+    outliers->setText(messages.SurveyWindowOutliers);
+    outliers->setToolTip(messages.SurveyWindowOutliersTip);
+    words->setPlaceholderText(messages.SurveyWindowFilterHint);
     for (const QLabel* label : {wordsLabel, tierLabel, townLabel})
         label->buddy()->setAccessibleName(QString(label->text()).remove(u'&'));
 }

@@ -157,11 +157,11 @@ void SurveyPages::Refresh() {
     const Messages& messages = program.state.messages;
     picture->LookAgain();
     hint->setVisible(view.Shown().empty());
-    hint->setText(!view.Loaded()              ? messages.SurveyEmpty
-                  : view.Whole().rows.empty() ? messages.SurveyNothing
-                                              : messages.SurveyNoMatch);
+    hint->setText(!view.Loaded()              ? messages.SurveyWindowEmpty
+                  : view.Whole().rows.empty() ? messages.SurveyWindowNothing
+                                              : messages.SurveyWindowNoMatch);
     setTabText(0, messages.SurveyCreatures);
-    setTabText(1, Fill(messages.SurveyFindings, {QString::number(findings.rowCount({}))}));
+    setTabText(1, Fill(messages.SurveyWindowFindings, {QString::number(findings.rowCount({}))}));
 }
 
 void SurveyPages::Choose(std::size_t row) {
@@ -198,7 +198,7 @@ void SurveyPages::Retranslate() {
     FitColumns();
     table->setAccessibleName(messages.SurveyCreatures);
     findingsTable->setAccessibleName(
-        QString(messages.SurveyFindings).remove(QLatin1String(" (%1)")));
+        QString(messages.SurveyWindowFindings).remove(QLatin1String(" (%1)")));
     picture->setAccessibleName(messages.SurveyPicture);
 }
 

@@ -91,7 +91,7 @@ QVariant SurveyTableModel::headerData(int section, Qt::Orientation orientation, 
         return ColumnWords(column, program.state.LanguageId);
     case Qt::ToolTipRole:
         return QString(HeadingOf(column) + QLatin1String(": ") +
-                       program.state.messages.SurveySort);
+                       program.state.messages.SurveyWindowSort);
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(Qt::AlignVCenter |
                                    (HoldsNumbers(column) ? Qt::AlignRight : Qt::AlignLeft));

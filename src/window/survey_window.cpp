@@ -33,12 +33,12 @@ struct ButtonPlan {
 };
 
 constexpr ButtonPlan ButtonPlans[] = {
-    {"SurveyFolder", &Messages::SurveyFolder, false},
-    {"SurveyArchives", &Messages::SurveyArchives, false},
-    {"SurveyReload", &Messages::SurveyReload, true},
-    {"SurveyUnload", &Messages::SurveyUnload, true},
-    {"SurveyExportCsv", &Messages::SurveyCsv, true},
-    {"SurveyExportHtml", &Messages::SurveyHtml, true},
+    {"SurveyFolder", &Messages::SurveyWindowFolder, false},
+    {"SurveyArchives", &Messages::SurveyWindowArchives, false},
+    {"SurveyReload", &Messages::SurveyWindowReload, true},
+    {"SurveyUnload", &Messages::SurveyWindowUnload, true},
+    {"SurveyExportCsv", &Messages::SurveyWindowCsv, true},
+    {"SurveyExportHtml", &Messages::SurveyWindowHtml, true},
 };
 
 QStringList DraggedPlaces(const QMimeData& data) {
@@ -141,7 +141,7 @@ void SurveyWindow::BuildShortcuts() {
 
 void SurveyWindow::Retranslate() {
     const Messages& messages = program.state.messages;
-    setWindowTitle(messages.SurveyTitle);
+    setWindowTitle(messages.SurveyWindowTitle);
     const bool loaded = pages->View().Loaded();
     for (const ButtonPlan& plan : ButtonPlans) {
         auto* button = findChild<QPushButton*>(QLatin1String(plan.name));
@@ -185,9 +185,9 @@ void SurveyWindow::ShowProgress(const SurveyProgress& progress) {
     const auto done = static_cast<int>(progress.done.load());
     progressBar->setRange(0, all);
     progressBar->setValue(done);
-    progressBar->setFormat(
-        all == 0 ? messages.SurveyWalking
-                 : Fill(messages.SurveyReading, {QString::number(done), QString::number(all)}));
+    progressBar->setFormat(all == 0 ? messages.SurveyWindowWalking
+                                    : Fill(messages.SurveyWindowReading,
+                                           {QString::number(done), QString::number(all)}));
     walking->show();
 }
 
@@ -208,7 +208,7 @@ void SurveyWindow::ShowPlaces() {
                        ErrorReason(messages, place.error));
     refused->setVisible(!reasons.isEmpty());
     refused->setText(
-        Fill(messages.SurveyRefused, {reasons.value(0)}) +
+        Fill(messages.SurveyWindowRefused, {reasons.value(0)}) +
         (reasons.size() > 1 ? QStringLiteral(" (+%1)").arg(reasons.size() - 1) : QString()));
     refused->setToolTip(reasons.join(u'\n').toHtmlEscaped());
 }
@@ -235,7 +235,7 @@ void SurveyWindow::ChooseArchives() {
     QFileDialog dialog(this);
     dialog.setObjectName(QStringLiteral("SurveyOpen"));
     dialog.setFileMode(QFileDialog::ExistingFiles);
-    dialog.setNameFilter(program.state.messages.SurveyArchiveFiles +
+    dialog.setNameFilter(program.state.messages.SurveyWindowArchiveFiles +
                          QLatin1String(" (*.pak *.h5u *.PAK *.H5U)"));
     dialog.setDirectory(FolderForDialogs());
     if (dialog.exec() == QDialog::Accepted)
@@ -254,12 +254,12 @@ void SurveyWindow::Unload() {
 }
 
 void SurveyWindow::ExportCsv() {
-    Export(program.state.messages.SurveyCsvFiles, QStringLiteral("csv"),
+    Export(program.state.messages.SurveyWindowCsvFiles, QStringLiteral("csv"),
            TableCsv(pages->View().OnlyShown(), program.state.messages));
 }
 
 void SurveyWindow::ExportHtml() {
-    Export(program.state.messages.SurveyHtmlFiles, QStringLiteral("html"),
+    Export(program.state.messages.SurveyWindowHtmlFiles, QStringLiteral("html"),
            TableHtml(pages->View().OnlyShown(), program.state.messages));
 }
 
@@ -286,7 +286,7 @@ void SurveyWindow::OpenRow(std::size_t place) {
     const SurveyRow& row = pages->View().Whole().rows[place];
     if (row.packed)
         return Tell(QMessageBox::Information,
-                    Fill(program.state.messages.SurveyPacked,
+                    Fill(program.state.messages.SurveyWindowPacked,
                          {row.File(), QDir::toNativeSeparators(row.place)}));
     if (!program.form.frmMain.Enabled()) // a secondary window locks it
         return;
