@@ -31,7 +31,7 @@ QString FindingsModel::Text(const Finding& finding, Part part) const {
     case Kind:
         return SeverityText(program.state.messages, finding.severity);
     case File:
-        return finding.file;
+        return finding.file.section(u'/', -1); // the tool tip has all of it
     case Line:
         return finding.line == 0 ? QString() : QString::number(finding.line);
     default:
@@ -46,12 +46,10 @@ QVariant FindingsModel::data(const QModelIndex& index, int role) const {
     const auto part = static_cast<Part>(index.column());
     if (role == Qt::DisplayRole)
         return Text(finding, part);
-    if (role == Qt::ToolTipRole && (part == File || part == Words))
-        return Text(finding, part).toHtmlEscaped();
+    if (role == Qt::ToolTipRole)
+        return (part == Words ? Text(finding, part) : finding.file).toHtmlEscaped();
     if (role == Qt::ForegroundRole && part == Kind && finding.severity == Severity::Error)
         return QColor(Colours().Rolvane);
-    if (role == Qt::ForegroundRole && finding.severity == Severity::Note)
-        return QColor(Colours().TextOff);
     return {};
 }
 

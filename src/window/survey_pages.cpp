@@ -105,7 +105,7 @@ void SurveyPages::BuildFindings() {
     Dress(*findingsTable, "SurveyFindings");
     findingsTable->setModel(&findings);
     findingsTable->horizontalHeader()->setStretchLastSection(true);
-    constexpr int widths[] = {100, 300, 60};
+    constexpr int widths[] = {130, 170, 60};
     for (int part = 0; part < static_cast<int>(std::size(widths)); ++part)
         findingsTable->setColumnWidth(part, widths[part]);
     connect(findingsTable, &QTableView::activated, this, [this](const QModelIndex& index) {
