@@ -181,7 +181,10 @@ std::optional<std::size_t> SurveyPages::Chosen() const {
     return view.Shown()[place];
 }
 
+/// The user may make them wider; another language fits them anew.
 void SurveyPages::FitColumns() {
+    if (std::exchange(fittedFor, program.state.LanguageId) == program.state.LanguageId)
+        return;
     const QHeaderView& heading = *table->horizontalHeader();
     constexpr int mark = 8; // of the order, beside the heading
     for (int column = 0; column < static_cast<int>(Column::Count); ++column) {

@@ -54,6 +54,7 @@ private:
     DeviationView* picture;
     QLabel* hint; ///< in the middle of an empty table
     std::optional<RowOrder> order;
+    std::uint8_t fittedFor = 0; ///< the language whose headings have room
 };
 
 } // namespace Hesperin

@@ -10,8 +10,8 @@
 #include "window/main_window.h"
 
 #include <QAction>
+#include <QDir>
 #include <QDragEnterEvent>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QMimeData>
@@ -22,8 +22,6 @@
 namespace Hesperin {
 
 namespace {
-
-constexpr int TakesLong = 500; // milliseconds, after which the progress is shown
 
 /// The buttons above the table, in their order.
 struct ButtonPlan {
@@ -53,10 +51,10 @@ QStringList DraggedPlaces(const QMimeData& data) {
 
 SurveyWindow::SurveyWindow(Program& owner, MainWindow& mainWindow)
     : program(owner), main(mainWindow), pages(new SurveyPages(owner)), bar(new SurveyBar(owner)),
-      places(new QLabel), refused(new QLabel),
+      places(new QLabel), refused(new QLabel), progressLine(new SurveyProgressLine(owner)),
       walk({.done = [this](const auto& survey) { Show(survey); },
-            .progress = [this](const SurveyProgress& progress) { ShowProgress(progress); },
-            .idle = [this] { walking->hide(); }}) {
+            .progress = [this](const SurveyProgress& progress) { progressLine->Tell(progress); },
+            .idle = [this] { progressLine->hide(); }}) {
     setObjectName(QStringLiteral("SurveyWindow"));
     setAcceptDrops(true);
     QFont font = BoxFont();
@@ -69,7 +67,8 @@ SurveyWindow::SurveyWindow(Program& owner, MainWindow& mainWindow)
     lines->addWidget(bar);
     lines->addWidget(pages, 1);
     lines->addWidget(refused);
-    lines->addWidget(BuildProgress());
+    lines->addWidget(progressLine);
+    connect(&progressLine->CancelButton(), &QPushButton::clicked, this, [this] { walk.Cancel(); });
     refused->setObjectName(QStringLiteral("SurveyRefused"));
     refused->setTextFormat(Qt::PlainText);
     refused->hide();
@@ -115,21 +114,6 @@ QWidget* SurveyWindow::BuildButtons() {
     return line;
 }
 
-QWidget* SurveyWindow::BuildProgress() {
-    walking = new QWidget;
-    auto* row = new QHBoxLayout(walking);
-    row->setContentsMargins(0, 0, 0, 0);
-    progressBar = new QProgressBar;
-    progressBar->setObjectName(QStringLiteral("SurveyProgress"));
-    auto* cancel = new QPushButton;
-    cancel->setObjectName(QStringLiteral("SurveyCancel"));
-    connect(cancel, &QPushButton::clicked, this, [this] { walk.Cancel(); });
-    row->addWidget(progressBar, 1);
-    row->addWidget(cancel);
-    walking->hide();
-    return walking;
-}
-
 void SurveyWindow::BuildShortcuts() {
     const auto on = [this](const char* keys, auto act) {
         new QShortcut(QKeySequence(QLatin1String(keys)), this, act);
@@ -148,7 +132,7 @@ void SurveyWindow::Retranslate() {
         button->setText(messages.*plan.caption);
         button->setEnabled(loaded || !plan.needsSurvey);
     }
-    findChild<QPushButton*>(QStringLiteral("SurveyCancel"))->setText(messages.MsgCancel);
+    progressLine->Retranslate();
     bar->Retranslate();
     bar->Offer(pages->View());
     bar->ShowCount(pages->View());
@@ -165,7 +149,7 @@ void SurveyWindow::ComeForward() {
 
 void SurveyWindow::Take(const QStringList& wanted) {
     paths = wanted;
-    since.start();
+    progressLine->Begin();
     walk.Start({.paths = wanted, .game = {}, .findings = true, .jobs = 0});
 }
 
@@ -175,20 +159,6 @@ void SurveyWindow::Show(std::shared_ptr<const Survey> survey) {
     bar->Offer(pages->View());
     pages->Filter(bar->Chosen()); // of which something may have gone
     Retranslate();
-}
-
-void SurveyWindow::ShowProgress(const SurveyProgress& progress) {
-    if (since.elapsed() < TakesLong)
-        return;
-    const Messages& messages = program.state.messages;
-    const auto all = static_cast<int>(progress.all.load());
-    const auto done = static_cast<int>(progress.done.load());
-    progressBar->setRange(0, all);
-    progressBar->setValue(done);
-    progressBar->setFormat(all == 0 ? messages.SurveyWindowWalking
-                                    : Fill(messages.SurveyWindowReading,
-                                           {QString::number(done), QString::number(all)}));
-    walking->show();
 }
 
 /// Which mod it is, and what of it could not be read.
@@ -221,30 +191,21 @@ QString SurveyWindow::FolderForDialogs() const {
     return baseline ? QFileInfo(baseline->path).absolutePath() : program.platform.ProgramFolder();
 }
 
+void SurveyWindow::TakeChosen(const QStringList& chosen) {
+    if (!chosen.isEmpty())
+        Take(chosen);
+}
+
 void SurveyWindow::ChooseFolder() {
-    QFileDialog dialog(this);
-    dialog.setObjectName(QStringLiteral("SurveyOpen"));
-    dialog.setFileMode(QFileDialog::Directory);
-    dialog.setOption(QFileDialog::ShowDirsOnly);
-    dialog.setDirectory(FolderForDialogs());
-    if (dialog.exec() == QDialog::Accepted)
-        Take(dialog.selectedFiles());
+    TakeChosen(AskForFolder(*this, FolderForDialogs()));
 }
 
 void SurveyWindow::ChooseArchives() {
-    QFileDialog dialog(this);
-    dialog.setObjectName(QStringLiteral("SurveyOpen"));
-    dialog.setFileMode(QFileDialog::ExistingFiles);
-    dialog.setNameFilter(program.state.messages.SurveyWindowArchiveFiles +
-                         QLatin1String(" (*.pak *.h5u *.PAK *.H5U)"));
-    dialog.setDirectory(FolderForDialogs());
-    if (dialog.exec() == QDialog::Accepted)
-        Take(dialog.selectedFiles());
+    TakeChosen(AskForArchives(*this, FolderForDialogs(), program.state.messages));
 }
 
 void SurveyWindow::Reload() {
-    if (!paths.isEmpty())
-        Take(paths);
+    TakeChosen(paths);
 }
 
 void SurveyWindow::Unload() {
@@ -254,32 +215,25 @@ void SurveyWindow::Unload() {
 }
 
 void SurveyWindow::ExportCsv() {
-    Export(program.state.messages.SurveyWindowCsvFiles, QStringLiteral("csv"),
-           TableCsv(pages->View().OnlyShown(), program.state.messages));
+    Export({program.state.messages.SurveyWindowCsvFiles, QStringLiteral("csv")}, TableCsv);
 }
 
 void SurveyWindow::ExportHtml() {
-    Export(program.state.messages.SurveyWindowHtmlFiles, QStringLiteral("html"),
-           TableHtml(pages->View().OnlyShown(), program.state.messages));
+    Export({program.state.messages.SurveyWindowHtmlFiles, QStringLiteral("html")}, TableHtml);
 }
 
-void SurveyWindow::Export(const QString& kind, const QString& suffix, const QByteArray& bytes) {
-    QFileDialog dialog(this);
-    dialog.setObjectName(QStringLiteral("SurveySave"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setNameFilter(QStringLiteral("%1 (*.%2)").arg(kind, suffix));
-    dialog.setDefaultSuffix(suffix);
-    dialog.setDirectory(FolderForDialogs());
-    if (dialog.exec() != QDialog::Accepted)
+void SurveyWindow::Export(const FileKind& kind, Form* form) {
+    const QString path = AskForFile(*this, FolderForDialogs(), kind);
+    if (path.isEmpty())
         return;
-    const QString path = dialog.selectedFiles().value(0);
-    const SaveOutcome outcome = SaveFile(path, bytes);
-    if (outcome.failure) {
-        Error error = *outcome.failure;
-        error.file = path;
-        error.doing = Error::Doing::Saving;
-        Tell(QMessageBox::Critical, ErrorText(program.state.messages, error));
-    }
+    const SaveOutcome outcome =
+        SaveFile(path, form(pages->View().OnlyShown(), program.state.messages));
+    if (!outcome.failure)
+        return;
+    Error error = *outcome.failure;
+    error.file = path;
+    error.doing = Error::Doing::Saving;
+    Tell(QMessageBox::Critical, ErrorText(program.state.messages, error));
 }
 
 void SurveyWindow::OpenRow(std::size_t place) {

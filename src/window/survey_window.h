@@ -2,13 +2,12 @@
 
 #include "app/program.h"
 #include "window/survey_bar.h"
+#include "window/survey_dialogs.h"
 #include "window/survey_pages.h"
+#include "window/survey_progress.h"
 #include "window/survey_walk.h"
 
-#include <QElapsedTimer>
 #include <QMessageBox>
-#include <QProgressBar>
-#include <QPushButton>
 
 namespace Hesperin {
 
@@ -38,20 +37,21 @@ protected:
 
 private:
     QWidget* BuildButtons();
-    QWidget* BuildProgress();
     void BuildShortcuts();
     void Retranslate();
     void Show(std::shared_ptr<const Survey> survey);
-    void ShowProgress(const SurveyProgress& progress);
     void ShowPlaces();
     QString FolderForDialogs() const;
+    void TakeChosen(const QStringList& chosen);
     void ChooseFolder();
     void ChooseArchives();
     void Reload();
     void Unload();
     void ExportCsv();
     void ExportHtml();
-    void Export(const QString& kind, const QString& suffix, const QByteArray& bytes);
+    /// How the survey is written into a file.
+    using Form = QByteArray(const Survey&, const Messages&);
+    void Export(const FileKind& kind, Form* form);
     void OpenRow(std::size_t row);
     void Tell(QMessageBox::Icon icon, const QString& text);
 
@@ -59,13 +59,11 @@ private:
     MainWindow& main;
     SurveyPages* pages;
     SurveyBar* bar;
-    QLabel* places;   ///< what is shown
-    QLabel* refused;  ///< what could not be read
-    QWidget* walking; ///< the line of progress, for what takes long
-    QProgressBar* progressBar;
+    QLabel* places;  ///< what is shown
+    QLabel* refused; ///< what could not be read
+    SurveyProgressLine* progressLine;
     QStringList paths; ///< of the survey that is shown, or is being taken
-    QElapsedTimer since;
-    SurveyWalk walk; // the last: it ends before what it tells is gone
+    SurveyWalk walk;   // the last: it ends before what it tells is gone
 };
 
 } // namespace Hesperin

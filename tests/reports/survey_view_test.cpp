@@ -30,10 +30,10 @@ std::shared_ptr<const Survey> MadeSurvey() {
         if (cells[4] != "-")
             row.deviation = cells[4].toDouble();
         survey->scale.Add(row.tier, Figure::Power, 2, 1);
-        survey->findings.push_back({Rule::FigureZero, Severity::Warning, row.File()});
+        survey->findings.push_back({Rule::FigureZero, Severity::Warning, row.File(), 0, 0, {}, {}, {}});
         survey->rows.push_back(row);
     }
-    survey->findings.push_back({Rule::Link, Severity::Note, {}});
+    survey->findings.push_back({Rule::Link, Severity::Note, {}, 0, 0, {}, {}, {}});
     return survey;
 }
 

@@ -25,6 +25,14 @@ public:
 
     void Press(const QString& name) const { WindowInUse::Click(Find(name)); }
 
+    /// A key of the window itself.
+    void Key(Qt::Key key) const {
+        window.activateWindow();
+        if (!QTest::qWaitForWindowActive(&window))
+            qFatal("the survey did not come forward");
+        QTest::keyClick(window.windowHandle(), key);
+    }
+
     QTableView& Table() const { return Find<QTableView>("SurveyTable"); }
 
     int Count() const { return Table().model()->rowCount(); }

@@ -69,7 +69,7 @@ TEST(Survey, ShowsAModBesideTheMainWindowWithoutLockingIt) {
     WindowInUse::Click(survey.Find("SurveyOutliers"), {8, survey.Find("SurveyOutliers").height() / 2});
     EXPECT_EQ(survey.Names().join(' '), "Blue");
     use.Write("mod/b/Fair.xdb", Wyrm("Fair", 1100, "TOWN_DUNGEON"));
-    QTest::keyClick(&survey.Table(), Qt::Key_F5);
+    survey.Key(Qt::Key_F5);
     EXPECT_TRUE(QTest::qWaitFor([&] { return survey.Names().join(' ') == "Fair Blue"; })) << "taken anew, as chosen";
 }
 
@@ -89,7 +89,9 @@ TEST(Survey, ClickOnAPointChoosesItsRowAndDoubleClickOpensTheCreature) {
     const auto shows = [&](const char* name) {
         return QTest::qWaitFor([&] { return use.window->windowTitle().contains(name); });
     };
-    QTest::mouseDClick(survey.Table().viewport(), Qt::LeftButton, {}, survey.PlaceOf(1));
+    WindowInUse::Click(*survey.Table().viewport(), survey.PlaceOf(1));
+    QTest::mouseDClick(survey.window.windowHandle(), Qt::LeftButton, {},
+                       survey.Table().viewport()->mapTo(&survey.window, survey.PlaceOf(1)));
     EXPECT_TRUE(shows("Blue"));
     EXPECT_EQ(use.form.lblStandingPlace.Caption(), "Place 5 of 5, strongest for its Power first");
     EXPECT_TRUE(use.Find("FrameStanding").isVisible());
