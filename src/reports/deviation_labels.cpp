@@ -22,21 +22,41 @@ QString Fitting(const QString& name, double room) {
     return text;
 }
 
-/// Places for a name of that size, the best first: beside the point, slightly above or below,
-/// over and under it.
-std::vector<QRectF> PlacesBeside(const DeviationPoint& point, double radius, double width) {
-    const double right = point.x + radius + BesideGap;
-    const double left = point.x - radius - BesideGap - width;
-    const double middle = point.y - LabelHeight / 2;
-    std::vector<QRectF> places;
+/// A name and where it might stand.
+struct LabelChoice {
+    QString text;
+    QRectF place;
+};
+
+/// Beside the point, and slightly above or below of that. What would leave the panel is cut.
+void AddBeside(std::vector<LabelChoice>& choices, const DeviationPoint& point, double radius,
+               const QRectF& panel, const QString& name) {
+    constexpr qsizetype least = 8; ///< characters of a cut name
+    const double side = radius + BesideGap;
     for (const double shift : {0.0, -0.45, 0.45, -0.8, 0.8})
-        for (const double x : {right, left})
-            places.emplace_back(x, middle + shift * LabelHeight, width, LabelHeight);
-    const double over = point.y - radius - LabelHeight;
-    for (const double y : {over, point.y + radius})
+        for (const bool onRight : {true, false}) {
+            const double room = onRight ? panel.right() - point.x : point.x - panel.left();
+            const QString text = Fitting(name, room - side - 1);
+            const double width = WidthInPicture(text);
+            const double left = onRight ? point.x + side : point.x - side - width;
+            const double top = point.y + (shift - 0.5) * LabelHeight;
+            if (text == name || text.size() >= least)
+                choices.push_back({text, {left, top, width, LabelHeight}});
+        }
+}
+
+/// Where the name of a point might stand, the best first: whole before cut, beside before above.
+std::vector<LabelChoice> ChoicesFor(const DeviationPoint& point, double radius, const QRectF& panel,
+                                    const QString& name) {
+    std::vector<LabelChoice> choices;
+    AddBeside(choices, point, radius, panel, name);
+    const double width = WidthInPicture(name);
+    for (const double top : {point.y - radius - LabelHeight, point.y + radius})
         for (const double part : {0.5, 0.2, 0.8})
-            places.emplace_back(point.x - width * part, y, width, LabelHeight);
-    return places;
+            choices.push_back({name, {point.x - width * part, top, width, LabelHeight}});
+    std::stable_partition(choices.begin(), choices.end(),
+                          [&](const LabelChoice& choice) { return choice.text == name; });
+    return choices;
 }
 
 /// What is taken in a panel: its points, and the names that have been placed.
@@ -103,11 +123,11 @@ void PlaceLabels(DeviationPanel& panel, double radius, const Survey& survey) {
     for (DeviationPoint* point : named) {
         const QString name =
             Fitting(ShownName(survey.rows[point->row]), panel.place.width() - 2 * BesideGap);
-        for (const QRectF& place : PlacesBeside(*point, radius, WidthInPicture(name)))
-            if (taken.IsFree(place)) {
-                taken.Take(place);
-                point->label = name;
-                point->labelPlace = place;
+        for (const LabelChoice& choice : ChoicesFor(*point, radius, panel.place, name))
+            if (taken.IsFree(choice.place)) {
+                taken.Take(choice.place);
+                point->label = choice.text;
+                point->labelPlace = choice.place;
                 break;
             }
     }

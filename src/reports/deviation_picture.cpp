@@ -98,8 +98,9 @@ Grid GridFor(std::size_t panels, double width, double height) {
 /// The panel at that place of the grid, still without points.
 DeviationPanel PanelAt(const Grid& grid, std::size_t at) {
     DeviationPanel panel;
+    const std::size_t rowsAbove = at / grid.columns;
     const auto column = static_cast<double>(at % grid.columns);
-    const auto row = static_cast<double>(at / grid.columns);
+    const auto row = static_cast<double>(rowsAbove);
     const double left = AxisWidth + column * (grid.width + Gap);
     const double top = row * (grid.height + Grid::Texts + Gap);
     panel.titlePlace = QRectF(left, top, grid.width, LineHeight);

@@ -36,36 +36,30 @@ public:
     }
 
     QByteArray Element() const {
-        QByteArray element = "<table id=\"creatures\">\n<colgroup>";
-        for (std::size_t at = 0; at < Columns; ++at)
-            element += "<col>";
-        return element + "</colgroup>\n<thead><tr>" + headings + "</tr></thead>\n<tbody>\n" + body +
-               "</tbody>\n</table>\n";
+        return "<table id=\"creatures\">\n<thead><tr>" + headings + "</tr></thead>\n<tbody>\n" +
+               body + "</tbody>\n</table>\n";
     }
 
     /// Widths, which don't change with what is shown; texts to the left; on paper what tells most.
     QByteArray Style() const {
-        const QByteArray padding = "1.75rem";
-        QByteArray style;
+        QByteArray columns;
         QByteArray texts;
         QByteArray offPaper;
-        qsizetype sum = 0;
         for (std::size_t at = 0; at < Columns; ++at) {
+            const auto column = static_cast<Column>(at);
+            const QByteArray width = QByteArray::number(widths[at]) + "ch";
+            columns += " calc(" + (column == Column::File ? "min(" + width + ",30vw)" : width) +
+                       " + 1.75rem)";
             const QByteArray nth =
                 ":nth-child(" + QByteArray::number(static_cast<int>(at) + 1) + ')';
-            const QByteArray cells = "#creatures th" + nth + ",#creatures td" + nth;
-            style += "#creatures col" + nth + "{width:calc(" + QByteArray::number(widths[at]) +
-                     "ch + " + padding + ")}\n";
-            sum += widths[at];
-            const auto column = static_cast<Column>(at);
+            const QByteArray cells = ",#creatures th" + nth + ",#creatures td" + nth;
             if (!HoldsNumbers(column))
-                texts += (texts.isEmpty() ? "" : ",") + cells;
+                texts += cells;
             if (!IsOnPaper(column))
-                offPaper += (offPaper.isEmpty() ? "" : ",") + cells + ",#creatures col" + nth;
+                offPaper += cells;
         }
-        return style + "#creatures{width:calc(" + QByteArray::number(sum) + "ch + " +
-               QByteArray::number(static_cast<int>(Columns)) + " * " + padding + ")}\n" + texts +
-               "{text-align:left}\n@media print{" + offPaper + "{display:none}}\n";
+        return "#creatures tr{grid-template-columns:" + columns.mid(1) + "}\n" + texts.mid(1) +
+               "{text-align:left}\n@media print{" + offPaper.mid(1) + "{display:none}}\n";
     }
 
 private:
@@ -92,29 +86,52 @@ private:
 
     void AddHeading(Column column) {
         const QString heading = HeadingOf(column);
-        headings +=
-            HoldsNumbers(column) ? "<th scope=\"col\" class=\"number\">" : "<th scope=\"col\">";
-        headings += HtmlElement("button type=\"button\"", heading) + "</th>";
+        const QByteArray number = HoldsNumbers(column) ? "number" : "";
+        headings += "<th scope=\"col\"" + ClassOf(column, number) + '>' +
+                    HtmlElement("button type=\"button\"", heading) + "</th>";
         constexpr qsizetype arrow = 2;
         widths[static_cast<std::size_t>(column)] = heading.size() + arrow;
     }
 
     void AddRow(const SurveyRow& row, const Messages& messages) {
-        constexpr qsizetype widest = 44;
-        body += row.problem          ? "<tr class=\"wrong\">"
-                : !IsOutlier(row)    ? "<tr>"
-                : *row.deviation > 0 ? "<tr class=\"high\">"
-                                     : "<tr class=\"low\">";
+        const QByteArray kind = row.problem          ? "wrong"
+                                : !IsOutlier(row)    ? ""
+                                : *row.deviation > 0 ? "high"
+                                                     : "low";
+        body += kind.isEmpty() ? "<tr>" : "<tr class=\"" + kind + "\">";
         for (std::size_t at = 0; at < Columns; ++at) {
-            const QString text = CellText(row, static_cast<Column>(at), messages);
-            QByteArray start =
-                at == static_cast<std::size_t>(Column::Deviation) ? "td class=\"off\"" : "td";
-            if (text.size() > widest)
-                start += " title=\"" + InHtml(text) + '"';
-            body += HtmlElement(start, text);
-            widths[at] = std::clamp(text.size() + 1, widths[at], std::max(widths[at], widest));
+            const auto column = static_cast<Column>(at);
+            AddCell(column, CellText(row, column, messages));
         }
         body += "</tr>\n";
+    }
+
+    void AddCell(Column column, const QString& text) {
+        constexpr qsizetype widest = 40;
+        QByteArray start = "td" + ClassOf(column, {});
+        if (text.size() > widest)
+            start += " title=\"" + InHtml(text) + '"';
+        body += column == Column::File ? '<' + start + '>' + PathElement(text) + "</td>"
+                                       : HtmlElement(start, text);
+        qsizetype& width = widths[static_cast<std::size_t>(column)];
+        width = std::max(width, std::min(text.size() + 1, widest));
+    }
+
+    /// The columns that stay in sight.
+    static QByteArray ClassOf(Column column, const QByteArray& further) {
+        QByteArray names = column == Column::Name        ? "held"
+                           : column == Column::Deviation ? "off"
+                                                         : "";
+        if (!further.isEmpty())
+            names += (names.isEmpty() ? "" : " ") + further;
+        return names.isEmpty() ? names : " class=\"" + names + '"';
+    }
+
+    /// Of a path that is too long the folders are shortened, never the file's own name.
+    static QByteArray PathElement(const QString& path) {
+        const qsizetype name = path.lastIndexOf('/') + 1;
+        return "<div class=\"path\">" + HtmlElement("span", path.first(name)) +
+               HtmlElement("b", path.sliced(name)) + "</div>";
     }
 
     QByteArray headings;

@@ -16,7 +16,8 @@ QString Guarded(const QString& text) {
 
 void AppendCsvCell(const QString& cell, QByteArray& line) {
     const bool plain = std::none_of(cell.begin(), cell.end(), [](QChar character) {
-        return QStringView(u",;\"\t\r\n").contains(character);
+        return character == u',' || character == u';' || character == u'"' || character == u'\t' ||
+               character == u'\n' || character == u'\r';
     });
     if (plain) {
         line += cell.toUtf8();
