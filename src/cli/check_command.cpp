@@ -45,7 +45,8 @@ void DescribeCheck(QCommandLineParser& parser) {
 /// it comes first or not at all.
 qsizetype CountModPaths(const QStringList& paths) {
     const QStringList all = QCoreApplication::arguments();
-    const auto game = std::find_if(all.begin(), all.end(), [](const QString& argument) {
+    const auto begin = all.begin() + 2; // behind the command
+    const auto game = std::find_if(begin, all.end(), [](const QString& argument) {
         return argument.startsWith(QLatin1String("--game"));
     });
     const auto count = std::count_if(

@@ -65,12 +65,12 @@ void CheckMana(const Items& spells, const FileElements& elements, FindingList& f
     const auto mana = elements.Number(u"SpellPoints");
     if (!mana)
         return;
-    const bool needsMana = std::any_of(spells.begin(), spells.end(), [](const FileElement* item) {
+    const bool hasSpells = std::any_of(spells.begin(), spells.end(), [](const FileElement* item) {
         return !item->text.isEmpty() && KindOfSpell(item->text) == WordKind::Spell;
     });
-    if (needsMana && *mana <= 0)
+    if (hasSpells && *mana <= 0)
         findings.Add(Rule::CasterMana, *elements.First(u"SpellPoints"));
-    if (spells.empty() && *mana > 0)
+    if (!hasSpells && *mana > 0)
         findings.Add(Rule::CasterSpells, *elements.First(u"SpellPoints"));
 }
 

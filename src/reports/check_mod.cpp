@@ -2,6 +2,7 @@
 
 #include "text/numbers.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QHash>
 
@@ -72,9 +73,8 @@ private:
     QHash<QString, std::vector<std::size_t>> byUpgrade;
 };
 
-/// Where the reference leads, from the root of the data; none out of it.
-std::optional<QString> TargetOf(const QString& file, QString reference) {
-    reference = reference.section(u'#', 0, 0).trimmed().replace(u'\\', u'/');
+/// Where a reference without # leads, from the root of the data; none out of it.
+std::optional<QString> TargetOf(const QString& file, const QString& reference) {
     QStringList levels;
     if (!reference.startsWith(u'/'))
         levels = FolderOf(file).split(u'/', Qt::SkipEmptyParts);
@@ -168,17 +168,26 @@ void ModCheck::LookAt(std::size_t at, const QByteArray& bytes, const Result<QStr
         checked[at]->findings.push_back(UnreadableFile(file, normalised.Why()));
 }
 
-bool ModCheck::LeadsSomewhere(const SurveyRow& row, const QString& reference) const {
-    const QString written = reference.section(u'#', 0, 0).trimmed();
+bool ModCheck::LeadsSomewhere(const SurveyRow& row, const QString& reference) {
+    const QString written = reference.section(u'#', 0, 0).trimmed().replace(u'\\', u'/');
     if (written.isEmpty()) // within the file
         return true;
     const auto target = TargetOf(row.File(), written);
     if (target && (HasFile(mod, *target) || HasFile(*game, *target)))
         return true;
-    // A file may have been named without the folder that it refers to.
-    const bool isBeside = !row.packed && !written.startsWith(u'/') && !written.startsWith(u'\\');
-    return isBeside &&
-           QFileInfo::exists(FolderOf(row.place) + QString(written).replace(u'\\', u'/'));
+    return !row.packed && IsOnDisk(row.place, written);
+}
+
+/// A part of a mod may have been named, without the folders around it that it refers to.
+bool ModCheck::IsOnDisk(const QString& place, const QString& reference) {
+    const QStringList levels = QDir::cleanPath(reference).split(u'/', Qt::SkipEmptyParts);
+    QDir folder = QFileInfo(place).absoluteDir();
+    do {
+        const QString root = folder.absolutePath();
+        if (!above.try_emplace(root, root).first->second.Find(levels).isEmpty())
+            return true;
+    } while (reference.startsWith(u'/') && folder.cdUp());
+    return false;
 }
 
 void ModCheck::AddTo(Survey& survey) {

@@ -3,7 +3,9 @@
 
 #include "reports/check_file.h"
 #include "reports/survey.h"
+#include "system/path_lookup.h"
 
+#include <map>
 #include <memory>
 
 namespace Hesperin {
@@ -23,12 +25,14 @@ public:
 
 private:
     void ReadWords(const Mod& place);
-    bool LeadsSomewhere(const SurveyRow& row, const QString& reference) const;
+    bool LeadsSomewhere(const SurveyRow& row, const QString& reference);
+    bool IsOnDisk(const QString& place, const QString& reference);
 
     const Mod& mod;
     std::unique_ptr<Mod> game; ///< null: none is known
     Vocabulary vocabulary;
     std::vector<RefusedPlace> refused;
+    std::map<QString, PathLookup> above;               ///< folders around files, by their paths
     std::vector<std::unique_ptr<CheckedFile>> checked; ///< by file; null: not looked at
 };
 

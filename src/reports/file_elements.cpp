@@ -23,11 +23,15 @@ void FindPlaces(const QByteArray& bytes, const std::vector<ElementPlace>& read,
     };
     if (!places || !std::equal(places->begin(), places->end(), read.begin(), read.end(), sameName))
         return;
+    qsizetype lineStart = 0;
+    qsizetype at = 0;
     for (std::size_t i = 0; i < elements.size(); ++i) {
         const ElementPlace& place = (*places)[i];
+        for (; at < place.startTag.start; ++at)
+            if (text[at] == u'\n')
+                lineStart = at + 1;
         elements[i].line = place.line;
-        elements[i].column =
-            place.startTag.start - text.first(place.startTag.start).lastIndexOf(u'\n');
+        elements[i].column = at - lineStart + 1;
     }
 }
 

@@ -78,11 +78,12 @@ QString FindingText(const Messages& messages, const Finding& finding) {
     QString text = ReasonText(messages, finding);
     if (finding.error)
         return text + QLatin1String(": ") + FoundText(messages, finding);
-    if (!finding.element.isEmpty())
-        text += QLatin1String(": ") + finding.element;
     const bool isLacking = finding.rule == Rule::ElementMissing;
-    if (!finding.element.isEmpty() && !isLacking)
-        text += QLatin1String(" = ") + Told(finding.found);
+    if (finding.rule == Rule::UpgradeWeaker) // what is told stands in no element
+        text += QLatin1String(": ") + finding.found;
+    else if (!finding.element.isEmpty())
+        text += QLatin1String(": ") + finding.element +
+                (isLacking ? QString() : QLatin1String(" = ") + Told(finding.found));
     const QString expected = ExpectedText(messages, finding);
     return expected.isEmpty() || isLacking ? text
                                            : text + Fill(messages.MsgExpected, {Told(expected)});

@@ -61,7 +61,7 @@ constexpr auto Rules = [] {
       u"улучшение не сильнее базового существа по средней силе"},
      {u"above %1",                                                  u"больше %1"}},
     {"figure.outlier",    Note,
-     {u"Power is more than 25 % off the scale of its tier",         u"сила более чем на 25 % расходится со шкалой уровня"},
+     {u"Power is more than 25 % off the scale of its tier",         u"сила более чем на 25 % расходится с масштабом уровня"},
      {u"about %1",                                                  u"около %1"}},
     {"link",              Error,
      {u"the reference leads nowhere",                               u"ссылка никуда не ведёт"},

@@ -20,6 +20,7 @@ TEST(Usage, HelpAndVersionGoToStandardOutputAndWrongUsageIsCode2) {
         {"run -v", "TALMIR v0."},
         {"calc --help", "talmir-cli calc"},
         {"run -h", "talmir-cli run"},
+        {"check --help", "talmir-cli check"},
         {"", nullptr},
         {"bogus", nullptr},
         {"--bogus", nullptr},
@@ -32,6 +33,9 @@ TEST(Usage, HelpAndVersionGoToStandardOutputAndWrongUsageIsCode2) {
         {"run - --lang", nullptr},
         {"run - --lang ru", nullptr},
         {"run --json -", nullptr},
+        {"check", nullptr},
+        {"check --game a", nullptr},
+        {"check --bogus a", nullptr},
         {"texts", nullptr},
         {"texts a --lang FR", nullptr},
     };

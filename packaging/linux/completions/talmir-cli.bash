@@ -4,12 +4,14 @@ _talmir_cli() {
     local cur prev words cword
     _init_completion || return
     case $cword,${words[1]},$prev,$cur in
-        1,*) mapfile -t COMPREPLY < <(compgen -W 'calc set run texts --help --version' -- "$cur") ;;
+        1,*) mapfile -t COMPREPLY < <(compgen -W 'calc set check run texts --help --version' -- "$cur") ;;
         *,calc,*,-*) mapfile -t COMPREPLY < <(compgen -W '--json --help --version' -- "$cur") ;;
         *,calc,*) _filedir xdb ;;
         *,set,--scale-of,*) _filedir xdb ;;
         *,set,*,-*) mapfile -t COMPREPLY < <(compgen -W '--write --diff --json --any-word --scale-of --help --version' -- "$cur") ;;
         *,set,*) _filedir xdb ;;
+        *,check,*,-*) mapfile -t COMPREPLY < <(compgen -W '--json --game --help --version' -- "$cur") ;;
+        *,check,*) _filedir '@(xdb|pak|h5u)' ;;
         *,run,--lang,*) mapfile -t COMPREPLY < <(compgen -W 'EN RU' -- "$cur") ;;
         *,run,*,-*) mapfile -t COMPREPLY < <(compgen -W '--keep-going --lang --help --version' -- "$cur") ;;
         *,run,*) _filedir ;;

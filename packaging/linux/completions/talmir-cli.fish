@@ -15,6 +15,11 @@ complete -c talmir-cli -n '__fish_seen_subcommand_from set' -l any-word -d 'Add 
 complete -c talmir-cli -n '__fish_seen_subcommand_from set' -l scale-of -r -F -d 'Divide computed figures by the scale of a mod'
 complete -c talmir-cli -n '__fish_seen_subcommand_from set' -k -a '(__fish_complete_suffix .xdb)'
 
+complete -c talmir-cli -n __fish_use_subcommand -a check -d 'Tell what is wrong in creature files'
+complete -c talmir-cli -n '__fish_seen_subcommand_from check' -l json -d 'Print one JSON document'
+complete -c talmir-cli -n '__fish_seen_subcommand_from check' -l game -r -F -d 'Folder or archive of the game'
+complete -c talmir-cli -n '__fish_seen_subcommand_from check' -F
+
 complete -c talmir-cli -n __fish_use_subcommand -a run -d 'Play a script of user actions'
 complete -c talmir-cli -n '__fish_seen_subcommand_from run' -l lang -x -a 'EN RU' -d 'Language at the start'
 complete -c talmir-cli -n '__fish_seen_subcommand_from run' -l keep-going -d 'Go on behind what cannot be done'
