@@ -1,5 +1,6 @@
 #include "app/apply_language.h"
 
+#include "app/standing.h"
 #include "app/window_title.h"
 #include "game_texts/ability_texts.h"
 #include "localisation/captions.h"
@@ -51,6 +52,7 @@ void ApplyLanguage(Program& program, std::int16_t languageId) {
     SetCaptions(form, column);
     SetItems(form.ComboFaction, FactionRows, column);
     SetItems(form.ComboRange, RangeRows, column);
+    ShowStanding(program);
 }
 
 void BuildCatalogues(Program& program) {

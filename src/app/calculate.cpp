@@ -1,6 +1,7 @@
 #include "app/calculate.h"
 
 #include "app/creature_in_form.h"
+#include "app/standing.h"
 #include "app/window_title.h"
 #include "form/form_lists.h"
 #include "localisation/judgement_text.h"
@@ -84,6 +85,7 @@ void Calculate(Program& program) {
     for (const ResultRow& row : ResultRows)
         if (evaluation.figures || IsPowerOfMethod(row))
             Show(form, state, row);
+    ShowStanding(program);
     if (!evaluation.figures)
         return program.Warn(BoxIcon::Critical, state.messages.MsgZeroPower);
 

@@ -11,8 +11,9 @@
 
 namespace Hesperin {
 
-/// The windows that open beside the main window. Each locks it until its button is pressed.
-enum class SecondaryWindow : std::uint8_t { About, AbilityInformation };
+/// The windows that open beside the main window. Each locks it until its button is pressed, but for
+/// the survey, which stays open beside it.
+enum class SecondaryWindow : std::uint8_t { About, AbilityInformation, Survey };
 
 class Platform {
 public:

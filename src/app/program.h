@@ -3,6 +3,9 @@
 #include "app/platform.h"
 #include "app/shared_state.h"
 #include "form/main_form.h"
+#include "reports/survey.h"
+
+#include <memory>
 
 namespace Hesperin {
 
@@ -14,6 +17,9 @@ struct Program {
     SharedState state;
     MainForm form;
     Platform& platform; // outlives the program
+
+    /// The survey of a mod that is loaded; null when there is none. See app/standing.h.
+    std::shared_ptr<const Survey> survey;
 
     /// A message box with the warning title.
     void Warn(BoxIcon icon, const QString& text) {

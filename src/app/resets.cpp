@@ -1,6 +1,7 @@
 #include "app/resets.h"
 
 #include "app/handlers/box_rules.h"
+#include "app/standing.h"
 #include "catalogue/spell_catalogue.h"
 #include "form/form_lists.h"
 
@@ -43,6 +44,7 @@ void ClearCreature(Program& program) {
         (form.*row.place.label).SetCaption(QString());
     form.txtNC.SetText({});
     form.txtIDC.SetText({});
+    ShowStanding(program);
 }
 
 } // namespace Hesperin

@@ -12,12 +12,8 @@ using namespace Hesperin;
 
 namespace {
 
-const Command* const Commands[] = {&CalcCommand,  &SetCommand, &TableCommand,
-<<<<<<< HEAD
+const Command* const Commands[] = {&CalcCommand,  &SetCommand, &TableCommand, &ApplyCommand,
                                    &CheckCommand, &RunCommand, &TextsCommand};
-=======
-                                   &ApplyCommand, &RunCommand, &TextsCommand};
->>>>>>> w-c
 
 QString Overview() {
     QString text = QStringLiteral("Usage: talmir-cli COMMAND [ARGUMENTS]\n"

@@ -28,13 +28,14 @@ void Hide(std::initializer_list<Control*> controls) {
 }
 
 void HoldMenus(MainForm& form) {
-    Hold(form.frmMain, {&form.mnuFile, &form.mnuOptions, &form.mnuInfo});
+    Hold(form.frmMain, {&form.mnuFile, &form.mnuOptions, &form.mnuInfo, &form.mnuBalance});
     Hold(form.mnuFile,
          {&form.mnuNew, &form.mnuOpen, &form.mnuSave, &form.mnuUpdate, &form.mnuQuit});
     Hold(form.mnuOptions, {&form.mnuLanguage, &form.mnuAlternativeMethod, &form.mnuCalculator,
                            &form.mnuHighContrast});
     Hold(form.mnuLanguage, {&form.mnuEnglish, &form.mnuRussian, &form.mnuFrench, &form.mnuGerman});
     Hold(form.mnuInfo, {&form.mnuHelp, &form.mnuAbout});
+    Hold(form.mnuBalance, {&form.mnuSurvey});
 }
 
 void HoldParameters(MainForm& form) {
@@ -80,7 +81,9 @@ void HoldParameters(MainForm& form) {
 }
 
 void HoldResults(MainForm& form) {
-    Hold(form.Tablus.At(Page::Parameters), {&form.frmMM, &form.frmAM});
+    Hold(form.Tablus.At(Page::Parameters), {&form.frmMM, &form.frmAM, &form.FrameStanding});
+    Hold(form.FrameStanding,
+         {&form.lblStandingDeviation, &form.lblStandingPlace, &form.StandingStrip});
     const auto hold = [&form](const Frame& panel, const ResultPlace& place) {
         (form.*place.heading).SetParent(panel);
         (form.*place.frame).SetParent(panel);
@@ -113,7 +116,7 @@ MainForm::MainForm() {
     Disable({&mnuSave, &mnuUpdate, &mnuFrench, &mnuGerman, &mnuAlternativeMethod, &mnuHelp,
              &FrameIDC, &FrameShots, &txtShots, &FrameMana, &txtMana, &FrameRange, &ComboRange,
              &frmMM, &frmAM, &cmdRAS, &Specabilities(0)});
-    Hide({&frmAM, &FrameAlias, &FrameDiapazon, &RTBTEMP, &RTBSPEC});
+    Hide({&frmAM, &FrameStanding, &FrameAlias, &FrameDiapazon, &RTBTEMP, &RTBSPEC});
     for (auto& text : utbN)
         text.SetVisible(false);
     for (auto& text : utbD)

@@ -7,6 +7,7 @@
 #include "form/check_box.h"
 #include "form/combo_box.h"
 #include "form/control_array.h"
+#include "form/dot_strip.h"
 #include "form/file_dialog.h"
 #include "form/multi_option.h"
 #include "form/stored_text.h"
@@ -40,6 +41,8 @@ struct MainForm : ControlRegistry {
     MenuEntry mnuInfo{*this, "mnuInfo"};
     MenuEntry mnuHelp{*this, "mnuHelp", "F1"};
     MenuEntry mnuAbout{*this, "mnuAbout", "Ctrl+A"};
+    MenuEntry mnuBalance{*this, "mnuBalance"};
+    MenuEntry mnuSurvey{*this, "mnuSurvey", "Ctrl+Shift+S"};
 
     TabControl Tablus{*this, "Tablus", "Tablus.Tab"};
 
@@ -158,6 +161,12 @@ struct MainForm : ControlRegistry {
     Label lblGrowthD{*this, "lblGrowthD"};
     Frame FrameCostD{*this, "FrameCostD"};
     Label lblCostD{*this, "lblCostD"};
+
+    // Page 0, the free middle: where the creature stands in the mod that has been surveyed.
+    Frame FrameStanding{*this, "FrameStanding"};
+    Label lblStandingDeviation{*this, "lblStandingDeviation"};
+    Label lblStandingPlace{*this, "lblStandingPlace"};
+    DotStrip StandingStrip{*this, "StandingStrip"};
 
     // The check-box pages; the caption of each box is the game's token. `soq` are the mastery
     // selectors of the spells, `saz` those of the special abilities (which end in the inert one at

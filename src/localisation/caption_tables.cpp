@@ -23,6 +23,8 @@ constexpr CaptionRow Captions[] = {
     {"mnuInfo",                       {u"Info",               u"Справка",              u"Info",         u"Info"}},
     {"mnuHelp",                       {u"Help",               u"Помощь",               u"Aide",         u"Hilfe"}},
     {"mnuAbout",                      {u"About...",           u"О программе...",       u"A propos...",  u"Ьber programm..."}},
+    {"mnuBalance",                    {u"Balance",            u"Баланс",               nullptr,         nullptr}},
+    {"mnuSurvey",                     {u"Survey…",            u"Обзор…",               nullptr,         nullptr}},
     {"mnuAlternativeMethod",          {u"Alternative method", u"Альтернативный метод", nullptr,         nullptr}},
 
     // Frames
@@ -74,6 +76,7 @@ constexpr CaptionRow Captions[] = {
     {"FrameSME",                  {u"Second Magic Element", u"Второй магич. элемент", nullptr,       nullptr}},
     {"FrameNC",                   {u"Name",                 u"Название",              nullptr,       nullptr}},
     {"FrameIDC",                  {u"ID in TCX",            u"Идентификатор в TCX",   nullptr,       nullptr}},
+    {"FrameStanding",             {u"In the mod",         u"В моде",                nullptr,      nullptr}},
     {"FrameUpgrade",              {u"Upgrade",              u"Улучшение",             nullptr,       nullptr}},
 
     // Labels

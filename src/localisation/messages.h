@@ -123,6 +123,46 @@ struct Messages {
     QString MsgExpected;
     QString MsgLinksNotChecked;
 
+    // Where the creature stands in the mod: deviation in percent (%1), its tier (%2); its place
+    // (%1) among so many (%2).
+    QString StandingDeviation;
+    QString StandingPlace;
+    QString StandingUncomputed;
+    QString StandingNoPower;
+    QString StandingNoTier;
+
+    // The window of the survey. An ampersand stands before the letter that Alt reaches.
+    QString SurveyWindowTitle;
+    QString SurveyWindowFolder;
+    QString SurveyWindowArchives;
+    QString SurveyWindowReload;
+    QString SurveyWindowUnload;
+    QString SurveyWindowCsv;
+    QString SurveyWindowHtml;
+    QString SurveyWindowFilter;
+    QString SurveyWindowFilterHint;
+    QString SurveyWindowTier;
+    QString SurveyWindowTown;
+    QString SurveyWindowAll;
+    QString SurveyWindowOutliers;
+    QString SurveyWindowOutliersTip;
+    QString SurveyWindowShown;
+    QString SurveyWindowRefused;
+    QString SurveyWindowFindings;
+    QString SurveyWindowEmpty;
+    QString SurveyWindowNothing;
+    QString SurveyWindowNoMatch;
+    QString SurveyWindowPacked;
+    QString SurveyWindowWalking;
+    QString SurveyWindowReading;
+    QString SurveyWindowArchiveFiles;
+    QString SurveyWindowCsvFiles;
+    QString SurveyWindowHtmlFiles;
+    QString SurveyWindowSort;
+    QString SurveyWindowFindingSeverity;
+    QString SurveyWindowFindingPlace;
+    QString SurveyWindowFindingWords;
+
     // The survey's page and picture.
     QString SurveyHeading;
     QString SurveyCreatures;

@@ -203,6 +203,10 @@ QString ShownName(const SurveyRow& row) {
     return name.isEmpty() ? row.File().section('/', -1).section('.', 0, 0).simplified() : name;
 }
 
+bool IsOutlier(const SurveyRow& row) {
+    return row.deviation && std::abs(*row.deviation) > OutlierPercent;
+}
+
 QString DeviationText(double deviation, int decimals) {
     const QChar minus(0x2212);
     QString text = QString::number(deviation, 'f', decimals).replace('-', minus);

@@ -53,6 +53,8 @@ struct DeviationPicture {
 /// Percent above which a creature is an outlier, either way.
 inline constexpr double OutlierPercent = 25;
 
+bool IsOutlier(const SurveyRow& row);
+
 /// The size of all texts in the picture, in pixels; the places for them are made for it.
 inline constexpr double DeviationFontSize = 11;
 

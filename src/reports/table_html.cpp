@@ -8,17 +8,12 @@
 #include <QCryptographicHash>
 
 #include <algorithm>
-#include <cmath>
 
 namespace Hesperin {
 
 namespace {
 
 constexpr auto Columns = static_cast<std::size_t>(Column::Count);
-
-bool IsOutlier(const SurveyRow& row) {
-    return row.deviation && std::abs(*row.deviation) > OutlierPercent;
-}
 
 QString CountText(std::size_t count) {
     return QString::number(static_cast<qulonglong>(count));

@@ -55,7 +55,8 @@ void AddRefusedRows(Survey& survey) {
     }
 }
 
-void SortRows(std::vector<SurveyRow>& rows, const RowOrder& order, const Messages& messages) {
+std::vector<std::size_t> SortedPlaces(const std::vector<SurveyRow>& rows, const RowOrder& order,
+                                      const Messages& messages) {
     std::vector<SortKey> keys;
     keys.reserve(rows.size());
     for (const SurveyRow& row : rows)
@@ -65,9 +66,13 @@ void SortRows(std::vector<SurveyRow>& rows, const RowOrder& order, const Message
     std::stable_sort(places.begin(), places.end(), [&](std::size_t a, std::size_t b) {
         return ComesBefore(keys[a], keys[b], order.falling);
     });
+    return places;
+}
+
+void SortRows(std::vector<SurveyRow>& rows, const RowOrder& order, const Messages& messages) {
     std::vector<SurveyRow> sorted;
     sorted.reserve(rows.size());
-    for (const std::size_t place : places)
+    for (const std::size_t place : SortedPlaces(rows, order, messages))
         sorted.push_back(std::move(rows[place]));
     rows = std::move(sorted);
 }

@@ -16,8 +16,12 @@ struct RowOrder {
     bool falling = false;
 };
 
-/// Sorts the rows: numbers as numbers, before words; empty cells last in both directions. Rows of
-/// the same stay in their order.
+/// The places of the rows, sorted: numbers as numbers, before words; empty cells last in both
+/// directions. Rows of the same stay in their order.
+std::vector<std::size_t> SortedPlaces(const std::vector<SurveyRow>& rows, const RowOrder& order,
+                                      const Messages& messages);
+
+/// Sorts the rows the same way.
 void SortRows(std::vector<SurveyRow>& rows, const RowOrder& order, const Messages& messages);
 
 /// Leaves the rows whose deviation is above so many percent, either way.

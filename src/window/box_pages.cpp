@@ -18,16 +18,16 @@ constexpr int SelectorWidth = 1200;
 constexpr int SelectorHeight = 210;
 
 /// Left edge of a column's boxes and selectors, and the width of its boxes.
-struct Column {
+struct BoxColumn {
     int boxLeft;
     int boxWidth;
     int selectorLeft = 0;
 };
 
-constexpr Column AbilityColumns[] = {
+constexpr BoxColumn AbilityColumns[] = {
     {90, 3480}, {3630, 3290}, {6980, 2920}, {9960, 2810}, {12830, 2420}};
-constexpr Column SpellColumns[] = {{1380, 3300, 120}, {6030, 3030, 4755}, {10350, 4800, 9075}};
-constexpr Column SpecabilityColumns[] = {{1380, 3400, 120}, {6120, 4800, 4875}};
+constexpr BoxColumn SpellColumns[] = {{1380, 3300, 120}, {6030, 3030, 4755}, {10350, 4800, 9075}};
+constexpr BoxColumn SpecabilityColumns[] = {{1380, 3400, 120}, {6120, 4800, 4875}};
 
 /// Row and column of the `place`th box, from 0.
 QRect PlaceOf(int place, int left, int width, int height, int top) {
@@ -35,19 +35,19 @@ QRect PlaceOf(int place, int left, int width, int height, int top) {
     return PixelRect(left, FirstRowTop + row * RowPitch, width, height).translated(0, -top);
 }
 
-const Column& ColumnOf(std::span<const Column> columns, int place) {
+const BoxColumn& ColumnOf(std::span<const BoxColumn> columns, int place) {
     return columns[static_cast<std::size_t>(place / RowsPerColumn)];
 }
 
-void AddBox(CheckBox& box, QWidget& page, std::span<const Column> columns, int place, int top) {
-    const Column& column = ColumnOf(columns, place);
+void AddBox(CheckBox& box, QWidget& page, std::span<const BoxColumn> columns, int place, int top) {
+    const BoxColumn& column = ColumnOf(columns, place);
     const QRect rect = PlaceOf(place, column.boxLeft, column.boxWidth, BoxHeight, top);
     new BoxView(box, &page, rect.intersected(page.rect()));
 }
 
 void AddSelector(MultiOption& selector, const CheckBox& box, QWidget& page,
-                 std::span<const Column> columns, int place, int top) {
-    const Column& column = ColumnOf(columns, place);
+                 std::span<const BoxColumn> columns, int place, int top) {
+    const BoxColumn& column = ColumnOf(columns, place);
     const QRect rect = PlaceOf(place, column.selectorLeft, SelectorWidth, SelectorHeight, top);
     new SelectorView(selector, &page, rect.translated(0, 1), box.Caption());
 }

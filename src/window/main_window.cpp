@@ -4,6 +4,7 @@
 #include "app/handlers/options_menu.h"
 #include "window/button_row.h"
 #include "window/palette.h"
+#include "window/survey_window.h"
 #include "window/tab_view.h"
 #include "window/toolkit_words.h"
 #include "window/window_fit.h"
@@ -71,6 +72,7 @@ MainWindow::MainWindow(Program& owner, QSize available) : program(owner) {
 }
 
 MainWindow::~MainWindow() {
+    survey.reset(); // ends what it still reads
     program.form.frmMain.SetView(nullptr);
 }
 
@@ -135,6 +137,12 @@ void MainWindow::dropEvent(QDropEvent* event) {
     const QString file = DraggedFile(*event->mimeData());
     event->acceptProposedAction();
     OpenSoon(file); // or the program that it came from would wait for the message boxes
+}
+
+void MainWindow::ShowSurvey() {
+    if (!survey)
+        survey = std::make_unique<SurveyWindow>(program, *this);
+    survey->ComeForward();
 }
 
 void MainWindow::OpenSoon(const QString& file) {

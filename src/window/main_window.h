@@ -8,6 +8,7 @@
 
 namespace Hesperin {
 
+class SurveyWindow;
 class TabView;
 
 /// The main window: menu bar, tab control and the row of buttons, all views of the program's form.
@@ -21,6 +22,9 @@ public:
 
     /// The widget that shows the control of that name; null when there is none.
     QWidget* WidgetOf(const Control& control) const;
+
+    /// Shows the window of the survey, which is built when it is first asked for.
+    void ShowSurvey();
 
     /// Opens a creature file when the current event has been handled.
     void OpenSoon(const QString& file);
@@ -48,6 +52,7 @@ private:
     QTimer pictured; // the first picture has been painted
     bool ending = false;
     bool painted = false;
+    std::unique_ptr<SurveyWindow> survey;
 };
 
 } // namespace Hesperin

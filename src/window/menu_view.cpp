@@ -43,6 +43,9 @@ const std::vector<MenuPlan>& Plan() {
             {nullptr},
             {&MainForm::mnuAbout,             u"AО"},
         }},
+        {{&MainForm::mnuBalance, u"BБ"}, {
+            {&MainForm::mnuSurvey,            u"SО"},
+        }},
     };
     return plan;
 }

@@ -4,6 +4,7 @@
 #include "window/file_view.h"
 #include "window/parameters_page.h"
 #include "window/results_panels.h"
+#include "window/standing_panel.h"
 #include "window/units.h"
 #include "window/window_fit.h"
 
@@ -98,6 +99,7 @@ void TabView::BuildPage(int page) {
     case Page::Parameters:
         BuildParametersPage(program.form, widget, BarHeight);
         BuildResultPanels(program, widget, BarHeight);
+        standing = std::make_unique<StandingPanel>(program.form, widget, BarHeight);
         break;
     case Page::Abilities:
         BuildAbilitiesPage(program.form, widget, BarHeight);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/program.h"
+#include "window/standing_panel.h"
 
 #include <QScrollArea>
 #include <QStackedWidget>
@@ -36,6 +37,7 @@ private:
     QStackedWidget* stack;
     std::array<bool, TabControl::PageCount> built{};
     std::vector<std::unique_ptr<PageView>> pages;
+    std::unique_ptr<StandingPanel> standing;
 };
 
 } // namespace Hesperin

@@ -128,7 +128,9 @@ void WindowPlatform::SetFocus(Control& control) {
 }
 
 void WindowPlatform::Open(SecondaryWindow which) {
-    if (which == SecondaryWindow::About)
+    if (which == SecondaryWindow::Survey)
+        window->ShowSurvey();
+    else if (which == SecondaryWindow::About)
         new AboutWindow(*program, window);
     else
         new AbilityWindow(*program, window);

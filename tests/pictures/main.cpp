@@ -1,11 +1,53 @@
 // Takes pictures of every page and window in both languages, to be looked at and for the guide:
-//   talmir-pictures FOLDER
+//   talmir-pictures FOLDER [MOD]
+// The survey is that of the mod.
 #include "app/handlers/file_menu.h"
+#include "app/handlers/options_menu.h"
 #include "app/handlers/save_and_update.h"
-#include "window/window_in_use.h"
+#include "window/survey_in_use.h"
 #include "window/windowed_program.h"
 
 using namespace Hesperin;
+
+namespace {
+
+/// The window of the survey as it comes up, with a creature chosen in plain and high contrast, and its findings.
+void TakeSurveyPictures(WindowInUse& use, const QString& mod, const QString& prefix) {
+    use.form.frmAM.SetVisible(false);
+    SurveyInUse survey(use);
+    const auto take = [&](const char* name) {
+        QTest::qWait(50);
+        survey.window.grab().save(prefix + name + ".png");
+    };
+    take("survey-empty");
+    survey.window.Take({mod});
+    if (!QTest::qWaitFor([&] { return survey.Count() > 0; }, 60000))
+        qFatal("no survey");
+    QTest::qWait(100);
+    survey.ClickHeading(Column::Deviation);
+    const auto& rows = use.program.survey->rows;
+    const auto row = std::find_if(rows.begin(), rows.end(), [](const auto& one) { return one.deviation > 25; });
+    if (row != rows.end()) {
+        OpenCreatureFile(use.program, row->place);
+        survey.Find<DeviationView>("SurveyPicture").choose(static_cast<std::size_t>(row - rows.begin()));
+    }
+    take("survey");
+    use.window->grab().save(prefix + "standing.png");
+    mnuHighContrast_Click(use.program);
+    use.Find<QAction>("mnuHighContrast").setChecked(true);
+    take("survey-contrast");
+    mnuHighContrast_Click(use.program);
+    use.Find<QAction>("mnuHighContrast").setChecked(false);
+    survey.Find<QTabWidget>("SurveyPages").setCurrentIndex(1);
+    take("survey-findings");
+    survey.Find<QTabWidget>("SurveyPages").setCurrentIndex(0);
+    survey.window.resize(880, 430);
+    take("survey-small");
+    survey.Press("SurveyUnload");
+    survey.window.close();
+}
+
+} // namespace
 
 int main(int argc, char** argv) {
     const QTemporaryDir settings; // whatever runs beside
@@ -14,6 +56,7 @@ int main(int argc, char** argv) {
     WindowedProgram::DressApplication();
     const QDir folder(QCoreApplication::arguments().value(1, "."));
     folder.mkpath(".");
+    const QString mod = QCoreApplication::arguments().value(2);
     for (const Language language : {English, Russian}) {
         const QString prefix = folder.filePath(language == English ? "en-" : "ru-");
         WindowInUse use(language);
@@ -37,6 +80,8 @@ int main(int argc, char** argv) {
         use.form.Abilities(Ability::Shooter).SetTicked(true);
         use.Focus("Tablus.Bar");
         take("alternative");
+        if (!mod.isEmpty())
+            TakeSurveyPictures(use, mod, prefix);
 
         use.form.utbN(68).SetText("Frightful Presence");
         use.form.utbD(68).SetText("Enemies next to the creature are so frightened that they may flee at the start of "

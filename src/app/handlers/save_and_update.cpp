@@ -1,6 +1,7 @@
 #include "app/handlers/save_and_update.h"
 
 #include "app/creature_in_form.h"
+#include "app/standing.h"
 #include "creature_files/document.h"
 #include "creature_files/scanning.h"
 #include "creature_files/update_plan.h"
@@ -238,11 +239,13 @@ Failure mnuUpdate_Click(Program& program) {
 void SetBaseline(Program& program, const QByteArray& bytes) {
     program.state.baseline = {program.form.ComDialog.FileName, bytes, TakeCreature(program)};
     program.form.mnuUpdate.SetEnabled(true);
+    ShowStanding(program);
 }
 
 void ForgetBaseline(Program& program) {
     program.state.baseline.reset();
     program.form.mnuUpdate.SetEnabled(false);
+    ShowStanding(program);
 }
 
 } // namespace Hesperin

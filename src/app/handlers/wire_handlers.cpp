@@ -1,5 +1,6 @@
 #include "app/handlers/wire_handlers.h"
 
+#include "app/handlers/balance_menu.h"
 #include "app/handlers/box_rules.h"
 #include "app/handlers/buttons.h"
 #include "app/handlers/file_menu.h"
@@ -34,6 +35,7 @@ constexpr Wire<MenuEntry> MenuWires[] = {
     {&MainForm::mnuCalculator, mnuCalculator_Click},
     {&MainForm::mnuHighContrast, mnuHighContrast_Click},
     {&MainForm::mnuAbout, mnuAbout_Click},
+    {&MainForm::mnuSurvey, mnuSurvey_Click},
 };
 
 constexpr Wire<Button> ButtonWires[] = {

@@ -1,0 +1,19 @@
+// The survey that is loaded, and where the creature of the window stands in it.
+#pragma once
+
+#include "app/program.h"
+
+namespace Hesperin {
+
+/// Loads a survey, or takes it away (null).
+void LoadSurvey(Program& program, std::shared_ptr<const Survey> survey);
+
+/// The row of the file that the window shows; none when it isn't in the survey.
+std::optional<std::size_t> RowOfShownFile(const Program& program);
+
+/// Tells in the middle of page 0 how the computed average Power stands to the entered one among the
+/// surveyed creatures of the tier; hides it without a survey. To be called when any of them
+/// changed.
+void ShowStanding(Program& program);
+
+} // namespace Hesperin
