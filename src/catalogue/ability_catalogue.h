@@ -4,9 +4,14 @@
 
 #include "catalogue/ability_index.h"
 
+#include <QStringView>
+
 #include <array>
 
 namespace Hesperin {
+
+/// What stands before an ability's token in the game's files.
+inline constexpr QStringView AbilityPrefix = u"ABILITY_";
 
 /// How the game names the two text files of an ability; eight of them have names of their own, see
 /// AbilityTextFiles.
@@ -16,7 +21,7 @@ enum class TextFileNames : unsigned char {
 };
 
 struct AbilityRow {
-    const char16_t* token; ///< as in creature files, without the prefix ABILITY_
+    const char16_t* token; ///< as in creature files, without AbilityPrefix
     const char16_t* stem;  ///< in the game's own spelling
     float value;
     TextFileNames files;

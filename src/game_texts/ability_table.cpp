@@ -1,5 +1,6 @@
 #include "game_texts/ability_table.h"
 
+#include "catalogue/ability_catalogue.h"
 #include "xml/xml_limits.h"
 
 #include <QXmlStreamReader>
@@ -16,8 +17,6 @@ constexpr qsizetype LongestExpansion = 1 << 20;
 
 /// No path of the game comes near it, in characters.
 constexpr qsizetype LongestReference = 1 << 10;
-
-const QString IdPrefix = QStringLiteral("ABILITY_");
 
 /// The place that a reference in the table leads to: from the data's root, or from the table's
 /// folder; what stands behind # is a place in that file.
@@ -58,8 +57,8 @@ struct Item {
 
     void TakeId(const QString& text) {
         const QString id = text.trimmed().toUpper();
-        if (token.isEmpty() && id.startsWith(IdPrefix))
-            token = id.mid(IdPrefix.size());
+        if (token.isEmpty() && id.startsWith(AbilityPrefix))
+            token = id.mid(AbilityPrefix.size());
     }
 };
 

@@ -141,7 +141,7 @@ constexpr MessageRow Table[] = {
     {&Messages::MsgNo,               {u"No",                                                            u"Нет",                                                      nullptr, nullptr}},
     {&Messages::StandingDeviation, {u"%1 against tier %2", u"%1 к уровню %2", nullptr, nullptr}},
     {&Messages::StandingPlace, {u"Place %1 of %2, strongest for its Power first", u"Место %1 из %2, от самых сильных для своей силы", nullptr, nullptr}},
-    {&Messages::StandingUncomputed, {u"Calculate shows it.", u"Его покажет «Рассчитать».", nullptr, nullptr}},
+    {&Messages::StandingUncomputed, {u"Calculate shows it.", u"Сначала нажмите «Рассчёт».", nullptr, nullptr}},
     {&Messages::StandingNoPower, {u"Its Power is 0, so it can't be compared.", u"Сила равна 0, и сравнить нельзя.", nullptr, nullptr}},
     {&Messages::StandingNoTier, {u"The mod has nothing in tier %1 to compare with.", u"В моде не с чем сравнить уровень %1.", nullptr, nullptr}},
     {&Messages::SurveyWindowTitle, {u"Survey", u"Обзор", nullptr, nullptr}},

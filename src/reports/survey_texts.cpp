@@ -1,5 +1,6 @@
 #include "reports/survey_texts.h"
 
+#include "catalogue/ability_catalogue.h"
 #include "creature_files/elements.h"
 #include "text/escape.h"
 
@@ -97,7 +98,7 @@ private:
     void Take(Column column, const QString& content) {
         QString& cell = row.Text(column);
         if (column == Column::Abilities) {
-            const QStringView word = WithoutPrefix(content, u"ABILITY_");
+            const QStringView word = WithoutPrefix(content, AbilityPrefix);
             if (!cell.isEmpty() && !word.isEmpty())
                 cell += u' ';
             cell += word;

@@ -1,5 +1,6 @@
 #include "reports/table_cells.h"
 
+#include "catalogue/ability_catalogue.h"
 #include "creature_files/change.h"
 #include "text/decimal.h"
 
@@ -8,8 +9,6 @@
 namespace Hesperin {
 
 namespace {
-
-const QString AbilityPrefix = QStringLiteral("ABILITY_");
 
 bool CanBeTold(const Element& element) {
     return TakesNumber(element) || TakesFlag(element) || element.says == Says::ListEntry ||
@@ -77,8 +76,9 @@ Failure ApplyAbilities(const TableCell& cell, EditedFile& file, std::vector<Erro
     }
     for (const QString& word : wanted)
         if (!present.contains(word))
-            if (auto failure = Apply({AbilityList, Change::Does::Add, AbilityPrefix + word}, false,
-                                     file, notes))
+            if (auto failure =
+                    Apply({AbilityList, Change::Does::Add, AbilityPrefix.toString() + word}, false,
+                          file, notes))
                 return failure;
     return {};
 }

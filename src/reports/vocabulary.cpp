@@ -1,5 +1,6 @@
 #include "reports/vocabulary.h"
 
+#include "catalogue/ability_catalogue.h"
 #include "creature_files/file_tokens.h"
 #include "text/nearest.h"
 #include "xml/xml_limits.h"
@@ -16,7 +17,6 @@ constexpr qsizetype LongestTag = 1 << 15;
 /// Of all entities together, in characters.
 constexpr qsizetype LongestEntities = 1 << 20;
 
-constexpr QStringView AbilityPrefix = u"ABILITY_";
 constexpr QStringView SpellPrefix = u"SPELL_";
 constexpr QStringView SpecabilityPrefix = u"SPELL_ABILITY_";
 

@@ -46,7 +46,7 @@ AbilityWindow::AbilityWindow(Program& owner, QWidget* mainWindow)
     : SecondaryWindowView(owner, mainWindow, "frmAbility") {
     const int index = program.state.AbilityInfoIndex;
     const MainForm& form = program.form;
-    setWindowTitle(QLatin1String("ABILITY_") +
+    setWindowTitle(AbilityPrefix.toString() +
                    QString::fromUtf16(AbilityCatalogue[static_cast<std::size_t>(index)].token));
 
     const QString name = form.utbN(index).Text();
