@@ -32,6 +32,9 @@ TEST(Usage, HelpAndVersionGoToStandardOutputAndWrongUsageIsCode2) {
         {"run - --lang", nullptr},
         {"run - --lang ru", nullptr},
         {"run --json -", nullptr},
+        {"table --help", "talmir-cli table"},
+        {"table", nullptr},
+        {"table --json --html page.html .", nullptr},
         {"texts", nullptr},
         {"texts a --lang FR", nullptr},
     };
