@@ -101,6 +101,9 @@ struct SurveyRow {
 /// Number gives it whole.
 QString CellText(const SurveyRow& row, Column column, const Messages& messages);
 
+/// A scale as CellText gives it.
+QString ScaleText(double scale);
+
 struct Survey {
     std::vector<SurveyRow> rows; ///< in the order of their files
     ModScale scale;

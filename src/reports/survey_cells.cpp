@@ -136,8 +136,12 @@ std::optional<double> SurveyRow::Number(Column column) const {
     }
 }
 
+QString ScaleText(double scale) {
+    constexpr double smallest = 0.001;
+    return scale < smallest ? QString::number(scale, 'g', 3) : QString::number(scale, 'f', 4);
+}
+
 QString CellText(const SurveyRow& row, Column column, const Messages& messages) {
-    constexpr int digitsOfScale = 4;
     const ColumnRow& which = RowFor(column);
     if (which.holds == H::Words || which.holds == H::FileNumber)
         return row.Text(column);
@@ -149,7 +153,7 @@ QString CellText(const SurveyRow& row, Column column, const Messages& messages) 
     if (which.holds == H::Product)
         return FloatText(row.product);
     if (which.holds == H::Scale)
-        return QString::number(*number, 'f', digitsOfScale);
+        return ScaleText(*number);
     return which.holds == H::Deviation ? QString::number(*number, 'f', 1) : WholeText(*number);
 }
 

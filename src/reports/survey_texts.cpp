@@ -17,22 +17,31 @@ struct ElementColumn {
     Column column;
 };
 
-const std::vector<ElementColumn>& ElementColumns() {
-    static const std::vector<ElementColumn> all = [] {
-        std::vector<ElementColumn> columns{
-            {QStringLiteral("CreatureTown"), {}, Column::Town},
-            {QStringLiteral("Item"), HeadingOf(Column::Abilities), Column::Abilities}};
-        for (auto i = static_cast<std::size_t>(Column::CreatureTier);
-             i < static_cast<std::size_t>(Column::Abilities); ++i) {
-            const auto column = static_cast<Column>(i);
-            const QString name = HeadingOf(column);
-            for (const Element& element : Elements)
-                if (element.name == name)
-                    columns.push_back({name, element.parent.toString(), column});
-        }
-        return columns;
+std::vector<ElementColumn> ElementColumns() {
+    std::vector<ElementColumn> columns{
+        {QStringLiteral("CreatureTown"), {}, Column::Town},
+        {QStringLiteral("Item"), HeadingOf(Column::Abilities), Column::Abilities}};
+    for (auto i = static_cast<std::size_t>(Column::CreatureTier);
+         i < static_cast<std::size_t>(Column::Abilities); ++i) {
+        const auto column = static_cast<Column>(i);
+        const QString name = HeadingOf(column);
+        for (const Element& element : Elements)
+            if (element.name == name)
+                columns.push_back({name, element.parent.toString(), column});
+    }
+    return columns;
+}
+
+/// The few whose names are of that length: every tag of a document asks.
+const std::vector<ElementColumn>& ColumnsOfLength(qsizetype length) {
+    constexpr std::size_t longest = 16;
+    static const auto all = [] {
+        std::array<std::vector<ElementColumn>, longest + 1> byLength;
+        for (const ElementColumn& column : ElementColumns())
+            byLength.at(static_cast<std::size_t>(column.name.size())).push_back(column);
+        return byLength;
     }();
-    return all;
+    return all[static_cast<std::size_t>(length) > longest ? 0 : static_cast<std::size_t>(length)];
 }
 
 QStringView WithoutPrefix(QStringView word, QStringView prefix) {
@@ -81,7 +90,7 @@ private:
     }
 
     void TakeContent(QStringView name, QStringView parent, qsizetype start) {
-        for (const ElementColumn& column : ElementColumns())
+        for (const ElementColumn& column : ColumnsOfLength(name.size()))
             if (column.name == name && column.parent == parent)
                 return Take(column.column, ContentAt(start));
     }

@@ -24,8 +24,8 @@ constexpr TextColumn Shown[] = {
     {Column::Town,         "Town",               10, false},
     {Column::CreatureTier, "Tier",                4, true},
     {Column::Advised,      "Advised",             7, true},
-    {Column::Power,        "Power",               7, true},
-    {Column::AveragePower, "Average",             7, true},
+    {Column::Power,        "Power",              12, true},
+    {Column::AveragePower, "Average",            12, true},
     {Column::Deviation,    "Deviation",           9, true},
 };
 // clang-format on
@@ -38,9 +38,10 @@ QString ShownCell(const SurveyRow& row, const TextColumn& column, const Messages
     return text;
 }
 
-QString Padded(const QString& text, qsizetype width, bool isRight) {
-    const QString cell = EndOf(text, width);
-    return isRight ? cell.rightJustified(width) : cell.leftJustified(width);
+/// Of a path the end tells most.
+QString Padded(const QString& text, qsizetype width, const TextColumn& column) {
+    const QString cell = column.column == Column::File ? EndOf(text, width) : StartOf(text, width);
+    return column.isRight ? cell.rightJustified(width) : cell.leftJustified(width);
 }
 
 class RowTable {
@@ -75,7 +76,7 @@ private:
         QString line;
         for (std::size_t i = 0; i < std::size(Shown); ++i)
             line += (i > 0 ? QString(Gap, u' ') : QString()) +
-                    Padded(cellOf(Shown[i]), widths[i], Shown[i].isRight);
+                    Padded(cellOf(Shown[i]), widths[i], Shown[i]);
         while (line.endsWith(u' '))
             line.chop(1);
         return line + u'\n';
@@ -92,7 +93,7 @@ QString TiersText(const ModScale& scale) {
         text += QStringLiteral("%1%2%3\n")
                     .arg(tier, 4)
                     .arg(scale.CountOf(tier, Figure::Power), 11)
-                    .arg(QString::number(*scale.Of(tier, Figure::Power), 'f', 4), 8);
+                    .arg(ScaleText(*scale.Of(tier, Figure::Power)), 8);
     return text;
 }
 

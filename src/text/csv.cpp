@@ -19,15 +19,23 @@ QString WithoutGuard(const QString& cell) {
 }
 
 void AppendCsvCell(const QString& cell, QByteArray& line) {
-    const bool plain = std::none_of(cell.begin(), cell.end(), [](QChar character) {
-        return character == u',' || character == u';' || character == u'"' || character == u'\t' ||
-               character == u'\n' || character == u'\r';
-    });
-    if (plain) {
-        line += cell.toUtf8();
-        return;
+    char16_t all = 0;
+    bool isPlain = true;
+    for (const QChar character : cell) {
+        all |= character.unicode();
+        isPlain = isPlain && character != u',' && character != u';' && character != u'"' &&
+                  character != u'\t' && character != u'\n' && character != u'\r';
     }
-    line += '"' + QString(cell).replace(u'"', QLatin1String("\"\"")).toUtf8() + '"';
+    if (!isPlain) {
+        line += '"' + QString(cell).replace(u'"', QLatin1String("\"\"")).toUtf8() + '"';
+    } else if (all < 0x80) { // nearly every cell
+        const qsizetype at = line.size();
+        line.resize(at + cell.size());
+        std::transform(cell.begin(), cell.end(), line.begin() + at,
+                       [](QChar character) { return character.toLatin1(); });
+    } else {
+        line += cell.toUtf8();
+    }
 }
 
 } // namespace Hesperin

@@ -14,6 +14,12 @@ QString Printable(QString text) {
     return text;
 }
 
+QString StartOf(const QString& text, qsizetype width) {
+    if (text.size() <= width)
+        return text;
+    return text.first(text[width - 2].isHighSurrogate() ? width - 2 : width - 1) + QChar(0x2026);
+}
+
 QString EndOf(const QString& text, qsizetype width) {
     if (text.size() <= width)
         return text;

@@ -11,7 +11,9 @@ inline constexpr qsizetype ReportWidth = 100;
 /// Control characters, which could steer a terminal, become "?"; line ends and tabs a blank.
 QString Printable(QString text);
 
-/// At most `width` characters of it; of a longer one the end, behind "…".
+/// At most `width` characters of it; of a longer one the start, with "…" behind, or the end, behind
+/// one.
+QString StartOf(const QString& text, qsizetype width);
 QString EndOf(const QString& text, qsizetype width);
 
 /// The text in lines of at most ReportWidth characters, each behind `indent` blanks, with a line

@@ -39,10 +39,13 @@ public:
             out += u'>';
             text.resize(0); // which keeps its room
         }
-        NewLine(open.size());
-        out += u'<';
-        open.push_back({out.size(), name.size(), !attributes.isEmpty(), false});
-        out += name;
+        const std::size_t level = open.size();
+        QChar* end = Grown(2 + static_cast<qsizetype>(level) + name.size());
+        *end++ = u'\n';
+        end = std::fill_n(end, level, u'\t');
+        *end++ = u'<';
+        std::copy(name.begin(), name.end(), end);
+        open.push_back({out.size() - name.size(), name.size(), !attributes.isEmpty(), false});
         for (const QXmlStreamAttribute& attribute : attributes) {
             out += u' ';
             out += attribute.qualifiedName();
@@ -73,11 +76,11 @@ public:
             out += u'>';
         }
         text.resize(0);
-        out += QLatin1String("</");
-        const qsizetype at = out.size();
-        out.resize(at + element.nameLength);
-        std::copy_n(out.constData() + element.nameAt, element.nameLength, out.data() + at);
-        out += u'>';
+        QChar* end = Grown(3 + element.nameLength);
+        *end++ = u'<';
+        *end++ = u'/';
+        end = std::copy_n(out.constData() + element.nameAt, element.nameLength, end);
+        *end = u'>';
     }
 
     qsizetype Length() const { return out.size(); }
@@ -125,6 +128,13 @@ private:
         default:
             return {};
         }
+    }
+
+    /// Makes room for so many units at the end, and gives the first.
+    QChar* Grown(qsizetype count) {
+        const qsizetype at = out.size();
+        out.resize(at + count);
+        return out.data() + at;
     }
 
     void NewLine(std::size_t level) {

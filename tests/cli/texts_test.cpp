@@ -1,9 +1,7 @@
+#include "cli/archive.h"
 #include "cli/run_cli.h"
 
 #include "game_texts/ability_texts.h"
-
-#include <gtest/gtest.h>
-#include <minizip/zip.h>
 
 #include <QDir>
 #include <QRegularExpression>
@@ -24,24 +22,14 @@ struct TextsTest : testing::Test {
     }
     ~TextsTest() override { qunsetenv("XDG_CONFIG_HOME"); }
 
-    using Entries = std::vector<std::pair<QString, QByteArray>>;
+    using Entries = ArchiveEntries;
 
     QString Path(const QString& name) const { return folder.filePath(name); }
 
     void Write(const QString& name, const QByteArray& bytes) const { WriteFile(Path(name), bytes); }
 
     void WriteArchive(const QString& name, const Entries& entries, unsigned long flags = 0) const {
-        const zipFile zip = zipOpen64(Path("made").toLocal8Bit().constData(), APPEND_STATUS_CREATE);
-        for (const auto& [entry, bytes] : entries) {
-            zip_fileinfo info{};
-            zipOpenNewFileInZip4(zip, entry.toUtf8().constData(), &info, nullptr, 0, nullptr, 0, nullptr, Z_DEFLATED,
-                                 Z_BEST_SPEED, 0, -MAX_WBITS, DEF_MEM_LEVEL, Z_DEFAULT_STRATEGY, nullptr, 0, 0, flags);
-            zipWriteInFileInZip(zip, bytes.constData(), static_cast<unsigned>(bytes.size()));
-            zipCloseFileInZip(zip);
-        }
-        EXPECT_EQ(zipClose(zip, nullptr), ZIP_OK);
-        QFile::remove(Path(name));
-        EXPECT_TRUE(QFile::rename(Path("made"), Path(name)));
+        Hesperin::WriteArchive(Path(name), entries, flags);
     }
 
     /// Takes the texts out of these places.

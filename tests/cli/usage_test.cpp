@@ -40,6 +40,9 @@ TEST(Usage, HelpAndVersionGoToStandardOutputAndWrongUsageIsCode2) {
         {"apply a.csv", nullptr},
         {"apply a.csv b c", nullptr},
         {"apply a.csv b --diff --json", nullptr},
+        {"table --help", "talmir-cli table"},
+        {"table", nullptr},
+        {"table --json --html page.html .", nullptr},
         {"texts", nullptr},
         {"texts a --lang FR", nullptr},
     };

@@ -2,6 +2,7 @@
 
 _talmir_cli() {
     local cur prev words cword
+    local columns='file name town CreatureTier Upgrade AttackSkill DefenceSkill MinDamage MaxDamage Health Speed Initiative Shots SpellPoints Range Power Exp WeeklyGrowth Gold Abilities average.Power average.Exp average.WeeklyGrowth average.Gold product advised scale deviation problem'
     _init_completion || return
     case $cword,${words[1]},$prev,$cur in
         1,*) mapfile -t COMPREPLY < <(compgen -W 'calc set table apply check run texts --help --version' -- "$cur") ;;
@@ -14,6 +15,11 @@ _talmir_cli() {
         *,check,*) _filedir '@(xdb|pak|h5u)' ;;
         *,apply,*,-*) mapfile -t COMPREPLY < <(compgen -W '--write --diff --json --help --version' -- "$cur") ;;
         *,apply,*) _filedir ;;
+        *,table,--sort,*) mapfile -t COMPREPLY < <(compgen -W "$columns" -- "$cur") ;;
+        *,table,--outliers,* | *,table,--jobs,*) ;;
+        *,table,--html,*) _filedir html ;;
+        *,table,*,-*) mapfile -t COMPREPLY < <(compgen -W '--csv --bom --json --html --sort --outliers --against --jobs --help --version' -- "$cur") ;;
+        *,table,*) _filedir '@(xdb|pak|h5u)' ;;
         *,run,--lang,*) mapfile -t COMPREPLY < <(compgen -W 'EN RU' -- "$cur") ;;
         *,run,*,-*) mapfile -t COMPREPLY < <(compgen -W '--keep-going --lang --help --version' -- "$cur") ;;
         *,run,*) _filedir ;;

@@ -26,6 +26,17 @@ complete -c talmir-cli -n '__fish_seen_subcommand_from apply' -l diff -d 'Print 
 complete -c talmir-cli -n '__fish_seen_subcommand_from apply' -l json -d 'Print one JSON object a line and file'
 complete -c talmir-cli -n '__fish_seen_subcommand_from apply' -F
 
+complete -c talmir-cli -n __fish_use_subcommand -a table -d 'Show the creatures of a mod as one table'
+complete -c talmir-cli -n '__fish_seen_subcommand_from table' -l csv -d 'Print all columns as CSV'
+complete -c talmir-cli -n '__fish_seen_subcommand_from table' -l bom -d 'Begin the CSV with a byte-order mark'
+complete -c talmir-cli -n '__fish_seen_subcommand_from table' -l json -d 'Print one JSON document'
+complete -c talmir-cli -n '__fish_seen_subcommand_from table' -l html -r -F -d 'Write a page for a browser'
+complete -c talmir-cli -n '__fish_seen_subcommand_from table' -l sort -x -a 'file name town CreatureTier Upgrade AttackSkill DefenceSkill MinDamage MaxDamage Health Speed Initiative Shots SpellPoints Range Power Exp WeeklyGrowth Gold Abilities average.Power average.Exp average.WeeklyGrowth average.Gold product advised scale deviation problem' -d 'Sort by a column'
+complete -c talmir-cli -n '__fish_seen_subcommand_from table' -l outliers -x -d 'Only creatures that deviate by more percent'
+complete -c talmir-cli -n '__fish_seen_subcommand_from table' -l against -r -F -d 'Tell what another version of the mod has different'
+complete -c talmir-cli -n '__fish_seen_subcommand_from table' -l jobs -x -d 'How many files at once'
+complete -c talmir-cli -n '__fish_seen_subcommand_from table' -k -a '(__fish_complete_suffix .xdb .pak .h5u)'
+
 complete -c talmir-cli -n __fish_use_subcommand -a run -d 'Play a script of user actions'
 complete -c talmir-cli -n '__fish_seen_subcommand_from run' -l lang -x -a 'EN RU' -d 'Language at the start'
 complete -c talmir-cli -n '__fish_seen_subcommand_from run' -l keep-going -d 'Go on behind what cannot be done'
