@@ -1,42 +1,14 @@
 // Whole processes, in turn, each beside its floor: the window to its first complete picture with
 // the 348 ability texts on disk, and the command line on one file.
 #include "lay_texts.h"
+#include "make_mod.h"
 #include "start_pairs.h"
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QFile>
-
-#include <cstdio>
 
 using namespace Hesperin;
 
 static const QString SamplesFolder = QStringLiteral(TALMIR_SOURCE_DIR "/samples/");
-
-namespace {
-
-/// Copies of the samples with other values.
-QStringList MakeMod(const QString& folder, int count) {
-    QDir().mkpath(folder);
-    QList<QByteArray> samples;
-    for (const QString& name : QDir(SamplesFolder).entryList({QStringLiteral("*.xdb")})) {
-        QFile file(SamplesFolder + name);
-        if (file.open(QIODevice::ReadOnly))
-            samples.append(file.readAll());
-    }
-    QStringList paths;
-    for (int i = 0; i < count; ++i) {
-        QByteArray creature = samples[i % samples.size()];
-        creature.replace("<AttackSkill>", "<AttackSkill>" + QByteArray::number(i % 5));
-        paths.append(QStringLiteral("%1/creature_%2.xdb").arg(folder).arg(i));
-        QFile file(paths.constLast());
-        if (file.open(QIODevice::WriteOnly))
-            file.write(creature);
-    }
-    return paths;
-}
-
-} // namespace
 
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);

@@ -51,8 +51,7 @@ double Median(std::vector<double>& times) {
 
 } // namespace
 
-void PrintPair(const char* what, const ProcessCall& figure, const ProcessCall& floor) {
-    constexpr int rounds = 31;
+void PrintPair(const char* what, const ProcessCall& figure, const ProcessCall& floor, int rounds) {
     std::vector<double> figures;
     std::vector<double> floors;
     for (int round = 0; round <= rounds; ++round) {

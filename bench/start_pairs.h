@@ -9,9 +9,10 @@ struct ProcessCall {
     QStringList arguments;
 };
 
-/// Runs the figure and its floor in turn, some thirty times each, and prints the medians of their
-/// wall times and the ratio.
-void PrintPair(const char* what, const ProcessCall& figure, const ProcessCall& floor);
+/// Runs the figure and its floor in turn, so many times each, and prints the medians of their wall
+/// times and the ratio.
+void PrintPair(const char* what, const ProcessCall& figure, const ProcessCall& floor,
+               int rounds = 31);
 
 /// Starts both, waits until they are idle, and prints the memory that each holds and the ratio.
 void PrintMemoryPair(const char* what, const ProcessCall& figure, const ProcessCall& floor);

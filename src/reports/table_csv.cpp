@@ -10,7 +10,9 @@ namespace {
 
 template <typename Append>
 QByteArray LineOf(Append append) {
+    constexpr qsizetype usual = 512;
     QByteArray line;
+    line.reserve(usual);
     for (std::size_t i = 0; i < static_cast<std::size_t>(Column::Count); ++i) {
         if (i > 0)
             line += ',';
@@ -34,10 +36,13 @@ QByteArray CsvHeading() {
 }
 
 QByteArray CsvLine(const SurveyRow& row, const Messages& messages) {
+    const auto isNumber = [&row](Column column) {
+        return HoldsNumbers(column) && row.Number(column);
+    };
     return LineOf([&](Column column, QByteArray& line) {
         const QString text = ExactText(row, column, messages);
-        const bool isNumber = HoldsNumbers(column) && row.Number(column);
-        AppendCsvCell(isNumber ? text : Guarded(text), line);
+        const bool isGuarded = LooksLikeAFormula(text) && !isNumber(column);
+        AppendCsvCell(isGuarded ? Guarded(text) : text, line);
     });
 }
 

@@ -20,7 +20,8 @@ QString WithoutGuard(const QString& cell) {
 
 void AppendCsvCell(const QString& cell, QByteArray& line) {
     const bool plain = std::none_of(cell.begin(), cell.end(), [](QChar character) {
-        return QStringView(u",;\"\t\r\n").contains(character);
+        return character == u',' || character == u';' || character == u'"' || character == u'\t' ||
+               character == u'\n' || character == u'\r';
     });
     if (plain) {
         line += cell.toUtf8();

@@ -37,7 +37,7 @@ public:
         if (!open.empty() && !open.back().hasChildren) {
             open.back().hasChildren = true;
             out += u'>';
-            text.clear();
+            text.resize(0); // which keeps its room
         }
         NewLine(open.size());
         out += u'<';
@@ -67,12 +67,12 @@ public:
             Escape(text, out, false);
         } else if (element.hasAttributes) {
             out += QLatin1String("/>");
-            text.clear();
+            text.resize(0);
             return;
         } else {
             out += u'>';
         }
-        text.clear();
+        text.resize(0);
         out += QLatin1String("</");
         const qsizetype at = out.size();
         out.resize(at + element.nameLength);
@@ -98,18 +98,32 @@ private:
         });
     }
 
+    /// What needs no reference, nearly all, goes over in one piece.
     static void Escape(QStringView characters, QString& target, bool inAttribute) {
-        for (const QChar character : characters) {
-            if (character == u'&')
-                target += QLatin1String("&amp;");
-            else if (character == u'<')
-                target += QLatin1String("&lt;");
-            else if (character == u'>')
-                target += QLatin1String("&gt;");
-            else if (inAttribute && character == u'"')
-                target += QLatin1String("&quot;");
-            else
-                target += character;
+        qsizetype done = 0;
+        for (qsizetype at = 0; at < characters.size(); ++at) {
+            const QLatin1String reference = ReferenceFor(characters[at], inAttribute);
+            if (reference.isEmpty())
+                continue;
+            target += characters.sliced(done, at - done);
+            target += reference;
+            done = at + 1;
+        }
+        target += characters.sliced(done);
+    }
+
+    static QLatin1String ReferenceFor(QChar character, bool inAttribute) {
+        switch (character.unicode()) {
+        case u'&':
+            return QLatin1String("&amp;");
+        case u'<':
+            return QLatin1String("&lt;");
+        case u'>':
+            return QLatin1String("&gt;");
+        case u'"':
+            return inAttribute ? QLatin1String("&quot;") : QLatin1String();
+        default:
+            return {};
         }
     }
 
