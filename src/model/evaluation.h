@@ -16,4 +16,7 @@ struct Evaluation {
 
 Evaluation Evaluate(const EnteredParameters& entered);
 
+/// The same, with every step added to `record`, which already has those of the product.
+Evaluation Evaluate(const EnteredParameters& entered, Record& record);
+
 } // namespace Hesperin
