@@ -20,8 +20,10 @@ struct Command {
 };
 
 extern const Command CalcCommand;
+extern const Command ExplainCommand;
 extern const Command RunCommand;
 extern const Command SetCommand;
+extern const Command SolveCommand;
 extern const Command TextsCommand;
 
 } // namespace Hesperin

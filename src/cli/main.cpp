@@ -12,7 +12,8 @@ using namespace Hesperin;
 
 namespace {
 
-const Command* const Commands[] = {&CalcCommand, &SetCommand, &RunCommand, &TextsCommand};
+const Command* const Commands[] = {&CalcCommand, &ExplainCommand, &SolveCommand,
+                                   &SetCommand,  &RunCommand,     &TextsCommand};
 
 QString Overview() {
     QString text = QStringLiteral("Usage: talmir-cli COMMAND [ARGUMENTS]\n"
@@ -20,7 +21,7 @@ QString Overview() {
                                   "Commands:\n");
     for (const Command* command : Commands)
         text += QStringLiteral("  %1  %2\n")
-                    .arg(QLatin1String(command->name), -6)
+                    .arg(QLatin1String(command->name), -7)
                     .arg(QLatin1String(command->summary));
     text += QLatin1String("\nOptions:\n"
                           "  -h, --help     Shows this help, or that of a command.\n"

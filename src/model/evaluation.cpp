@@ -28,4 +28,11 @@ Evaluation Evaluate(const EnteredParameters& entered, Record& record) {
     return EvaluateWith(entered, record);
 }
 
+std::optional<double> ResultReached(const Evaluation& evaluation, Method method, Figure figure) {
+    const bool beforeTheStop = figure == Figure::Power && method != Method::Average;
+    if (!evaluation.figures && !beforeTheStop)
+        return std::nullopt;
+    return ResultOf(evaluation.powers, evaluation.figures.value_or(Figures()), method, figure);
+}
+
 } // namespace Hesperin

@@ -84,15 +84,15 @@ Figures FiguresWith(Record&& record, const Parameters& parameters, const Powers&
         record.Step("exp_hesperin", figures.ExpHesperin,
                     ExperienceWith(record, "exp_hesperin_exact", hesperin, expDivisor));
 
-    // Plain and upgraded growth numerator added up; the second method takes their mean. The 1.6
-    // here is a 64-bit constant and not the creature's own upgrade factor.
     const auto growthBase = record.Step("growth_base", GrowthBase[row]);
-    const auto both = record.Step("both_numerators", growthBase / 1.6 + growthBase);
     const auto ownNumerator = record.Step(
         "growth_numerator_exact",
         growthBase / record.Known("UpgradeFactor", static_cast<double>(parameters.UpgradeFactor)));
     const auto numerator =
         record.Step("growth_numerator", figures.GrowthNumerator, RoundTo16Bits(ownNumerator));
+    // Plain and upgraded growth numerator added up; the second method takes their mean. The 1.6
+    // here is a 64-bit constant and not the creature's own upgrade factor.
+    const auto both = record.Step("both_numerators", growthBase / 1.6 + growthBase);
     if (tier >= FirstTierOfFixedGrowth) {
         const std::int16_t fixed =
             FixedGrowth[static_cast<std::size_t>(tier - FirstTierOfFixedGrowth)];
@@ -127,15 +127,15 @@ Figures FiguresWith(Record&& record, const Parameters& parameters, const Powers&
     const auto half = record.Step("cost_hesperin_exact", 0.5 * wholeDouble);
     const auto costHesperin = record.Step("cost_hesperin", figures.CostHesperin, WholeValue(half));
 
-    record.Step("cost_average", figures.CostAverage,
-                AverageWith(record, "cost_average_exact", costHesperin, costRolvane));
+    record.Step("power_average", figures.PowerAverage,
+                AverageWith(record, "power_average_exact", rolvane, hesperin));
+    record.Step("exp_average", figures.ExpAverage,
+                RoundTo16Bits(AverageWith(record, "exp_average_exact", expHesperin, expRolvane)));
     record.Step(
         "growth_average", figures.GrowthAverage,
         RoundTo16Bits(AverageWith(record, "growth_average_exact", growthHesperin, growthRolvane)));
-    record.Step("exp_average", figures.ExpAverage,
-                RoundTo16Bits(AverageWith(record, "exp_average_exact", expHesperin, expRolvane)));
-    record.Step("power_average", figures.PowerAverage,
-                AverageWith(record, "power_average_exact", rolvane, hesperin));
+    record.Step("cost_average", figures.CostAverage,
+                AverageWith(record, "cost_average_exact", costHesperin, costRolvane));
     return figures;
 }
 

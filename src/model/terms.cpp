@@ -14,28 +14,42 @@ using Binding = Traced::Binding;
 
 constexpr std::size_t RoomForANumber = 400; // without an exponent the largest has 309 digits
 
+constexpr int MostDecimals = 17;
+
+/// So many that a number has seven digits.
+int DecimalsOf(double value) {
+    constexpr int digits = 7;
+    const double size = std::abs(value);
+    const int before = size < 1 ? 1 : 1 + static_cast<int>(std::log10(size));
+    return std::max(digits - before, 0);
+}
+
+/// Without zeros at the end.
 QString FixedNumber(double value, int decimals) {
     std::array<char, RoomForANumber> buffer;
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
                                    std::chars_format::fixed, decimals);
     QString text = QString::fromLatin1(buffer.data(), end.ptr - buffer.data());
-    while (decimals > 0 && (text.endsWith(u'0') || text.endsWith(u'.')))
-        if (const bool atPoint = text.endsWith(u'.'); text.chop(1), atPoint)
-            break;
+    if (!text.contains(u'.'))
+        return text;
+    while (text.endsWith(u'0'))
+        text.chop(1);
+    if (text.endsWith(u'.'))
+        text.chop(1);
     return text;
 }
 
 } // namespace
 
 QString ReadableNumber(double value) {
-    constexpr int digits = 7;
-    constexpr int mostDecimals = 17;
-    const double size = std::abs(value);
-    const int before = size < 1 ? 1 : 1 + static_cast<int>(std::log10(size));
-    int decimals = std::clamp(digits - before, 0, mostDecimals);
-    QString text = FixedNumber(value, decimals);
-    while (WholeValue(text.toDouble()) != WholeValue(value) && decimals < mostDecimals)
-        text = FixedNumber(value, ++decimals);
+    return FixedNumber(value, DecimalsOf(value));
+}
+
+QString NumberBeforeCut(double value) {
+    QString text = ReadableNumber(value);
+    for (int decimals = DecimalsOf(value);
+         decimals < MostDecimals && WholeValue(text.toDouble()) != WholeValue(value); ++decimals)
+        text = FixedNumber(value, decimals + 1);
     return text;
 }
 

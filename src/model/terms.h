@@ -22,8 +22,11 @@ struct Term {
     double value = 0;
 };
 
-/// A number for a person, with about seven digits; more where the rest decides how WholeValue cuts.
+/// A number for a person, with about seven digits.
 QString ReadableNumber(double value);
+
+/// The same of one that WholeValue cuts, with more digits where they decide what becomes of it.
+QString NumberBeforeCut(double value);
 
 /// The shortest decimal number that is exactly this one, without an exponent.
 QString ExactNumber(double value);
