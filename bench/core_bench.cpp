@@ -15,6 +15,7 @@
 #include "creature_files/writer.h"
 #include "game_texts/ability_texts.h"
 #include "model/formulas.h"
+#include "model/search.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -67,6 +68,32 @@ void CalculateFromFields(benchmark::State& state) {
     opened.platform.messages.clear();
 }
 BENCHMARK(CalculateFromFields);
+
+/// Of every value of the seven parameters, each tried once.
+void PowersOfEachValue(benchmark::State& state) {
+    OpenedProgram opened;
+    Parameters parameters = opened.program.state.parameters;
+    int values = 0;
+    for (std::size_t i = 0; i < PowerParameters; ++i) {
+        const ValueRange range = RangeOf(parameters, static_cast<Parameter>(i));
+        values += range.highest - range.lowest + 1;
+    }
+    for (auto _ : state)
+        for (int i = 0; i < values; ++i) {
+            benchmark::DoNotOptimize(parameters);
+            benchmark::DoNotOptimize(ComputePowers(parameters));
+        }
+}
+BENCHMARK(PowersOfEachValue);
+
+void SolveForAPower(benchmark::State& state) {
+    OpenedProgram opened;
+    const Parameters& parameters = opened.program.state.parameters;
+    for (auto _ : state)
+        for (std::size_t i = 0; i < PowerParameters; ++i)
+            benchmark::DoNotOptimize(Solve(parameters, static_cast<Parameter>(i), {2000, 2000}));
+}
+BENCHMARK(SolveForAPower);
 
 void XmlParserAlone(benchmark::State& state) {
     const QByteArray bytes = SampleBytes();
@@ -189,6 +216,7 @@ int main(int argc, char** argv) {
     return RunAndPrintRatios(
         argc, argv,
         {{"Calculate from fields to labels", "CalculateFromFields", "BareFormulas"},
+         {"Search of seven parameters for a Power", "SolveForAPower", "PowersOfEachValue"},
          {"Opening a creature file from memory", "OpenFromMemory", "XmlParserAlone"},
          {"Saving a full creature file", "SaveCommand", "SaveBytesAlone"},
          {"Language switch, 348 texts", "SwitchLanguage", "ReadTextsAlone"}});

@@ -22,8 +22,10 @@ struct Command {
 extern const Command ApplyCommand;
 extern const Command CalcCommand;
 extern const Command CheckCommand;
+extern const Command ExplainCommand;
 extern const Command RunCommand;
 extern const Command SetCommand;
+extern const Command SolveCommand;
 extern const Command TableCommand;
 extern const Command TextsCommand;
 

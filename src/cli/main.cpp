@@ -12,8 +12,9 @@ using namespace Hesperin;
 
 namespace {
 
-const Command* const Commands[] = {&CalcCommand,  &SetCommand, &TableCommand, &ApplyCommand,
-                                   &CheckCommand, &RunCommand, &TextsCommand};
+const Command* const Commands[] = {&CalcCommand,  &SetCommand,   &TableCommand,
+                                   &ApplyCommand, &CheckCommand, &ExplainCommand,
+                                   &SolveCommand, &RunCommand,   &TextsCommand};
 
 QString Overview() {
     QString text = QStringLiteral("Usage: talmir-cli COMMAND [ARGUMENTS]\n"
@@ -21,7 +22,7 @@ QString Overview() {
                                   "Commands:\n");
     for (const Command* command : Commands)
         text += QStringLiteral("  %1  %2\n")
-                    .arg(QLatin1String(command->name), -6)
+                    .arg(QLatin1String(command->name), -7)
                     .arg(QLatin1String(command->summary));
     text += QLatin1String("\nOptions:\n"
                           "  -h, --help     Shows this help, or that of a command.\n"

@@ -16,4 +16,16 @@ std::int16_t AdviseTier(double power);
 
 Advice AdviseOn(const Parameters& parameters, double powerAverage);
 
+/// The same, with every step added to `record`.
+Advice AdviseOn(const Parameters& parameters, double powerAverage, Record& record);
+
+/// The average Powers, both ends included, that advise a tier.
+struct PowerBand {
+    double lowest = 1;
+    double highest = 0; ///< infinite for tier 8
+};
+
+/// The band of a tier from 1 to 8.
+PowerBand BandOf(std::int16_t tier);
+
 } // namespace Hesperin

@@ -16,4 +16,11 @@ struct Evaluation {
 
 Evaluation Evaluate(const EnteredParameters& entered);
 
+/// The same, with every step added to `record`, which already has those of the product.
+Evaluation Evaluate(const EnteredParameters& entered, Record& record);
+
+/// One of the twelve results, as far as the evaluation got: a zero Power stops it behind the two
+/// Powers.
+std::optional<double> ResultReached(const Evaluation& evaluation, Method method, Figure figure);
+
 } // namespace Hesperin

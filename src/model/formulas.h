@@ -2,6 +2,7 @@
 #pragma once
 
 #include "catalogue/results.h"
+#include "model/terms.h"
 #include "model/validation.h"
 
 namespace Hesperin {
@@ -39,6 +40,9 @@ struct Powers {
 
 Powers ComputePowers(const Parameters& parameters);
 
+/// The same, with every step added to `record`.
+Powers ComputePowers(const Parameters& parameters, Record& record);
+
 /// What follows from the two Powers. With them, all twelve results.
 struct Figures {
     double PowerAverage = 0;
@@ -59,6 +63,7 @@ struct Figures {
 /// `powers.PowerRolvane` must not be 0. The second method's Growth and Cost lean on the first
 /// method's Power, and the first method's Cost on both.
 Figures ComputeFigures(const Parameters& parameters, const Powers& powers);
+Figures ComputeFigures(const Parameters& parameters, const Powers& powers, Record& record);
 
 /// One of the twelve results.
 double ResultOf(const Powers& powers, const Figures& figures, Method method, Figure figure);

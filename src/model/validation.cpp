@@ -90,6 +90,51 @@ private:
     Validated result;
 };
 
+using AbilityValues = std::array<float, Ability::Count + 1>;
+
+/// `counts` tells which abilities are a step of their own; an unticked one has the value 1.
+template <typename Record, typename Counts>
+float ProductWith(Record&& record, const AbilityValues& values, Counts counts) {
+    typename std::remove_reference_t<Record>::Product product = 1.0F;
+    for (std::size_t i = 1; i < values.size(); ++i)
+        if (counts(i))
+            product = record.Step("product_", AbilityCatalogue[i].token,
+                                  CutTo32Bits(product * values[i]));
+    float result = 1.0F;
+    record.Step("product", result, product);
+    return result;
+}
+
+EnteredParameters EnteredWith(const Creature& creature, float product) {
+    const auto number = [&creature](NumberField field) {
+        return QStringView(creature.Numbers[field]);
+    };
+    const auto choice = [&creature](ListField list) {
+        return QStringView(creature.Choices[list].text);
+    };
+    return {number(NumberField::Attack),
+            number(NumberField::Defence),
+            number(NumberField::Health),
+            number(NumberField::MinDam),
+            number(NumberField::MaxDam),
+            choice(ListField::Speed),
+            choice(ListField::Initiative),
+            choice(ListField::Tier),
+            number(NumberField::Mana),
+            number(NumberField::Shots),
+            creature.Has(Ability::Caster),
+            creature.Has(Ability::Shooter),
+            product,
+            UpgradeFactorOf(choice(ListField::Upgrade))};
+}
+
+AbilityValues ValuesOf(const Creature& creature) {
+    AbilityValues values{};
+    for (std::size_t i = 1; i < values.size(); ++i)
+        values[i] = creature.Abilities[i] ? AbilityCatalogue[i].value : 1.0F;
+    return values;
+}
+
 } // namespace
 
 std::int16_t Parameters::*Parameters::Member(Parameter which) {
@@ -104,40 +149,22 @@ Validated Validate(const EnteredParameters& entered) {
 }
 
 EnteredParameters EnteredOf(const Creature& creature) {
-    const auto number = [&creature](NumberField field) {
-        return QStringView(creature.Numbers[field]);
-    };
-    const auto choice = [&creature](ListField list) {
-        return QStringView(creature.Choices[list].text);
-    };
-    std::array<float, Ability::Count + 1> values{};
-    for (std::size_t i = 1; i < values.size(); ++i)
-        values[i] = creature.Abilities[i] ? AbilityCatalogue[i].value : 1.0F;
-    return {number(NumberField::Attack),
-            number(NumberField::Defence),
-            number(NumberField::Health),
-            number(NumberField::MinDam),
-            number(NumberField::MaxDam),
-            choice(ListField::Speed),
-            choice(ListField::Initiative),
-            choice(ListField::Tier),
-            number(NumberField::Mana),
-            number(NumberField::Shots),
-            creature.Has(Ability::Caster),
-            creature.Has(Ability::Shooter),
-            ProductOf(values),
-            UpgradeFactorOf(choice(ListField::Upgrade))};
+    return EnteredWith(creature, ProductOf(ValuesOf(creature)));
+}
+
+EnteredParameters EnteredOf(const Creature& creature, Record& record) {
+    return EnteredWith(creature,
+                       ProductWith(record, ValuesOf(creature), [&creature](std::size_t ability) {
+                           return creature.Abilities[ability];
+                       }));
 }
 
 float UpgradeFactorOf(QStringView entry) {
     return entry == u"False" ? PlainFactor : UpgradedFactor;
 }
 
-float ProductOf(const std::array<float, Ability::Count + 1>& values) {
-    float product = 1.0F;
-    for (std::size_t i = 1; i < values.size(); ++i)
-        product *= values[i];
-    return product;
+float ProductOf(const AbilityValues& values) {
+    return ProductWith(Unrecorded{}, values, [](std::size_t) { return true; });
 }
 
 } // namespace Hesperin

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "model/creature.h"
+#include "model/terms.h"
 
 #include <vector>
 
@@ -86,6 +87,9 @@ Validated Validate(const EnteredParameters& entered);
 
 /// The parameters of a creature, with the product of its abilities' values.
 EnteredParameters EnteredOf(const Creature& creature);
+
+/// The same, with a step a ticked ability added to `record`.
+EnteredParameters EnteredOf(const Creature& creature, Record& record);
 
 /// The upgrade factor behind the entry chosen in the list Upgrade: 1.0 for "False", 1.6 for any
 /// other text.

@@ -44,17 +44,8 @@ constexpr MethodColumn MethodColumns[] = {
     {Method::Average, "average", "Average"},
 };
 
-/// The result, if the calculation got so far: a zero Power stops it behind the two Powers.
 std::optional<double> Reached(const CalcReport& report, Method method, Figure figure) {
-    const Evaluation& evaluation = report.evaluation;
-    const bool beforeTheStop = figure == Figure::Power && method != Method::Average;
-    if (report.refusal || (!evaluation.figures && !beforeTheStop))
-        return std::nullopt;
-    return ResultOf(evaluation.powers, evaluation.figures.value_or(Figures()), method, figure);
-}
-
-QJsonValue OrNull(std::optional<double> number) {
-    return number ? QJsonValue(*number) : QJsonValue();
+    return report.refusal ? std::nullopt : ResultReached(report.evaluation, method, figure);
 }
 
 QJsonObject FiguresJson(const CalcReport& report) {
@@ -63,7 +54,7 @@ QJsonObject FiguresJson(const CalcReport& report) {
         QJsonObject methods;
         for (const MethodColumn& column : MethodColumns)
             methods.insert(QLatin1String(column.key),
-                           OrNull(Reached(report, column.method, row.figure)));
+                           NumberOrNull(Reached(report, column.method, row.figure)));
         figures.insert(QLatin1String(row.key), methods);
     }
     return figures;

@@ -24,6 +24,10 @@ QByteArray JsonLine(const QJsonObject& object) {
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }
 
+QJsonValue NumberOrNull(std::optional<double> number) {
+    return number ? QJsonValue(*number) : QJsonValue();
+}
+
 QJsonArray MessagesJson(const std::vector<ShownMessage>& messages) {
     QJsonArray list;
     for (const ShownMessage& message : messages)

@@ -5,9 +5,16 @@ _talmir_cli() {
     local columns='file name town CreatureTier Upgrade AttackSkill DefenceSkill MinDamage MaxDamage Health Speed Initiative Shots SpellPoints Range Power Exp WeeklyGrowth Gold Abilities average.Power average.Exp average.WeeklyGrowth average.Gold product advised scale deviation problem'
     _init_completion || return
     case $cword,${words[1]},$prev,$cur in
-        1,*) mapfile -t COMPREPLY < <(compgen -W 'calc set table apply check run texts --help --version' -- "$cur") ;;
+        1,*) mapfile -t COMPREPLY < <(compgen -W 'calc set table apply check explain solve run texts --help --version' -- "$cur") ;;
         *,calc,*,-*) mapfile -t COMPREPLY < <(compgen -W '--json --help --version' -- "$cur") ;;
         *,calc,*) _filedir xdb ;;
+        *,explain,--lang,* | *,solve,--lang,*) mapfile -t COMPREPLY < <(compgen -W 'EN RU' -- "$cur") ;;
+        *,explain,*,-*) mapfile -t COMPREPLY < <(compgen -W '--json --lang --help --version' -- "$cur") ;;
+        *,explain,*) _filedir xdb ;;
+        *,solve,--vary,*) mapfile -t COMPREPLY < <(compgen -W 'Attack Defence MinDam MaxDam Health Speed Initiative Tier' -- "$cur") ;;
+        *,solve,--scale-of,*) _filedir xdb ;;
+        *,solve,*,-*) mapfile -t COMPREPLY < <(compgen -W '--vary --scale-of --json --lang --help --version' -- "$cur") ;;
+        *,solve,*) _filedir xdb ;;
         *,set,--scale-of,*) _filedir xdb ;;
         *,set,*,-*) mapfile -t COMPREPLY < <(compgen -W '--write --diff --json --any-word --scale-of --help --version' -- "$cur") ;;
         *,set,*) _filedir xdb ;;
