@@ -130,8 +130,10 @@ void DeviationView::PaintPanel(QPainter& painter, const DeviationPanel& panel) c
     painter.setFont(PictureFont(true));
     write(panel.titlePlace, Fill(messages.PictureTier, {QString::number(panel.tier)}));
     painter.setFont(PictureFont(false));
-    for (const DeviationPoint& point : panel.points)
-        PaintPoint(painter, point);
+    for (const bool above : {false, true}) // what matters lies on the others
+        for (const DeviationPoint& point : panel.points)
+            if ((point.current || point.row == selected) == above)
+                PaintPoint(painter, point);
 }
 
 void DeviationView::PaintPoint(QPainter& painter, const DeviationPoint& point) const {

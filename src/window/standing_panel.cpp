@@ -42,7 +42,7 @@ protected:
         reach = std::min(std::max(reach, std::abs(*values.mark)), 4 * OutlierPercent);
         const double middle = Middle();
         const auto across = [&](double value) {
-            const double half = width() / 2.0 - 2 * Radius;
+            const double half = width() / 2.0 - 2 * Radius - 1;
             return width() / 2.0 + half * std::clamp(value / reach, -1.0, 1.0);
         };
         PaintScale(painter, across);

@@ -73,6 +73,7 @@ SurveyPages::SurveyPages(const Program& owner)
     halves->setStretchFactor(0, 3);
     halves->setStretchFactor(1, 2);
     halves->setChildrenCollapsible(false);
+    halves->setSizes({320, 260});
     addTab(halves, QString());
     addTab(findingsTable, QString());
 }
