@@ -12,7 +12,7 @@ using namespace Hesperin;
 
 namespace {
 
-const Command* const Commands[] = {&CalcCommand, &SetCommand, &TableCommand,
+const Command* const Commands[] = {&CalcCommand,  &SetCommand, &TableCommand,
                                    &CheckCommand, &RunCommand, &TextsCommand};
 
 QString Overview() {
