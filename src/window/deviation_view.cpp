@@ -24,9 +24,10 @@ QFont PictureFont(bool bold) {
     return font;
 }
 
-QColor Faded(QRgb colour, int alpha) {
+/// What lies below shines through.
+QColor Faded(QRgb colour) {
     QColor faded(colour);
-    faded.setAlpha(alpha);
+    faded.setAlpha(150);
     return faded;
 }
 
@@ -143,8 +144,8 @@ void DeviationView::PaintPoint(QPainter& painter, const DeviationPoint& point) c
                                         : colours.Accent;
     const QPointF middle(point.x, point.y);
     const double radius = picture.radius + (point.current ? 1.5 : 0);
-    painter.setPen(point.current ? QColor(colours.Text) : Faded(colour, 255));
-    painter.setBrush(Faded(colour, point.current ? 255 : 150));
+    painter.setPen(QColor(point.current ? colours.Text : colour));
+    painter.setBrush(point.current ? QColor(colour) : Faded(colour));
     painter.drawEllipse(middle, radius, radius);
     if (point.row == selected) {
         painter.setBrush(Qt::NoBrush);

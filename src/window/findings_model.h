@@ -12,8 +12,7 @@ class FindingsModel : public QAbstractTableModel {
 public:
     enum Part : std::uint8_t { Kind, File, Line, Words, PartCount };
 
-    FindingsModel(const Program& owner, const SurveyView& viewed)
-        : program(owner), view(viewed) {}
+    FindingsModel(const Program& owner, const SurveyView& viewed) : program(owner), view(viewed) {}
 
     /// The survey or its view is another, or the language.
     void LookAgain();
