@@ -102,6 +102,10 @@ struct Messages {
     QString MsgUpdateTitle;
     QString MsgUndoStep;
     QString MsgRedoStep;
+    QString MsgRecoverTitle;
+    QString MsgRecover;
+    QString MsgRecoveredAlone;
+    QString MsgRecoveryUnread;
     QString MsgWrite;
     QString MsgReplaceIt;
     QString MsgUpdateIt;

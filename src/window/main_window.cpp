@@ -99,6 +99,8 @@ void MainWindow::FinishStart() {
     HaveToolkitSpeakRussian(russian->isChecked());
     LoadTextsOfAbilities(program);
     BuildShortcuts();
+    recovery = std::make_unique<RecoveryWatch>(program);
+    recovery->Offer();
 }
 
 /// The keys that no entry of the menu bar has.
@@ -121,6 +123,12 @@ void MainWindow::BuildShortcuts() {
         on(keys, [this] { tabs->ShowNeighbour(1); });
     for (const char* keys : {"Ctrl+Shift+Tab", "Ctrl+PgUp"})
         on(keys, [this] { tabs->ShowNeighbour(-1); });
+}
+
+void MainWindow::LetGo() {
+    ending = true;
+    if (recovery)
+        recovery->End();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
