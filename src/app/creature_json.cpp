@@ -10,6 +10,15 @@ namespace {
 
 constexpr int LastMastery = 4;
 
+/// Lists whose entries follow the language have as many as the list with the game's words.
+int LastEntry(ListField list) {
+    if (list == ListField::Faction)
+        list = ListField::Alias;
+    if (list == ListField::Range)
+        list = ListField::Diapazon;
+    return static_cast<int>(ListCatalogue[list].entries.size()) - 1;
+}
+
 template <std::size_t Count>
 QJsonArray MasteriesOf(const std::array<Skill, Count>& skills) {
     QJsonArray pairs;
@@ -98,12 +107,12 @@ std::optional<Creature> CreatureFromJson(const QJsonObject& json) {
     const QJsonArray numbers = values.Array("Numbers", creature.Numbers.items.size());
     for (QString& number : creature.Numbers)
         number = values.Text(numbers.at(place++));
-    constexpr int mostEntries = 1000; // the lists leave out what they don't have
-    place = 0;
     const QJsonArray choices = values.Array("Choices", creature.Choices.items.size());
-    for (Choice& choice : creature.Choices) {
-        const QJsonArray pair = choices.at(place++).toArray();
-        choice = {values.Number(pair.at(0), -1, mostEntries), values.Text(pair.at(1))};
+    for (std::size_t list = 0; list < creature.Choices.items.size(); ++list) {
+        const QJsonArray pair = choices.at(static_cast<qsizetype>(list)).toArray();
+        creature.Choices.items[list] = {
+            values.Number(pair.at(0), -1, LastEntry(static_cast<ListField>(list))),
+            values.Text(pair.at(1))};
     }
     for (const auto ability : values.Array("Abilities"))
         creature.Set(values.Number(ability, 1, Ability::Count), true);

@@ -71,7 +71,7 @@ void History::KeepStep() {
     }
     undone.clear();
     if (state.creatureNumber != creatureBefore)
-        files[creatureBefore] = std::move(fileBefore);
+        files[creatureBefore] = Pack(std::move(fileBefore));
     done.push_back(
         {control, std::move(before), std::move(now), creatureBefore, state.creatureNumber});
     if (done.size() > Depth)
@@ -111,8 +111,8 @@ void History::Redo() {
 void History::Go(const WindowState& state, std::uint32_t creature) {
     std::uint32_t& shown = program.state.creatureNumber;
     if (shown != creature) {
-        files[shown] = TakeFilePart(program);
-        SetFilePart(program, files[creature]);
+        files[shown] = Pack(TakeFilePart(program));
+        SetFilePart(program, Unpack(files[creature]));
         files.erase(creature);
         shown = creature;
     }

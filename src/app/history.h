@@ -48,7 +48,7 @@ private:
     Program& program;
     std::deque<Step> done;
     std::vector<Step> undone;
-    std::map<std::uint32_t, FilePart> files; ///< by creature, of those that aren't shown
+    std::map<std::uint32_t, PackedFilePart> files; ///< by creature, of those that aren't shown
 
     // Of the act that goes on.
     int depth = 0;
