@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/history.h"
 #include "app/platform.h"
 #include "app/shared_state.h"
 #include "form/main_form.h"
@@ -17,6 +18,7 @@ struct Program {
     SharedState state;
     MainForm form;
     Platform& platform; // outlives the program
+    History history{*this};
 
     /// The survey of a mod that is loaded; null when there is none. See app/standing.h.
     std::shared_ptr<const Survey> survey;

@@ -43,6 +43,9 @@ struct MainForm : ControlRegistry {
     MenuEntry mnuAbout{*this, "mnuAbout", "Ctrl+A"};
     MenuEntry mnuBalance{*this, "mnuBalance"};
     MenuEntry mnuSurvey{*this, "mnuSurvey", "Ctrl+Shift+S"};
+    MenuEntry mnuEdit{*this, "mnuEdit"};
+    MenuEntry mnuUndo{*this, "mnuUndo", "Ctrl+Z"};
+    MenuEntry mnuRedo{*this, "mnuRedo", "Ctrl+Y"};
 
     TabControl Tablus{*this, "Tablus", "Tablus.Tab"};
 

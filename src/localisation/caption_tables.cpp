@@ -25,6 +25,9 @@ constexpr CaptionRow Captions[] = {
     {"mnuAbout",                      {u"About...",           u"О программе...",       u"A propos...",  u"Ьber programm..."}},
     {"mnuBalance",                    {u"Balance",            u"Баланс",               nullptr,         nullptr}},
     {"mnuSurvey",                     {u"Survey…",            u"Обзор…",               nullptr,         nullptr}},
+    {"mnuEdit",                       {u"Edit",               u"Правка",               nullptr,         nullptr}},
+    {"mnuUndo",                       {u"Undo",               u"Отменить",             nullptr,         nullptr}},
+    {"mnuRedo",                       {u"Redo",               u"Вернуть",              nullptr,         nullptr}},
     {"mnuAlternativeMethod",          {u"Alternative method", u"Альтернативный метод", nullptr,         nullptr}},
 
     // Frames

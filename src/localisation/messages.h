@@ -111,6 +111,12 @@ struct Messages {
     QString MsgNoCopy;
     QString MsgReplaceTitle;
     QString MsgUpdateTitle;
+    QString MsgUndoStep;
+    QString MsgRedoStep;
+    QString MsgRecoverTitle;
+    QString MsgRecover;
+    QString MsgRecoveredAlone;
+    QString MsgRecoveryUnread;
     QString MsgWrite;
     QString MsgReplaceIt;
     QString MsgUpdateIt;

@@ -101,6 +101,8 @@ void MainWindow::FinishStart() {
     HaveToolkitSpeakRussian(russian->isChecked());
     LoadTextsOfAbilities(program);
     BuildShortcuts();
+    recovery = std::make_unique<RecoveryWatch>(program);
+    recovery->Offer();
 }
 
 /// The keys that no entry of the menu bar has.
@@ -114,11 +116,21 @@ void MainWindow::BuildShortcuts() {
         if (calculate != nullptr && program.form.cmdCalc.Usable())
             calculate->click();
     });
+    on("Ctrl+Shift+Z", [this] {
+        if (program.form.mnuRedo.Usable())
+            program.form.mnuRedo.Click();
+    });
     on("F10", [this] { menuBar()->setActiveAction(menuBar()->actions().constFirst()); });
     for (const char* keys : {"Ctrl+Tab", "Ctrl+PgDown"})
         on(keys, [this] { tabs->ShowNeighbour(1); });
     for (const char* keys : {"Ctrl+Shift+Tab", "Ctrl+PgUp"})
         on(keys, [this] { tabs->ShowNeighbour(-1); });
+}
+
+void MainWindow::LetGo() {
+    ending = true;
+    if (recovery)
+        recovery->End();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -2,6 +2,7 @@
 
 #include "app/program.h"
 #include "window/menu_view.h"
+#include "window/recovery_watch.h"
 
 #include <QMainWindow>
 #include <QTimer>
@@ -30,7 +31,7 @@ public:
     void OpenSoon(const QString& file);
 
     /// The process is about to end: closing the window asks nothing any more.
-    void LetGo() { ending = true; }
+    void LetGo();
 
     void Changed(Control& control, Property what) override;
 
@@ -47,6 +48,7 @@ private:
     Program& program;
     TabView* tabs;
     std::vector<std::unique_ptr<EntryView>> menus;
+    std::unique_ptr<RecoveryWatch> recovery; // from the first picture on
     QString fileToOpen;
     QTimer opening;  // of a creature file, when the current event has been handled
     QTimer pictured; // the first picture has been painted
