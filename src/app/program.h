@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/history.h"
 #include "app/platform.h"
 #include "app/shared_state.h"
 #include "form/main_form.h"
@@ -14,6 +15,7 @@ struct Program {
     SharedState state;
     MainForm form;
     Platform& platform; // outlives the program
+    History history{*this};
 
     /// A message box with the warning title.
     void Warn(BoxIcon icon, const QString& text) {

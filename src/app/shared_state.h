@@ -38,8 +38,16 @@ struct SharedState {
         QString path;
         QByteArray bytes;  ///< of the file
         Creature creature; ///< as the window then showed it
+
+        bool operator==(const Baseline&) const = default;
     };
     std::optional<Baseline> baseline;
+
+    /// The creature that the window shows, by number: New, Reset all and Open begin another one.
+    /// What belongs to a file belongs to it.
+    std::uint32_t creatureNumber = 0;
+    std::uint32_t creaturesBegun = 0;
+    void BeginCreature() { creatureNumber = ++creaturesBegun; }
 
     /// Files of which this run has kept a copy before it replaced them.
     QStringList backedUp;

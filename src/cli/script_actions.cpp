@@ -47,7 +47,8 @@ QString Operate(ScriptStage& stage, const char* kind, const QString& name, Act a
 QString Set(ScriptStage& stage, const QString& arguments) {
     const Words words = SplitFirst(arguments);
     return Operate<TextField>(stage, "field", words.first, [&](TextField& field) {
-        field.SetText(words.rest);
+        field.Edit(words.rest);
+        field.Leave();
         return QString();
     });
 }
@@ -57,6 +58,7 @@ QString Keys(ScriptStage& stage, const QString& arguments) {
     return Operate<TextField>(stage, "field", words.first, [&](TextField& field) {
         for (const QChar key : words.rest)
             field.Type(key.unicode());
+        field.Leave();
         return QString();
     });
 }
@@ -111,7 +113,8 @@ QString Press(ScriptStage& stage, const QString& arguments) {
 /// The entries that a script may pick. The others open windows or end the program.
 constexpr const char* ScriptEntries[] = {"mnuNew",    "mnuOpen",    "mnuSave",
                                          "mnuUpdate", "mnuEnglish", "mnuRussian",
-                                         "mnuFrench", "mnuGerman",  "mnuAlternativeMethod"};
+                                         "mnuFrench", "mnuGerman",  "mnuAlternativeMethod",
+                                         "mnuUndo",   "mnuRedo"};
 
 QString Menu(ScriptStage& stage, const QString& arguments) {
     const Words words = SplitFirst(arguments);
@@ -159,7 +162,7 @@ constexpr Action Actions[] = {
     {"untick",  "BOX",            "unticks it",                                               Untick},
     {"mastery", "SELECTOR LEVEL", "clicks option 0 to 4 of soq(46), saz(9)",                  Mastery},
     {"press",   "BUTTON",         "cmdCalc, cmdRAP, cmdRAA, cmdRAS, cmdResetAll",             Press},
-    {"menu",    "ENTRY [PATH]",   "mnuNew, mnuOpen PATH, mnuSave PATH, mnuUpdate, mnuRussian", Menu},
+    {"menu",    "ENTRY [PATH]",   "mnuNew, mnuOpen PATH, mnuSave PATH, mnuUpdate, mnuRussian, mnuUndo, mnuRedo", Menu},
     {"show",    "NAME",           "prints the text, caption or state of a control",           Show},
     {"state",   "",               "prints the whole state, and the boxes shown, as JSON",     State},
 };

@@ -14,7 +14,11 @@ public:
 
     /// A real change is stored, told to the view, and runs the change rule before this returns.
     void SetTicked(bool value) {
-        if (Store(ticked, value, Property::State) && change)
+        if (ticked == value)
+            return;
+        const UserAct act(*this);
+        Store(ticked, value, Property::State);
+        if (change)
             change();
     }
 

@@ -20,6 +20,7 @@ void ComboBox::Select(std::int16_t value) {
     const bool indexChanges = index != value;
     if (!indexChanges && text == items[value])
         return;
+    const UserAct act(*this);
     index = value;
     text = items[value];
     Tell(Property::Text);

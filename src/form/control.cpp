@@ -35,7 +35,7 @@ Control* ControlRegistry::Find(const QString& name) const {
 }
 
 Control::Control(ControlRegistry& registry, const char* name, int index)
-    : arrayName(name), arrayIndex(index) {
+    : holder(registry), arrayName(name), arrayIndex(index) {
     registry.controls.push_back(this);
 }
 

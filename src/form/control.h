@@ -33,10 +33,36 @@ public:
     virtual void Changed(Control& control, Property what) = 0;
 };
 
+/// What the user does at once.
+enum class Act : std::uint8_t {
+    Step,    ///< a click or a choice, with all that it changes in turn
+    Editing, ///< one of the changes to a text, up to the moment when the field is left
+    Aside,   ///< what isn't to be taken back: a file is written, the language changes
+};
+
+/// Hears of all that the user does.
+class ActListener {
+public:
+    virtual ~ActListener() = default;
+
+    /// Before the first change. Acts may lie in one another.
+    virtual void Begin(const Control& control, Act act) = 0;
+
+    /// After the last change.
+    virtual void End() = 0;
+
+    /// The user has left the field.
+    virtual void Left() = 0;
+};
+
 /// The controls of one window, in the order in which they were made. Doesn't own them.
 class ControlRegistry {
 public:
     const std::vector<Control*>& Controls() const { return controls; }
+
+    /// At most one, which must outlive its use; null takes it away.
+    void SetActListener(ActListener* value) { listener = value; }
+    ActListener* Listener() const { return listener; }
 
     /// The control of that name ("txtAttack", "Abilities(66)"), or null. Letter case counts.
     Control* Find(const QString& name) const;
@@ -44,12 +70,13 @@ public:
 private:
     friend class Control;
     std::vector<Control*> controls;
+    ActListener* listener = nullptr;
 };
 
 class Control {
 public:
-    /// Registers itself in `registry`. `name` must outlive the control (a literal); `index` is the
-    /// place in a control array, -1 for a control of its own.
+    /// Registers itself in `registry`, which must outlive it. `name` must outlive the control (a
+    /// literal); `index` is the place in a control array, -1 for a control of its own.
     Control(ControlRegistry& registry, const char* name, int index = -1);
     virtual ~Control() = default;
     Control(const Control&) = delete;
@@ -73,6 +100,8 @@ public:
     /// The frame, page, menu or window that holds the control; null for the window itself.
     const Control* Parent() const { return parent; }
     void SetParent(const Control& value) { parent = &value; }
+
+    const ControlRegistry& Registry() const { return holder; }
 
     /// Whether the user can reach and operate it now: it and all that hold it are enabled and
     /// visible.
@@ -105,6 +134,7 @@ protected:
     virtual QString Content() const = 0;
 
 private:
+    const ControlRegistry& holder;
     QLatin1String arrayName;
     int arrayIndex;
     bool enabled = true;
@@ -112,6 +142,25 @@ private:
     QString toolTip;
     const Control* parent = nullptr;
     ControlView* view = nullptr;
+};
+
+/// Holds something that the user does to a control between its begin and its end.
+class UserAct {
+public:
+    explicit UserAct(const Control& control, Act act = Act::Step)
+        : listener(control.Registry().Listener()) {
+        if (listener != nullptr)
+            listener->Begin(control, act);
+    }
+    ~UserAct() {
+        if (listener != nullptr)
+            listener->End();
+    }
+    UserAct(const UserAct&) = delete;
+    UserAct& operator=(const UserAct&) = delete;
+
+private:
+    ActListener* listener;
 };
 
 /// What runs, nested inside the setter, when the state of a box or the choice in a list has really

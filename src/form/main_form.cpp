@@ -28,13 +28,14 @@ void Hide(std::initializer_list<Control*> controls) {
 }
 
 void HoldMenus(MainForm& form) {
-    Hold(form.frmMain, {&form.mnuFile, &form.mnuOptions, &form.mnuInfo});
+    Hold(form.frmMain, {&form.mnuFile, &form.mnuOptions, &form.mnuInfo, &form.mnuEdit});
     Hold(form.mnuFile,
          {&form.mnuNew, &form.mnuOpen, &form.mnuSave, &form.mnuUpdate, &form.mnuQuit});
     Hold(form.mnuOptions, {&form.mnuLanguage, &form.mnuAlternativeMethod, &form.mnuCalculator,
                            &form.mnuHighContrast});
     Hold(form.mnuLanguage, {&form.mnuEnglish, &form.mnuRussian, &form.mnuFrench, &form.mnuGerman});
     Hold(form.mnuInfo, {&form.mnuHelp, &form.mnuAbout});
+    Hold(form.mnuEdit, {&form.mnuUndo, &form.mnuRedo});
 }
 
 void HoldParameters(MainForm& form) {
@@ -110,9 +111,9 @@ MainForm::MainForm() {
     HoldAll(frmMain, utbD);
 
     Tablus.At(Page::File).SetCaption(QStringLiteral("XDB"));
-    Disable({&mnuSave, &mnuUpdate, &mnuFrench, &mnuGerman, &mnuAlternativeMethod, &mnuHelp,
-             &FrameIDC, &FrameShots, &txtShots, &FrameMana, &txtMana, &FrameRange, &ComboRange,
-             &frmMM, &frmAM, &cmdRAS, &Specabilities(0)});
+    Disable({&mnuSave, &mnuUpdate, &mnuUndo, &mnuRedo, &mnuFrench, &mnuGerman,
+             &mnuAlternativeMethod, &mnuHelp, &FrameIDC, &FrameShots, &txtShots, &FrameMana,
+             &txtMana, &FrameRange, &ComboRange, &frmMM, &frmAM, &cmdRAS, &Specabilities(0)});
     Hide({&frmAM, &FrameAlias, &FrameDiapazon, &RTBTEMP, &RTBSPEC});
     for (auto& text : utbN)
         text.SetVisible(false);

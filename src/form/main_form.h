@@ -40,6 +40,9 @@ struct MainForm : ControlRegistry {
     MenuEntry mnuInfo{*this, "mnuInfo"};
     MenuEntry mnuHelp{*this, "mnuHelp", "F1"};
     MenuEntry mnuAbout{*this, "mnuAbout", "Ctrl+A"};
+    MenuEntry mnuEdit{*this, "mnuEdit"};
+    MenuEntry mnuUndo{*this, "mnuUndo", "Ctrl+Z"};
+    MenuEntry mnuRedo{*this, "mnuRedo", "Ctrl+Y"};
 
     TabControl Tablus{*this, "Tablus", "Tablus.Tab"};
 

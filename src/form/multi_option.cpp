@@ -14,6 +14,7 @@ void MultiOption::Redraw() {
 }
 
 void MultiOption::ClickOption(int option) {
+    const UserAct act(*this);
     value = static_cast<std::int16_t>(option);
     Store(selectedOption, option, Property::State);
 }

@@ -7,9 +7,9 @@ void TextField::Type(char16_t key) {
     if (!Accepts(key))
         return;
     if (key == backspace)
-        SetText(text.chopped(std::min<qsizetype>(1, text.size())));
+        Edit(text.chopped(std::min<qsizetype>(1, text.size())));
     else if (maxLength == NoLimit || text.size() < maxLength)
-        SetText(text + QChar(key));
+        Edit(text + QChar(key));
 }
 
 } // namespace Hesperin

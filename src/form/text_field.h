@@ -19,6 +19,18 @@ public:
     const QString& Text() const { return text; }
     void SetText(const QString& value) { Store(text, value, Property::Text); }
 
+    /// The user changes the text, and may go on with it.
+    void Edit(const QString& value) {
+        const UserAct act(*this, Act::Editing);
+        SetText(value);
+    }
+
+    /// The user leaves the field.
+    void Leave() const {
+        if (ActListener* listener = Registry().Listener())
+            listener->Left();
+    }
+
     /// Longest text that typing can make, in UTF-16 code units; NoLimit when there is no limit.
     int MaxLength() const { return maxLength; }
 

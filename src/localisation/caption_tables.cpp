@@ -23,6 +23,9 @@ constexpr CaptionRow Captions[] = {
     {"mnuInfo",                       {u"Info",               u"Справка",              u"Info",         u"Info"}},
     {"mnuHelp",                       {u"Help",               u"Помощь",               u"Aide",         u"Hilfe"}},
     {"mnuAbout",                      {u"About...",           u"О программе...",       u"A propos...",  u"Ьber programm..."}},
+    {"mnuEdit",                       {u"Edit",               u"Правка",               nullptr,         nullptr}},
+    {"mnuUndo",                       {u"Undo",               u"Отменить",             nullptr,         nullptr}},
+    {"mnuRedo",                       {u"Redo",               u"Вернуть",              nullptr,         nullptr}},
     {"mnuAlternativeMethod",          {u"Alternative method", u"Альтернативный метод", nullptr,         nullptr}},
 
     // Frames

@@ -122,6 +122,8 @@ constexpr MessageRow Table[] = {
     {&Messages::MsgNoCopy,             {u"No copy of the old file could be kept. %1", u"Копию старого файла сохранить не удалось. %1", nullptr, nullptr}},
     {&Messages::MsgReplaceTitle,       {u"Save", u"Сохранение", nullptr, nullptr}},
     {&Messages::MsgUpdateTitle,        {u"Update", u"Обновление", nullptr, nullptr}},
+    {&Messages::MsgUndoStep,           {u"Undo %1", u"Отменить: %1", nullptr, nullptr}},
+    {&Messages::MsgRedoStep,           {u"Redo %1", u"Вернуть: %1", nullptr, nullptr}},
     {&Messages::MsgWrite,              {u"Write", u"Записать", nullptr, nullptr}},
     {&Messages::MsgReplaceIt,          {u"Replace", u"Заменить", nullptr, nullptr}},
     {&Messages::MsgUpdateIt,           {u"Update", u"Обновить", nullptr, nullptr}},

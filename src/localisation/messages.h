@@ -100,6 +100,8 @@ struct Messages {
     QString MsgNoCopy;
     QString MsgReplaceTitle;
     QString MsgUpdateTitle;
+    QString MsgUndoStep;
+    QString MsgRedoStep;
     QString MsgWrite;
     QString MsgReplaceIt;
     QString MsgUpdateIt;

@@ -46,4 +46,22 @@ QString SummaryTitle(const Messages& messages, const QString& name, const FileFi
     return title;
 }
 
+QString SummaryTitleIn(const Messages& to, const Messages& from, QString title) {
+    const QString given = title;
+    const qsizetype begin = VersionRecord::TitleAndVersion().size();
+    qsizetype end = title.size();
+    // From the back, since the name may hold anything.
+    for (const auto words : {&Messages::SumGold, &Messages::SumGrowth, &Messages::SumExperience,
+                             &Messages::SumPower}) {
+        const qsizetype place = QStringView(title).left(end).lastIndexOf(from.*words);
+        if (place < begin || (from.*words).isEmpty())
+            return given;
+        title.replace(place, (from.*words).size(), to.*words);
+        end = place;
+    }
+    if (from.SumCreature.isEmpty() || !QStringView(title).mid(begin).startsWith(from.SumCreature))
+        return given;
+    return title.replace(begin, from.SumCreature.size(), to.SumCreature);
+}
+
 } // namespace Hesperin

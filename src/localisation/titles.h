@@ -15,4 +15,7 @@ QString FileTitle(const QString& name, const FileFigures& file);
 QString SummaryTitle(const Messages& messages, const QString& name, const FileFigures& file,
                      std::int16_t tier, const Powers& powers, const Figures& figures);
 
+/// A summary title made with the words `from` in the words `to`; any other title as it is.
+QString SummaryTitleIn(const Messages& to, const Messages& from, QString title);
+
 } // namespace Hesperin

@@ -9,6 +9,8 @@ struct Advice {
     std::int16_t TierReferencePower = 0; ///< of the tier, plain or upgraded
     float PowerRatio = 0;                ///< average Power to that
     std::int16_t AdvisedTier = 0;        ///< 1 to 8
+
+    bool operator==(const Advice&) const = default;
 };
 
 /// The tier, 1 to 8, that the bands of Power advise. They take no account of the upgrade.

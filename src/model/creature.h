@@ -57,6 +57,8 @@ struct FileFigures {
     std::int16_t FileExperience = 0;
     std::int16_t FileGrowth = 0;
     std::int16_t FileGold = 0;
+
+    bool operator==(const FileFigures&) const = default;
 };
 
 /// A creature of which nothing has been entered yet: initial choices, the number fields at 0.

@@ -15,6 +15,8 @@ struct Exponents {
     FixedPoint ExponentDefence = 0;
     FixedPoint ExponentSpeed = 0;
     FixedPoint ExponentInitiative = 0;
+
+    bool operator==(const Exponents&) const = default;
 };
 
 /// A shooter's Power leans on offence and initiative, everybody else's on defence and speed.
@@ -35,6 +37,8 @@ struct Powers {
     double DefenceScore = 0;  ///< 1.028^Defence × Health
     double PowerRolvane = 0;  ///< whole; 0 is possible, and nothing else can then be computed
     double PowerHesperin = 0; ///< whole
+
+    bool operator==(const Powers&) const = default;
 };
 
 Powers ComputePowers(const Parameters& parameters);
@@ -54,6 +58,8 @@ struct Figures {
     double CostDivisor = 0; ///< the second method's growth before it is halved; the s of its cost
     double CostHesperin = 0;
     double CostAverage = 0;
+
+    bool operator==(const Figures&) const = default;
 };
 
 /// `powers.PowerRolvane` must not be 0. The second method's Growth and Cost lean on the first

@@ -20,6 +20,12 @@ bool IsForAWhile(Qt::FocusReason reason) {
            reason == Qt::MenuBarFocusReason;
 }
 
+constexpr QKeyCombination UndoKeys = Qt::CTRL | Qt::Key_Z;
+
+bool IsRedo(QKeyCombination keys) {
+    return keys == (Qt::CTRL | Qt::Key_Y) || keys == (Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
+}
+
 } // namespace
 
 FieldView::FieldView(TextField& field, QWidget* parent, const QRect& place, const QFont& fieldFont,
@@ -29,7 +35,7 @@ FieldView::FieldView(TextField& field, QWidget* parent, const QRect& place, cons
     setPalette(TextPalette(OutlinedPalette(), colour));
     setFont(wantedFont);
     connect(this, &QLineEdit::textEdited, this,
-            [this](const QString& text) { control.SetText(text); });
+            [this](const QString& text) { control.Edit(text); });
     SyncAll();
 }
 
@@ -63,6 +69,10 @@ void FieldView::focusInEvent(QFocusEvent* event) {
 void FieldView::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
     isLeftForAWhile = IsForAWhile(event->reason());
+    if (isLeftForAWhile)
+        return;
+    ForgetTyping();
+    control.Leave();
 }
 
 void FieldView::mousePressEvent(QMouseEvent* event) {
@@ -79,10 +89,32 @@ void FieldView::mouseReleaseEvent(QMouseEvent* event) {
 bool FieldView::event(QEvent* event) {
     if (event->type() == QEvent::ApplicationPaletteChange)
         setPalette(TextPalette(OutlinedPalette(), colour));
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto keys = static_cast<const QKeyEvent*>(event)->keyCombination();
+        if ((keys == UndoKeys && !isUndoAvailable()) || (IsRedo(keys) && !isRedoAvailable())) {
+            ForgetTyping();
+            event->ignore(); // it goes to the menu entry
+            return false;
+        }
+        if (IsRedo(keys)) {
+            event->accept();
+            return true;
+        }
+    }
     return QLineEdit::event(event);
 }
 
+void FieldView::ForgetTyping() {
+    if (!isUndoAvailable() && !isRedoAvailable())
+        return;
+    const int cursor = cursorPosition();
+    setText(text());
+    setCursorPosition(cursor);
+}
+
 void FieldView::keyPressEvent(QKeyEvent* event) {
+    if (IsRedo(event->keyCombination()))
+        return redo();
     const QString typed = event->text();
     const auto modifiers = event->modifiers() & ~Qt::ShiftModifier;
     const bool isCommand = modifiers == Qt::ControlModifier || typed.isEmpty() ||

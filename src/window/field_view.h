@@ -9,7 +9,8 @@
 namespace Hesperin {
 
 /// A field of text. Typed keys pass the field's key filter and its longest text; a paste passes.
-/// Whoever gives it the focus, its content is selected then, so that typing replaces it.
+/// What has been typed since it got the focus can be taken back by itself before the program's
+/// steps. Whoever gives it the focus, its content is selected then, so that typing replaces it.
 class FieldView : public View<QLineEdit, TextField> {
 public:
     FieldView(TextField& field, QWidget* parent, const QRect& place, const QFont& wantedFont,
@@ -30,6 +31,9 @@ private:
     /// Whether `typed` may come in where the selection stands now.
     bool Admits(const QString& typed) const;
     void FitFont();
+
+    /// From now on the key that takes typing back goes to the program's steps.
+    void ForgetTyping();
 
     QFont wantedFont;
     Colour colour;

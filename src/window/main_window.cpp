@@ -112,6 +112,10 @@ void MainWindow::BuildShortcuts() {
         if (calculate != nullptr && program.form.cmdCalc.Usable())
             calculate->click();
     });
+    on("Ctrl+Shift+Z", [this] {
+        if (program.form.mnuRedo.Usable())
+            program.form.mnuRedo.Click();
+    });
     on("F10", [this] { menuBar()->setActiveAction(menuBar()->actions().constFirst()); });
     for (const char* keys : {"Ctrl+Tab", "Ctrl+PgDown"})
         on(keys, [this] { tabs->ShowNeighbour(1); });

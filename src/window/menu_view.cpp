@@ -43,6 +43,10 @@ const std::vector<MenuPlan>& Plan() {
             {nullptr},
             {&MainForm::mnuAbout,             u"AО"},
         }},
+        {{&MainForm::mnuEdit, u"EП"}, {
+            {&MainForm::mnuUndo,              u"UО"},
+            {&MainForm::mnuRedo,              u"RВ"},
+        }},
     };
     return plan;
 }

@@ -17,7 +17,8 @@ class WindowSnapshot {
 public:
     explicit WindowSnapshot(const Program& program) {
         for (const Control* control : program.form.Controls())
-            Tell(*control);
+            if (control != &program.form.mnuUndo && control != &program.form.mnuRedo) // which follow every act
+                Tell(*control);
         for (const CheckBox& box : program.form.Abilities)
             if (const float value = program.state.AbilityCurrentValue[static_cast<std::size_t>(box.ArrayIndex())];
                 value != 1)

@@ -40,6 +40,7 @@ Failure cmdResetAll_Click(Program& program) {
     Reset_Spells(program);
     form.mnuSave.SetEnabled(false);
     ForgetBaseline(program);
+    program.state.BeginCreature();
     return {};
 }
 

@@ -78,6 +78,7 @@ Failure OpenCreatureFile(Program& program, const QString& path) {
 
 void ShowDocument(Program& program, const CreatureDocument& document, const QString& path) {
     MainForm& form = program.form;
+    program.state.BeginCreature();
     form.ComDialog.FileName = path;
     form.Tablus.At(Page::File).SetCaption(QString::fromUtf16(VersionRecord::Title));
     form.Tablus.At(Page::File).Switch(false);

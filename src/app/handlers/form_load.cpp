@@ -87,6 +87,7 @@ bool Form_Load(Program& program, const StartOptions& options) {
     ClearBoxes(program);
     FillLists(form);
     ClearCreature(program);
+    form.SetActListener(&program.history);
     return true;
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/handlers/box_rules.h"
 #include "app/handlers/buttons.h"
+#include "app/handlers/edit_menu.h"
 #include "app/handlers/file_menu.h"
 #include "app/handlers/info_menu.h"
 #include "app/handlers/key_filters.h"
@@ -18,22 +19,25 @@ template <typename T>
 struct Wire {
     T MainForm::*control;
     Failure (*handler)(Program&);
+    Act act = Act::Step;
 };
 
 constexpr Wire<MenuEntry> MenuWires[] = {
     {&MainForm::mnuNew, mnuNew_Click},
     {&MainForm::mnuOpen, mnuOpen_Click},
-    {&MainForm::mnuSave, mnuSave_Click},
-    {&MainForm::mnuUpdate, mnuUpdate_Click},
-    {&MainForm::mnuQuit, mnuQuit_Click},
-    {&MainForm::mnuEnglish, mnuEnglish_Click},
-    {&MainForm::mnuRussian, mnuRussian_Click},
-    {&MainForm::mnuFrench, mnuFrench_Click},
-    {&MainForm::mnuGerman, mnuGerman_Click},
+    {&MainForm::mnuSave, mnuSave_Click, Act::Aside},
+    {&MainForm::mnuUpdate, mnuUpdate_Click, Act::Aside},
+    {&MainForm::mnuQuit, mnuQuit_Click, Act::Aside},
+    {&MainForm::mnuEnglish, mnuEnglish_Click, Act::Aside},
+    {&MainForm::mnuRussian, mnuRussian_Click, Act::Aside},
+    {&MainForm::mnuFrench, mnuFrench_Click, Act::Aside},
+    {&MainForm::mnuGerman, mnuGerman_Click, Act::Aside},
     {&MainForm::mnuAlternativeMethod, mnuAlternativeMethod_Click},
     {&MainForm::mnuCalculator, mnuCalculator_Click},
     {&MainForm::mnuHighContrast, mnuHighContrast_Click},
     {&MainForm::mnuAbout, mnuAbout_Click},
+    {&MainForm::mnuUndo, mnuUndo_Click, Act::Aside},
+    {&MainForm::mnuRedo, mnuRedo_Click, Act::Aside},
 };
 
 constexpr Wire<Button> ButtonWires[] = {
@@ -57,8 +61,9 @@ constexpr ListWire ListWires[] = {
 template <typename T, std::size_t Count>
 void WireAll(Program& program, const Wire<T> (&wires)[Count]) {
     for (const Wire<T>& wire : wires)
-        (program.form.*wire.control).SetClickHandler([&program, handler = wire.handler] {
-            return handler(program);
+        (program.form.*wire.control).SetClickHandler([&program, &wire] {
+            const UserAct act(program.form.*wire.control, wire.act);
+            return wire.handler(program);
         });
 }
 
@@ -84,8 +89,10 @@ void WireHandlers(Program& program) {
             Abilities_RightClick(program, box.ArrayIndex());
             return Failure();
         });
-    form.frmMain.SetDropHandler(
-        [&program](const QString& file) { OpenCreatureFile(program, file); });
+    form.frmMain.SetDropHandler([&program](const QString& file) {
+        const UserAct act(program.form.frmMain);
+        OpenCreatureFile(program, file);
+    });
     form.frmMain.SetCloseHandler([&program] { return Form_Unload(program); });
     SetKeyFilters(form);
 }

@@ -1,0 +1,138 @@
+#include "app/history.h"
+
+#include "app/program.h"
+#include "localisation/captions.h"
+#include "text/fill.h"
+
+#include <algorithm>
+
+namespace Hesperin {
+
+namespace {
+
+/// What the user reads on the control, or around it.
+QString NameOf(const MainForm& form, const Control& control) {
+    if (&control == &form.frmMain) // onto which a file fell
+        return NameOf(form, form.mnuOpen);
+    if (control.ArrayName() == form.soq(1).ArrayName())
+        return form.Spells(control.ArrayIndex()).Caption();
+    if (control.ArrayName() == form.saz(1).ArrayName())
+        return form.Specabilities(control.ArrayIndex()).Caption();
+    const auto* captioned = dynamic_cast<const Captioned*>(&control);
+    if (captioned == nullptr)
+        captioned = dynamic_cast<const Captioned*>(control.Parent());
+    QString name = captioned == nullptr ? QString() : captioned->Caption().trimmed();
+    while (name.endsWith(u'.'))
+        name.chop(1);
+    return name;
+}
+
+} // namespace
+
+void History::Begin(const Control& what, Act kind) {
+    if (depth++ > 0)
+        return;
+    if (kind != Act::Editing || edited != &what)
+        edited = nullptr;
+    act = kind;
+    control = &what;
+    if (act == Act::Aside)
+        return;
+    before = TakeWindowState(program);
+    fileBefore = TakeFilePart(program);
+    creatureBefore = program.state.creatureNumber;
+}
+
+void History::End() {
+    if (--depth > 0)
+        return;
+    if (act != Act::Aside)
+        KeepStep();
+    ShowEntries();
+    if (handler)
+        handler();
+}
+
+void History::KeepStep() {
+    SharedState& state = program.state;
+    const WindowState now = TakeWindowState(program);
+    const bool fileStays = TakeFilePart(program) == fileBefore;
+    if (now == before && fileStays) {
+        state.creatureNumber = creatureBefore;
+        return;
+    }
+    if (edited != nullptr) { // the step is there already
+        if (now == done.back().before) {
+            done.pop_back();
+            edited = nullptr;
+        }
+        return;
+    }
+    undone.clear();
+    if (state.creatureNumber != creatureBefore)
+        files[creatureBefore] = std::move(fileBefore);
+    done.push_back({control, std::move(before), creatureBefore});
+    if (done.size() > Depth)
+        done.pop_front();
+    if (act == Act::Editing)
+        edited = control;
+    ForgetFiles();
+}
+
+/// Those of creatures that no step leads to any more.
+void History::ForgetFiles() {
+    std::erase_if(files, [this](const auto& file) {
+        return std::none_of(done.begin(), done.end(),
+                            [&](const Step& step) { return step.creature == file.first; });
+    });
+}
+
+void History::Undo() {
+    edited = nullptr;
+    if (done.empty())
+        return;
+    undone.push_back(
+        {std::move(done.back()), TakeWindowState(program), program.state.creatureNumber});
+    done.pop_back();
+    Go(undone.back().step.before, undone.back().step.creature);
+}
+
+void History::Redo() {
+    edited = nullptr;
+    if (undone.empty())
+        return;
+    const UndoneStep last = std::move(undone.back());
+    undone.pop_back();
+    done.push_back(last.step);
+    Go(last.after, last.creature);
+}
+
+void History::Go(const WindowState& state, std::uint32_t creature) {
+    std::uint32_t& shown = program.state.creatureNumber;
+    if (shown != creature) {
+        files[shown] = TakeFilePart(program);
+        SetFilePart(program, files[creature]);
+        files.erase(creature);
+        shown = creature;
+    }
+    SetWindowState(program, state);
+}
+
+void History::ShowEntries() {
+    MainForm& form = program.form;
+    const Messages& messages = program.state.messages;
+    ShowEntry(form.mnuUndo, done.empty() ? nullptr : done.back().control, messages.MsgUndoStep);
+    ShowEntry(form.mnuRedo, undone.empty() ? nullptr : undone.back().step.control,
+              messages.MsgRedoStep);
+}
+
+void History::ShowEntry(MenuEntry& entry, const Control* step, const QString& words) {
+    const QString caption = step == nullptr || words.isEmpty()
+                                ? CaptionIn(program.state.LanguageId, entry.ArrayName())
+                                : Fill(words, {NameOf(program.form, *step)});
+    if (!caption.isEmpty())
+        entry.SetCaption(caption);
+    entry.SetEnabled(step != nullptr);
+}
+
+} // namespace Hesperin
