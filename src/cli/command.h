@@ -20,6 +20,7 @@ struct Command {
 };
 
 extern const Command CalcCommand;
+extern const Command FindCommand;
 extern const Command RunCommand;
 extern const Command SetCommand;
 extern const Command TextsCommand;

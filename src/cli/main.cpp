@@ -12,7 +12,8 @@ using namespace Hesperin;
 
 namespace {
 
-const Command* const Commands[] = {&CalcCommand, &SetCommand, &RunCommand, &TextsCommand};
+const Command* const Commands[] = {&CalcCommand, &SetCommand, &RunCommand, &FindCommand,
+                                   &TextsCommand};
 
 QString Overview() {
     QString text = QStringLiteral("Usage: talmir-cli COMMAND [ARGUMENTS]\n"

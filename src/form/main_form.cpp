@@ -35,7 +35,7 @@ void HoldMenus(MainForm& form) {
                            &form.mnuHighContrast});
     Hold(form.mnuLanguage, {&form.mnuEnglish, &form.mnuRussian, &form.mnuFrench, &form.mnuGerman});
     Hold(form.mnuInfo, {&form.mnuHelp, &form.mnuAbout});
-    Hold(form.mnuEdit, {&form.mnuUndo, &form.mnuRedo});
+    Hold(form.mnuEdit, {&form.mnuUndo, &form.mnuRedo, &form.mnuFindAbility});
 }
 
 void HoldParameters(MainForm& form) {

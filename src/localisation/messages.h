@@ -102,6 +102,13 @@ struct Messages {
     QString MsgUpdateTitle;
     QString MsgUndoStep;
     QString MsgRedoStep;
+    QString MsgFound;
+    QString MsgNotFound;
+    QString MsgValueOnceTicked;
+    QString MsgChangedOnDisk;
+    QString MsgReload;
+    QString MsgKeep;
+    QString MsgNotSaved;
     QString MsgWrite;
     QString MsgReplaceIt;
     QString MsgUpdateIt;

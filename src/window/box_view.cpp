@@ -1,8 +1,14 @@
 #include "window/box_view.h"
 
 #include "window/fonts.h"
+#include "window/palette.h"
 
+#include <QHelpEvent>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include <utility>
 
 namespace Hesperin {
 
@@ -18,6 +24,28 @@ BoxView::BoxView(CheckBox& box, QWidget* parent, const QRect& place) : View(box,
 
 void BoxView::Sync() {
     setChecked(control.Ticked());
+}
+
+void BoxView::SetDimmed(bool value) {
+    if (std::exchange(dimmed, value) != value)
+        update();
+}
+
+bool BoxView::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip || !untickedToolTip || control.Ticked())
+        return QCheckBox::event(event);
+    QToolTip::showText(static_cast<const QHelpEvent*>(event)->globalPos(), untickedToolTip(), this);
+    return true;
+}
+
+void BoxView::paintEvent(QPaintEvent* event) {
+    QCheckBox::paintEvent(event);
+    if (!dimmed)
+        return;
+    constexpr int veil = 190; // of 255
+    QColor background(Colours().Background);
+    background.setAlpha(veil);
+    QPainter(this).fillRect(rect(), background);
 }
 
 void BoxView::mousePressEvent(QMouseEvent* event) {
