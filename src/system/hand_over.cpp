@@ -34,7 +34,7 @@ bool HandOver(const QString& folder, const QString& path) {
 }
 
 bool IsHandedOver(const QString& folder) {
-    return QFileInfo::exists(PlaceIn(folder));
+    return QFileInfo(PlaceIn(folder)).isFile();
 }
 
 std::optional<QString> TakeHandedOver(const QString& folder) {

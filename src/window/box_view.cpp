@@ -26,8 +26,8 @@ void BoxView::Sync() {
     setChecked(control.Ticked());
 }
 
-void BoxView::SetDimmed(bool value) {
-    if (std::exchange(dimmed, value) != value)
+void BoxView::SetStanding(Standing value) {
+    if (std::exchange(standing, value) != value)
         update();
 }
 
@@ -40,12 +40,18 @@ bool BoxView::event(QEvent* event) {
 
 void BoxView::paintEvent(QPaintEvent* event) {
     QCheckBox::paintEvent(event);
-    if (!dimmed)
+    if (standing == Standing::Plain)
         return;
+    QPainter painter(this);
+    if (standing == Standing::Marked) {
+        painter.setPen(QColor(Colours().Accent));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        return;
+    }
     constexpr int veil = 190; // of 255
     QColor background(Colours().Background);
     background.setAlpha(veil);
-    QPainter(this).fillRect(rect(), background);
+    painter.fillRect(rect(), background);
 }
 
 void BoxView::mousePressEvent(QMouseEvent* event) {

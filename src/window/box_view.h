@@ -17,8 +17,10 @@ public:
     /// What the tool tip tells while the box isn't ticked, in place of the control's own.
     void SetUntickedToolTip(std::function<QString()> value) { untickedToolTip = std::move(value); }
 
-    /// Steps back behind the others; it can be used all the same.
-    void SetDimmed(bool value);
+    enum class Standing : std::uint8_t { Plain, Dimmed, Marked };
+
+    /// Steps back behind the others, though it can be used all the same, or stands out of them.
+    void SetStanding(Standing value);
 
 protected:
     void Sync() override;
@@ -28,7 +30,7 @@ protected:
 
 private:
     std::function<QString()> untickedToolTip;
-    bool dimmed = false;
+    Standing standing = Standing::Plain;
 };
 
 } // namespace Hesperin

@@ -18,12 +18,17 @@ namespace {
 constexpr int Gap = 6;
 constexpr int MarkWidth = 16;
 
-/// Whether the user would miss something of `shown` in `saved`. A change of language takes away
-/// what the lists that follow it show, and the state of the click rules.
-bool Differs(Creature shown, const Creature& saved) {
+/// Whether the user would miss something of `shown` in `saved`. What a change of language takes
+/// away is none of it: what the lists that follow it show, and the state of the click rules. A
+/// field that a rule has emptied is as good as 0.
+bool Differs(Creature shown, Creature saved) {
     for (const ListField list : {ListField::Faction, ListField::Range})
         if (shown.Choices[list].index < 0)
             shown.Choices[list] = saved.Choices[list];
+    for (Creature* creature : {&shown, &saved})
+        for (QString& number : creature->Numbers)
+            if (number.isEmpty())
+                number = QStringLiteral("0");
     shown.SpellPoints1Count = saved.SpellPoints1Count;
     shown.SpecabilityFlag = saved.SpecabilityFlag;
     return shown != saved;
@@ -66,6 +71,10 @@ void FileStatus::Follow() {
     mark->setVisible(
         Differs(TakeCreature(program), baseline ? baseline->creature : EmptyCreature()));
     watched.Watch(baseline ? baseline->path : QString());
+    if (baseline && baseline->bytes != bytes) {
+        bytes = baseline->bytes;
+        kept.reset();
+    }
     ShowBar(bar->isVisible() && baseline && baseline->bytes != onDisk);
 }
 

@@ -33,8 +33,9 @@ private:
     QPushButton* keep;
     std::function<void(const QString&)> open;
     WatchedFile watched;
-    QByteArray onDisk; ///< what the bar tells of
-    QByteArray kept;   ///< the change that the user wants to hear no more of
+    QByteArray onDisk;              ///< what the bar tells of
+    std::optional<QByteArray> kept; ///< the change that the user wants to hear no more of
+    QByteArray bytes;               ///< of the file when it was opened or saved
 };
 
 } // namespace Hesperin

@@ -77,7 +77,7 @@ void FindBar::End() {
         return;
     const bool wasInField = field->hasFocus();
     for (std::size_t i = 1; i < boxes.size(); ++i)
-        boxes[i]->SetDimmed(false);
+        boxes[i]->SetStanding(BoxView::Standing::Plain);
     current = 0;
     hide();
     if (wasInField && before != nullptr && before->isVisible())
@@ -97,12 +97,15 @@ void FindBar::Follow() {
 void FindBar::Search() {
     current = 0;
     found = FindAbilities(field->text(), WordsOf(program.form));
-    for (std::size_t i = 1; i < boxes.size(); ++i)
-        boxes[i]->SetDimmed(!std::binary_search(found.begin(), found.end(), static_cast<int>(i)));
-    ShowCount();
+    ShowFound();
 }
 
-void FindBar::ShowCount() {
+void FindBar::ShowFound() {
+    for (int i = 1; i <= Ability::Count; ++i)
+        boxes[static_cast<std::size_t>(i)]->SetStanding(
+            !std::binary_search(found.begin(), found.end(), i) ? BoxView::Standing::Dimmed
+            : i == current                                     ? BoxView::Standing::Marked
+                                                               : BoxView::Standing::Plain);
     const Messages& messages = program.state.messages;
     const auto place = std::find(found.begin(), found.end(), current);
     QString text;
@@ -131,7 +134,7 @@ void FindBar::Go(int step) {
     BoxView& box = *boxes[static_cast<std::size_t>(current)];
     box.setFocus(Qt::TabFocusReason); // with the mark that tells where it is
     scroll.ensureWidgetVisible(&box, 0, 2 * Height);
-    ShowCount();
+    ShowFound();
 }
 
 bool FindBar::TakeKey(const QKeyEvent& event, bool fromBox) {
@@ -168,7 +171,7 @@ bool FindBar::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::FocusIn && watched != field) {
         const auto box = std::find(boxes.begin(), boxes.end(), watched);
         current = static_cast<int>(box - boxes.begin());
-        ShowCount();
+        ShowFound();
     }
     return false;
 }

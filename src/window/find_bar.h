@@ -40,7 +40,7 @@ private:
     void Search();
     void Go(int step);
     bool TakeKey(const QKeyEvent& event, bool fromBox);
-    void ShowCount();
+    void ShowFound();
 
     Program& program;
     QScrollArea& scroll;

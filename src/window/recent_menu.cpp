@@ -1,13 +1,17 @@
 #include "window/recent_menu.h"
 
-#include "app/recent_files.h"
-
 #include <QDir>
 #include <QFileInfo>
 
 namespace Hesperin {
 
-RecentMenu::RecentMenu(Program& owner, QMenu& file) : program(owner), menu(file) {
+RecentMenu::RecentMenu(Program& owner, QMenu& menu) : program(owner), line(menu.addSeparator()) {
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        entries[i] = menu.addAction(QString());
+        entries[i]->setObjectName(QStringLiteral("Recent(%1)").arg(i + 1));
+        QObject::connect(entries[i], &QAction::triggered, &menu,
+                         [this, i] { Open(static_cast<qsizetype>(i)); });
+    }
     Follow();
     Show();
 }
@@ -23,27 +27,22 @@ void RecentMenu::Follow() {
 
 void RecentMenu::Show() {
     constexpr int widest = 420; // pixels
-    qDeleteAll(entries);
-    entries.clear();
-    const QStringList files = RecentFiles(program.platform.Places());
-    if (!files.isEmpty())
-        entries.append(menu.addSeparator());
-    const QFontMetrics metrics(menu.font());
-    for (qsizetype i = 0; i < files.size(); ++i) {
-        const QString& file = files[i];
-        QString path = metrics.elidedText(QDir::toNativeSeparators(file), Qt::ElideMiddle, widest);
+    files = RecentFiles(program.platform.Places());
+    line->setVisible(!files.isEmpty());
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        QAction& entry = *entries[i];
+        const QString file = files.value(static_cast<qsizetype>(i));
+        entry.setVisible(!file.isEmpty());
+        QString path = QFontMetrics(entry.font())
+                           .elidedText(QDir::toNativeSeparators(file), Qt::ElideMiddle, widest);
         path.replace(u'&', QLatin1String("&&"));
         const QString number = QString::number(i + 1);
-        QAction* entry = menu.addAction(number.chopped(1) + u'&' + number.back() + u' ' + path);
-        entry->setObjectName(QStringLiteral("Recent(%1)").arg(i + 1));
-        entries.append(entry);
-        QObject::connect(
-            entry, &QAction::triggered, &menu, [this, file] { Open(file); },
-            Qt::QueuedConnection); // the entry goes when the list is shown anew
+        entry.setText(number.chopped(1) + u'&' + number.back() + u' ' + path);
     }
 }
 
-void RecentMenu::Open(const QString& file) {
+void RecentMenu::Open(qsizetype place) {
+    const QString file = files.value(place); // the list may change
     if (!program.form.frmMain.Enabled())
         return;
     const bool isThere = QFileInfo::exists(file);

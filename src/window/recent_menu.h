@@ -1,8 +1,11 @@
 #pragma once
 
 #include "app/program.h"
+#include "app/recent_files.h"
 
 #include <QMenu>
+
+#include <array>
 
 namespace Hesperin {
 
@@ -17,11 +20,12 @@ public:
 
 private:
     void Show();
-    void Open(const QString& file);
+    void Open(qsizetype place);
 
     Program& program;
-    QMenu& menu;
-    QList<QAction*> entries; ///< with the line above them
+    QAction* line; ///< above the entries
+    std::array<QAction*, MostRecentFiles> entries{};
+    QStringList files;
     QString last;
 };
 

@@ -32,6 +32,11 @@ int main(int argc, char** argv) {
             use.Bar().setCurrentIndex(page);
             take(QString("page%1").arg(page));
         }
+        use.form.mnuFindAbility.Click();
+        use.Find<QLineEdit>("FindAbility").setText("shot");
+        use.Key(Qt::Key_Return);
+        take("find");
+        use.Key(Qt::Key_Escape);
         use.Bar().setCurrentIndex(0);
         use.form.frmAM.SetVisible(true);
         use.form.Abilities(Ability::Shooter).SetTicked(true);
