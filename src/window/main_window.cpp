@@ -115,9 +115,10 @@ void MainWindow::FollowFiles() {
         program, *findChild<QAction*>(program.form.mnuFile.Name())->menu());
     program.history.SetFollower([this] { following.start(0); });
     const QString folder = program.platform.SettingsFolder();
+    auto* secondStarts = new QFileSystemWatcher(this);
     if (QFileInfo::exists(folder))
-        secondStarts.addPath(folder);
-    connect(&secondStarts, &QFileSystemWatcher::directoryChanged, this,
+        secondStarts->addPath(folder);
+    connect(secondStarts, &QFileSystemWatcher::directoryChanged, this,
             &MainWindow::TakeFileOfSecondStart);
     TakeFileOfSecondStart();
 }

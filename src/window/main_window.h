@@ -58,7 +58,6 @@ private:
     QTimer following; // of what has changed, when the current event has been handled
     std::unique_ptr<FileStatus> status; // from the first picture on, as what follows
     std::unique_ptr<RecentMenu> recent;
-    QFileSystemWatcher secondStarts;
     QTimer pictured; // the first picture has been painted
     bool ending = false;
     bool painted = false;

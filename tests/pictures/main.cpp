@@ -67,6 +67,13 @@ int main(int argc, char** argv) {
         use.answers.paths = {path};
         question = "replace";
         mnuSave_Click(use.program);
+
+        use.window->OpenSoon(path);
+        QTest::qWait(1);
+        WriteFile(path, "");
+        const auto& bar = use.Find("ChangedOnDisk");
+        if (QTest::qWaitFor([&] { return bar.isVisible(); }))
+            take("changed");
     }
     return 0;
 }
