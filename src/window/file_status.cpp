@@ -46,6 +46,8 @@ FileStatus::FileStatus(Program& owner, QMenuBar& menuBar,
     mark->setGeometry(menus.width() - MarkWidth - Gap, 0, MarkWidth, menus.height());
     bar->setObjectName(QStringLiteral("ChangedOnDisk"));
     bar->setAutoFillBackground(true);
+    bar->setBackgroundRole(QPalette::Window); // a menu bar hands down roles of its own
+    words->setForegroundRole(QPalette::WindowText);
     words->setObjectName(QStringLiteral("ChangedOnDisk.Words"));
     words->setTextFormat(Qt::PlainText);
     reload->setObjectName(QStringLiteral("ChangedOnDisk.Reload"));
@@ -70,12 +72,18 @@ void FileStatus::Follow() {
     mark->setAccessibleName(messages.MsgNotSaved);
     mark->setVisible(
         Differs(TakeCreature(program), baseline ? baseline->creature : EmptyCreature()));
-    watched.Watch(baseline ? baseline->path : QString());
-    if (baseline && baseline->bytes != bytes) {
-        bytes = baseline->bytes;
+    const QString path = baseline ? baseline->path : QString();
+    const QByteArray now = baseline ? baseline->bytes : QByteArray();
+    if (path != file || now != bytes) {
+        file = path;
+        bytes = now;
         kept.reset();
+        watched.Watch(file);
+        ShowBar(false);
+        Look();
+    } else {
+        ShowBar(!bar->isHidden()); // in the language of the moment
     }
-    ShowBar(bar->isVisible() && baseline && baseline->bytes != onDisk);
 }
 
 /// The file, or something in its folder, has changed. What is there for a moment only, while it is

@@ -35,7 +35,8 @@ private:
     WatchedFile watched;
     QByteArray onDisk;              ///< what the bar tells of
     std::optional<QByteArray> kept; ///< the change that the user wants to hear no more of
-    QByteArray bytes;               ///< of the file when it was opened or saved
+    QString file;                   ///< that the window shows
+    QByteArray bytes;               ///< of it when it was opened or saved
 };
 
 } // namespace Hesperin
