@@ -57,14 +57,15 @@ void History::End() {
 
 void History::KeepStep() {
     SharedState& state = program.state;
-    const WindowState now = TakeWindowState(program);
+    WindowState now = TakeWindowState(program);
     const bool fileStays = TakeFilePart(program) == fileBefore;
     if (now == before && fileStays) {
         state.creatureNumber = creatureBefore;
         return;
     }
     if (edited != nullptr) { // the step is there already
-        if (now == done.back().before) {
+        done.back().after = std::move(now);
+        if (done.back().after == done.back().before) {
             done.pop_back();
             edited = nullptr;
         }
@@ -72,8 +73,9 @@ void History::KeepStep() {
     }
     undone.clear();
     if (state.creatureNumber != creatureBefore)
-        files[creatureBefore] = std::move(fileBefore);
-    done.push_back({control, std::move(before), creatureBefore});
+        files[creatureBefore] = Pack(std::move(fileBefore));
+    done.push_back(
+        {control, std::move(before), std::move(now), creatureBefore, state.creatureNumber});
     if (done.size() > Depth)
         done.pop_front();
     if (act == Act::Editing)
@@ -85,7 +87,7 @@ void History::KeepStep() {
 void History::ForgetFiles() {
     std::erase_if(files, [this](const auto& file) {
         return std::none_of(done.begin(), done.end(),
-                            [&](const Step& step) { return step.creature == file.first; });
+                            [&](const Step& step) { return step.creatureBefore == file.first; });
     });
 }
 
@@ -93,27 +95,26 @@ void History::Undo() {
     edited = nullptr;
     if (done.empty())
         return;
-    undone.push_back(
-        {std::move(done.back()), TakeWindowState(program), program.state.creatureNumber});
+    Step& last = undone.emplace_back(std::move(done.back()));
     done.pop_back();
-    Go(undone.back().step.before, undone.back().step.creature);
+    last.after.creatureName = program.state.CreatureName; // a save may have given it since
+    Go(last.before, last.creatureBefore);
 }
 
 void History::Redo() {
     edited = nullptr;
     if (undone.empty())
         return;
-    const UndoneStep last = std::move(undone.back());
+    const Step& last = done.emplace_back(std::move(undone.back()));
     undone.pop_back();
-    done.push_back(last.step);
-    Go(last.after, last.creature);
+    Go(last.after, last.creatureAfter);
 }
 
 void History::Go(const WindowState& state, std::uint32_t creature) {
     std::uint32_t& shown = program.state.creatureNumber;
     if (shown != creature) {
-        files[shown] = TakeFilePart(program);
-        SetFilePart(program, files[creature]);
+        files[shown] = Pack(TakeFilePart(program));
+        SetFilePart(program, Unpack(files[creature]));
         files.erase(creature);
         shown = creature;
     }
@@ -124,8 +125,7 @@ void History::ShowEntries() {
     MainForm& form = program.form;
     const Messages& messages = program.state.messages;
     ShowEntry(form.mnuUndo, done.empty() ? nullptr : done.back().control, messages.MsgUndoStep);
-    ShowEntry(form.mnuRedo, undone.empty() ? nullptr : undone.back().step.control,
-              messages.MsgRedoStep);
+    ShowEntry(form.mnuRedo, undone.empty() ? nullptr : undone.back().control, messages.MsgRedoStep);
 }
 
 void History::ShowEntry(MenuEntry& entry, const Control* step, const QString& words) {

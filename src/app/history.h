@@ -37,12 +37,9 @@ private:
     struct Step {
         const Control* control; ///< that it began with
         WindowState before;
-        std::uint32_t creature; ///< number of the one shown before
-    };
-    struct UndoneStep {
-        Step step;
         WindowState after;
-        std::uint32_t creature;
+        std::uint32_t creatureBefore; ///< number of the one shown
+        std::uint32_t creatureAfter;
     };
 
     void KeepStep();
@@ -53,8 +50,8 @@ private:
 
     Program& program;
     std::deque<Step> done;
-    std::vector<UndoneStep> undone;
-    std::map<std::uint32_t, FilePart> files; ///< by creature, of those that aren't shown
+    std::vector<Step> undone;
+    std::map<std::uint32_t, PackedFilePart> files; ///< by creature, of those that aren't shown
 
     // Of the act that goes on.
     int depth = 0;

@@ -3,6 +3,8 @@
 #include "app/creature_in_form.h"
 #include "localisation/titles.h"
 
+#include <utility>
+
 namespace Hesperin {
 
 namespace {
@@ -71,6 +73,28 @@ void SetWindowState(Program& program, const WindowState& state) {
     for (const CheckBox& box : form.Abilities)
         if (box.Ticked())
             ShowCurrentValue(program, box.ArrayIndex());
+}
+
+PackedFilePart Pack(FilePart part) {
+    const QByteArray text(reinterpret_cast<const char*>(part.text.constData()),
+                          part.text.size() * static_cast<qsizetype>(sizeof(QChar)));
+    part.text.clear();
+    const QByteArray bytes =
+        part.baseline ? std::exchange(part.baseline->bytes, QByteArray()) : QByteArray();
+    PackedFilePart packed{std::move(part), qCompress(bytes), qCompress(text)};
+    packed.bytes.squeeze();
+    packed.text.squeeze();
+    return packed;
+}
+
+FilePart Unpack(const PackedFilePart& packed) {
+    FilePart part = packed.rest;
+    const QByteArray text = qUncompress(packed.text);
+    part.text = QString(reinterpret_cast<const QChar*>(text.constData()),
+                        text.size() / static_cast<qsizetype>(sizeof(QChar)));
+    if (part.baseline)
+        part.baseline->bytes = qUncompress(packed.bytes);
+    return part;
 }
 
 FilePart TakeFilePart(const Program& program) {

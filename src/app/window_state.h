@@ -52,6 +52,16 @@ struct FilePart {
     bool operator==(const FilePart&) const = default;
 };
 
+/// The same, small, for the time in which another creature is shown.
+struct PackedFilePart {
+    FilePart rest;
+    QByteArray bytes; ///< of the file, packed
+    QByteArray text;
+};
+
+PackedFilePart Pack(FilePart part);
+FilePart Unpack(const PackedFilePart& packed);
+
 FilePart TakeFilePart(const Program& program);
 void SetFilePart(Program& program, const FilePart& part);
 

@@ -109,6 +109,10 @@ struct Messages {
     QString MsgReload;
     QString MsgKeep;
     QString MsgNotSaved;
+    QString MsgRecoverTitle;
+    QString MsgRecover;
+    QString MsgRecoveredAlone;
+    QString MsgRecoveryUnread;
     QString MsgWrite;
     QString MsgReplaceIt;
     QString MsgUpdateIt;

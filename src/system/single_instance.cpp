@@ -32,8 +32,8 @@ bool IsFromHere(const QString& path, const QString& host) {
 
 } // namespace
 
-SingleInstance::SingleInstance(const QString& folder)
-    : path(folder + QLatin1String("/talmir.lock")), lock(path) {
+SingleInstance::SingleInstance(const QString& folder, QLatin1String name)
+    : path(folder + u'/' + name), lock(path) {
     QDir().mkpath(folder);
     lock.setStaleLockTime(0); // a lock never goes stale by age alone
 }

@@ -15,8 +15,9 @@ struct RunningInstance {
 /// Holds the lock that marks the one running instance of the program for this user.
 class SingleInstance {
 public:
-    /// `folder` is made if it is missing.
-    explicit SingleInstance(const QString& folder);
+    /// `folder` is made if it is missing; `name` is that of the lock in it.
+    explicit SingleInstance(const QString& folder,
+                            QLatin1String name = QLatin1String("talmir.lock"));
 
     /// The other process that holds the lock. None: this process holds it now, or starts without
     /// one because none can be had (the folder can't be written, something else bears the lock's

@@ -105,6 +105,9 @@ void MainWindow::FinishStart() {
     LoadTextsOfAbilities(program);
     BuildShortcuts();
     FollowFiles();
+    recovery = std::make_unique<RecoveryWatch>(program);
+    recovery->Offer();
+    following.start(0);
 }
 
 /// The file that the window shows, those used last, and those that second starts bring.
@@ -163,6 +166,12 @@ void MainWindow::BuildShortcuts() {
         on(keys, [this] { tabs->ShowNeighbour(1); });
     for (const char* keys : {"Ctrl+Shift+Tab", "Ctrl+PgUp"})
         on(keys, [this] { tabs->ShowNeighbour(-1); });
+}
+
+void MainWindow::LetGo() {
+    ending = true;
+    if (recovery)
+        recovery->End();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

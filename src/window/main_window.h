@@ -4,6 +4,7 @@
 #include "window/file_status.h"
 #include "window/menu_view.h"
 #include "window/recent_menu.h"
+#include "window/recovery_watch.h"
 
 #include <QMainWindow>
 #include <QTimer>
@@ -32,7 +33,7 @@ public:
     void FindAbility();
 
     /// The process is about to end: closing the window asks nothing any more.
-    void LetGo() { ending = true; }
+    void LetGo();
 
     void Changed(Control& control, Property what) override;
 
@@ -53,6 +54,7 @@ private:
     Program& program;
     TabView* tabs;
     std::vector<std::unique_ptr<EntryView>> menus;
+    std::unique_ptr<RecoveryWatch> recovery; // from the first picture on
     QString fileToOpen;
     QTimer opening;   // of a creature file, when the current event has been handled
     QTimer following; // of what has changed, when the current event has been handled

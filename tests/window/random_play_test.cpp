@@ -42,7 +42,7 @@ private:
     QStringList Controls(const QString& except = {}) const {
         QStringList shown;
         for (const Control* control : use.form.Controls())
-            if (control->Name() != except)
+            if (control->Name() != except && control != &use.form.mnuUndo && control != &use.form.mnuRedo)
                 shown.append(control->Name() + (control->Enabled() ? " on " : " off ") + control->Shown());
         return shown;
     }
@@ -106,7 +106,7 @@ private:
 
     void PickAnEntry() {
         use.ComeForward();
-        const int kind = Below(8);
+        const int kind = Below(10);
         use.answers.paths = {use.Path(kind == 1 ? "damaged.xdb" : "Creature_200.xdb")}; // for the next file dialog
         if (kind == 0)
             use.Pick({"mnuFile", "mnuNew"});
@@ -114,6 +114,9 @@ private:
             use.Pick({"mnuFile", "mnuOpen"});
         else if (kind == 2 && use.form.mnuSave.Usable())
             use.Pick({"mnuFile", "mnuSave"});
+        else if (kind >= 8)
+            for (int steps = Below(9); steps >= 0; --steps)
+                use.Key(Qt::CTRL | (kind == 8 ? Qt::Key_Z : Qt::Key_Y));
         else
             use.PickLanguage(One<Language>({English, Russian}));
     }

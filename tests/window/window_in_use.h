@@ -27,6 +27,7 @@ public:
     explicit PlatformInFolder(const QString& path) : folder(path) {}
     QString ProgramFolder() const override { return folder; }
     QString SettingsFolder() const override { return folder + "/settings"; }
+    QString DataFolder() const override { return qEnvironmentVariable("TALMIR_TEST_DATA", folder + "/data"); }
     QStringList CalculatorNames() const override { return {"no-such-calculator"}; }
 
 private:

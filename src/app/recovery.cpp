@@ -1,0 +1,117 @@
+#include "app/recovery.h"
+
+#include "app/creature_in_form.h"
+#include "app/creature_json.h"
+#include "app/handlers/buttons.h"
+#include "app/handlers/save_and_update.h"
+#include "app/resets.h"
+#include "creature_files/document.h"
+#include "localisation/titles.h"
+#include "text/fill.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+namespace Hesperin {
+
+namespace {
+
+constexpr int Version = 1;
+
+QString HashOf(const QByteArray& bytes) {
+    return QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex());
+}
+
+/// Whether something has been entered into `base` to make `creature`. A change of language alone
+/// takes choices, counter and flag away.
+bool IsEntered(const Creature& base, Creature creature) {
+    for (const ListField list : {ListField::Faction, ListField::Range})
+        if (creature.Choices[list].index < 0)
+            creature.Choices[list] = base.Choices[list];
+    creature.SpellPoints1Count = base.SpellPoints1Count;
+    creature.SpecabilityFlag = base.SpecabilityFlag;
+    return creature != base;
+}
+
+QJsonArray FiguresToJson(const FileFigures& file) {
+    return {file.FilePower, file.FileExperience, file.FileGrowth, file.FileGold};
+}
+
+FileFigures FiguresFromJson(const QJsonArray& json) {
+    const auto figure = [&json](qsizetype place) {
+        return static_cast<std::int16_t>(json[place].toInt());
+    };
+    return {figure(0), figure(1), figure(2), figure(3)};
+}
+
+/// Takes the file up, if it still has the bytes that it had.
+bool TakeUpFile(Program& program, const QJsonObject& kept, const Creature& opened) {
+    MainForm& form = program.form;
+    SharedState& state = program.state;
+    const QString path = kept["path"].toString();
+    const auto document = LoadCreatureDocument(path);
+    if (!document || HashOf(document->bytes) != kept["sha256"].toString())
+        return false;
+    form.ComDialog.FileName = path;
+    form.RTBData.SetText(document->text);
+    ShowFilePage(form);
+    state.baseline = {path, document->bytes, opened};
+    form.mnuUpdate.SetEnabled(true);
+    state.file = FiguresFromJson(kept["figures"].toArray());
+    state.CreatureFileLoaded = kept["loaded"].toBool();
+    if (state.CreatureFileLoaded)
+        form.frmMain.SetCaption(FileTitle(state.CreatureName, state.file));
+    return true;
+}
+
+void Show(Program& program, const QJsonObject& kept, const Creature& creature) {
+    MainForm& form = program.form;
+    SharedState& state = program.state;
+    cmdResetAll_Click(program);
+    Reset_Specabilities(program);
+    SetCreature(program, creature);
+    SwitchCasterFields(form, creature.Has(Ability::Caster));
+    SwitchShooterFields(form, creature.Has(Ability::Shooter));
+    state.CreatureName = kept["name"].toString();
+    state.file = {};
+}
+
+} // namespace
+
+QByteArray RecoveryText(const Program& program) {
+    const auto& baseline = program.state.baseline;
+    const Creature creature = TakeCreature(program);
+    if (!IsEntered(baseline ? baseline->creature : EmptyCreature(), creature))
+        return {};
+    QJsonObject kept{{"version", Version},
+                     {"creature", CreatureToJson(creature)},
+                     {"name", program.state.CreatureName},
+                     {"figures", FiguresToJson(program.state.file)},
+                     {"loaded", program.state.CreatureFileLoaded}};
+    if (baseline) {
+        kept.insert("path", QDir::current().absoluteFilePath(baseline->path));
+        kept.insert("sha256", HashOf(baseline->bytes));
+        kept.insert("opened", CreatureToJson(baseline->creature));
+    }
+    return QJsonDocument(kept).toJson();
+}
+
+bool Recover(Program& program, const QByteArray& text) {
+    const QJsonObject kept = QJsonDocument::fromJson(text).object();
+    const auto creature = CreatureFromJson(kept["creature"].toObject());
+    const auto opened = CreatureFromJson(kept["opened"].toObject());
+    if (kept["version"].toInt() != Version || !creature || (kept.contains("path") && !opened))
+        return false;
+    const UserAct act(program.form.frmMain);
+    Show(program, kept, *creature);
+    if (kept.contains("path") && !TakeUpFile(program, kept, *opened))
+        program.Warn(BoxIcon::Information,
+                     Fill(program.state.messages.MsgRecoveredAlone,
+                          {QDir::toNativeSeparators(kept["path"].toString())}));
+    program.platform.SetFocus(program.form.cmdCalc);
+    return true;
+}
+
+} // namespace Hesperin

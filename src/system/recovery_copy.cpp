@@ -1,0 +1,50 @@
+#include "system/recovery_copy.h"
+
+#include "system/read_file.h"
+#include "system/save_file.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace Hesperin {
+
+RecoveryCopy::RecoveryCopy(const QString& place)
+    : folder(place), path(place + QLatin1String("/recovery.json")) {}
+
+bool RecoveryCopy::IsOurs() {
+    if (!instance)
+        instance.emplace(folder, QLatin1String("recovery.lock"));
+    return !instance->Other();
+}
+
+std::optional<QByteArray> RecoveryCopy::Left() {
+    constexpr qint64 largest = 1 << 20;
+    if (!QFileInfo::exists(path) || !IsOurs())
+        return std::nullopt;
+    const auto bytes = ReadFile(path, largest);
+    return bytes ? *bytes : QByteArray();
+}
+
+QString RecoveryCopy::PutAside() {
+    const QString aside = folder + QLatin1String("/recovery.old.json");
+    QFile::remove(aside);
+    return QFile::rename(path, aside) ? aside : QString();
+}
+
+void RecoveryCopy::Write(const QByteArray& bytes) {
+    if (writing.valid())
+        writing.wait();
+    writing = std::async(std::launch::async, [this, bytes] {
+        if (IsOurs())
+            SaveFileOfMany(path, bytes);
+    });
+}
+
+void RecoveryCopy::Remove() {
+    if (writing.valid())
+        writing.wait();
+    if (QFileInfo::exists(path) && IsOurs())
+        QFile::remove(path);
+}
+
+} // namespace Hesperin
