@@ -51,6 +51,8 @@ void History::End() {
     ShowEntries();
     if (handler)
         handler();
+    if (follower)
+        follower();
 }
 
 void History::KeepStep() {

@@ -30,6 +30,9 @@ public:
     /// `value` runs after everything that the user does.
     void SetActHandler(std::function<void()> value) { handler = std::move(value); }
 
+    /// The same for what a window shows beside its controls.
+    void SetFollower(std::function<void()> value) { follower = std::move(value); }
+
 private:
     struct Step {
         const Control* control; ///< that it began with
@@ -60,6 +63,7 @@ private:
 
     const Control* edited = nullptr; ///< field whose editing is the last step and may go on
     std::function<void()> handler;
+    std::function<void()> follower;
 };
 
 } // namespace Hesperin

@@ -40,6 +40,9 @@ public:
 
     virtual void Open(SecondaryWindow window) = 0;
 
+    /// Lets the user look for an ability on its page.
+    virtual void FindAbility() = 0;
+
     /// Opens the status window with these words. It enables the main window again when it closes.
     virtual void ShowStatus(const QString& message) = 0;
 

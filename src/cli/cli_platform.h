@@ -18,6 +18,7 @@ public:
     bool ShowSaveDialog(FileDialog& dialog) override { return Answer(dialog); }
     void SetFocus(Control& control) override { focus = control.Name(); }
     void Open(SecondaryWindow) override {}
+    void FindAbility() override {}
     void ShowStatus(const QString&) override {}
     std::optional<RunningInstance> OtherInstance() override { return std::nullopt; }
     bool StartProgram(const QString&) override { return false; }

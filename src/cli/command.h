@@ -23,6 +23,7 @@ extern const Command ApplyCommand;
 extern const Command CalcCommand;
 extern const Command CheckCommand;
 extern const Command ExplainCommand;
+extern const Command FindCommand;
 extern const Command RunCommand;
 extern const Command SetCommand;
 extern const Command SolveCommand;

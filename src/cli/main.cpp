@@ -12,9 +12,9 @@ using namespace Hesperin;
 
 namespace {
 
-const Command* const Commands[] = {&CalcCommand,  &SetCommand,   &TableCommand,
-                                   &ApplyCommand, &CheckCommand, &ExplainCommand,
-                                   &SolveCommand, &RunCommand,   &TextsCommand};
+const Command* const Commands[] = {&CalcCommand,  &SetCommand,     &TableCommand, &ApplyCommand,
+                                   &CheckCommand, &ExplainCommand, &SolveCommand, &FindCommand,
+                                   &RunCommand,   &TextsCommand};
 
 QString Overview() {
     QString text = QStringLiteral("Usage: talmir-cli COMMAND [ARGUMENTS]\n"

@@ -36,7 +36,7 @@ void HoldMenus(MainForm& form) {
                            &form.mnuHighContrast});
     Hold(form.mnuLanguage, {&form.mnuEnglish, &form.mnuRussian, &form.mnuFrench, &form.mnuGerman});
     Hold(form.mnuInfo, {&form.mnuHelp, &form.mnuAbout});
-    Hold(form.mnuEdit, {&form.mnuUndo, &form.mnuRedo});
+    Hold(form.mnuEdit, {&form.mnuUndo, &form.mnuRedo, &form.mnuFindAbility});
     Hold(form.mnuBalance, {&form.mnuSurvey});
 }
 

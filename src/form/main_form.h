@@ -46,6 +46,7 @@ struct MainForm : ControlRegistry {
     MenuEntry mnuEdit{*this, "mnuEdit"};
     MenuEntry mnuUndo{*this, "mnuUndo", "Ctrl+Z"};
     MenuEntry mnuRedo{*this, "mnuRedo", "Ctrl+Y"};
+    MenuEntry mnuFindAbility{*this, "mnuFindAbility", "Ctrl+F"};
 
     TabControl Tablus{*this, "Tablus", "Tablus.Tab"};
 

@@ -28,6 +28,7 @@ constexpr CaptionRow Captions[] = {
     {"mnuEdit",                       {u"Edit",               u"Правка",               nullptr,         nullptr}},
     {"mnuUndo",                       {u"Undo",               u"Отменить",             nullptr,         nullptr}},
     {"mnuRedo",                       {u"Redo",               u"Вернуть",              nullptr,         nullptr}},
+    {"mnuFindAbility",                {u"Find ability...",    u"Найти способность...", nullptr,         nullptr}},
     {"mnuAlternativeMethod",          {u"Alternative method", u"Альтернативный метод", nullptr,         nullptr}},
 
     // Frames

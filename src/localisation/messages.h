@@ -113,6 +113,13 @@ struct Messages {
     QString MsgUpdateTitle;
     QString MsgUndoStep;
     QString MsgRedoStep;
+    QString MsgFound;
+    QString MsgNotFound;
+    QString MsgValueOnceTicked;
+    QString MsgChangedOnDisk;
+    QString MsgReload;
+    QString MsgKeep;
+    QString MsgNotSaved;
     QString MsgRecoverTitle;
     QString MsgRecover;
     QString MsgRecoveredAlone;

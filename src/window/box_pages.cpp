@@ -1,5 +1,8 @@
 #include "window/box_pages.h"
 
+#include "catalogue/ability_catalogue.h"
+#include "text/fill.h"
+#include "text/numbers.h"
 #include "window/box_view.h"
 #include "window/selector_view.h"
 #include "window/units.h"
@@ -39,10 +42,19 @@ const BoxColumn& ColumnOf(std::span<const BoxColumn> columns, int place) {
     return columns[static_cast<std::size_t>(place / RowsPerColumn)];
 }
 
-void AddBox(CheckBox& box, QWidget& page, std::span<const BoxColumn> columns, int place, int top) {
+BoxView& AddBox(CheckBox& box, QWidget& page, std::span<const BoxColumn> columns, int place,
+                int top) {
     const BoxColumn& column = ColumnOf(columns, place);
     const QRect rect = PlaceOf(place, column.boxLeft, column.boxWidth, BoxHeight, top);
-    new BoxView(box, &page, rect.intersected(page.rect()));
+    return *new BoxView(box, &page, rect.intersected(page.rect()));
+}
+
+/// Name and value of an ability that isn't ticked.
+QString ValueOnceTicked(const Program& program, int index) {
+    const QString& name = program.form.utbN(index).Text();
+    return Fill(program.state.messages.MsgValueOnceTicked,
+                {name.isEmpty() ? program.form.Abilities(index).Caption() : name,
+                 FloatText(AbilityCatalogue[static_cast<std::size_t>(index)].value)});
 }
 
 void AddSelector(MultiOption& selector, const CheckBox& box, QWidget& page,
@@ -54,9 +66,13 @@ void AddSelector(MultiOption& selector, const CheckBox& box, QWidget& page,
 
 } // namespace
 
-void BuildAbilitiesPage(MainForm& form, QWidget& page, int top) {
-    for (CheckBox& box : form.Abilities)
-        AddBox(box, page, AbilityColumns, box.ArrayIndex() - 1, top);
+void BuildAbilitiesPage(Program& program, QWidget& page, int top) {
+    for (CheckBox& box : program.form.Abilities) {
+        const int index = box.ArrayIndex();
+        AddBox(box, page, AbilityColumns, index - 1, top).SetUntickedToolTip([&program, index] {
+            return ValueOnceTicked(program, index);
+        });
+    }
 }
 
 void BuildSpellsPage(MainForm& form, QWidget& page, int top) {

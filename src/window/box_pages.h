@@ -1,6 +1,6 @@
 #pragma once
 
-#include "form/main_form.h"
+#include "app/program.h"
 
 class QWidget;
 
@@ -9,7 +9,7 @@ namespace Hesperin {
 // The pages of check boxes, each in columns of 35 rows. `page` begins `top` pixels below the top of
 // the tab control.
 
-void BuildAbilitiesPage(MainForm& form, QWidget& page, int top);
+void BuildAbilitiesPage(Program& program, QWidget& page, int top);
 void BuildSpellsPage(MainForm& form, QWidget& page, int top);
 void BuildSpecabilitiesPage(MainForm& form, QWidget& page, int top);
 

@@ -1,5 +1,7 @@
 #include "window/early_start.h"
 
+#include "system/hand_over.h"
+
 #include <QLibrary>
 #include <QThread>
 
@@ -23,7 +25,8 @@ void ReadFontConfiguration() {
 EarlyStart::EarlyStart() {
     QThread::currentThread(); // the toolkit takes the first thread that asks for the main one
     work = std::thread([this] {
-        platform.OtherInstance();
+        if (!platform.OtherInstance())
+            TakeHandedOver(platform.SettingsFolder()); // it was meant for an earlier run
         ReadFontConfiguration();
     });
 }

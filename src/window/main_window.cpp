@@ -2,6 +2,7 @@
 
 #include "app/apply_language.h"
 #include "app/handlers/options_menu.h"
+#include "system/hand_over.h"
 #include "window/button_row.h"
 #include "window/palette.h"
 #include "window/survey_window.h"
@@ -12,6 +13,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
+#include <QFileInfo>
 #include <QIcon>
 #include <QMimeData>
 #include <QPushButton>
@@ -58,7 +60,9 @@ MainWindow::MainWindow(Program& owner, QSize available) : program(owner) {
     opening.setSingleShot(true);
     pictured.setSingleShot(true);
     connect(&pictured, &QTimer::timeout, this, [this] { FinishStart(); });
-    connect(&opening, &QTimer::timeout, this, [this] { program.form.frmMain.Drop(fileToOpen); });
+    following.setSingleShot(true);
+    connect(&opening, &QTimer::timeout, this, &MainWindow::OpenNow);
+    connect(&following, &QTimer::timeout, this, &MainWindow::Follow);
 
     const int barExtent = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     const WindowFit fit = FitWindow(available, menuBar()->sizeHint().height(), barExtent);
@@ -73,6 +77,7 @@ MainWindow::MainWindow(Program& owner, QSize available) : program(owner) {
 
 MainWindow::~MainWindow() {
     survey.reset(); // ends what it still reads
+    program.history.SetFollower({});
     program.form.frmMain.SetView(nullptr);
 }
 
@@ -101,8 +106,46 @@ void MainWindow::FinishStart() {
     HaveToolkitSpeakRussian(russian->isChecked());
     LoadTextsOfAbilities(program);
     BuildShortcuts();
+    FollowFiles();
     recovery = std::make_unique<RecoveryWatch>(program);
     recovery->Offer();
+    following.start(0);
+}
+
+/// The file that the window shows, those used last, and those that second starts bring.
+void MainWindow::FollowFiles() {
+    const auto openSoon = [this](const QString& file) { OpenSoon(file); };
+    status = std::make_unique<FileStatus>(program, *menuBar(), openSoon);
+    recent = std::make_unique<RecentMenu>(
+        program, *findChild<QAction*>(program.form.mnuFile.Name())->menu());
+    program.history.SetFollower([this] { following.start(0); });
+    const QString folder = program.platform.SettingsFolder();
+    auto* secondStarts = new QFileSystemWatcher(this);
+    if (QFileInfo::exists(folder))
+        secondStarts->addPath(folder);
+    connect(secondStarts, &QFileSystemWatcher::directoryChanged, this,
+            &MainWindow::TakeFileOfSecondStart);
+    TakeFileOfSecondStart();
+}
+
+void MainWindow::Follow() {
+    status->Follow();
+    recent->Follow();
+    tabs->Follow();
+}
+
+void MainWindow::FindAbility() {
+    tabs->FindAbility();
+}
+
+void MainWindow::TakeFileOfSecondStart() {
+    const auto file = TakeHandedOver(program.platform.SettingsFolder());
+    if (!file)
+        return;
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    activateWindow();
+    OpenSoon(*file);
 }
 
 /// The keys that no entry of the menu bar has.
@@ -160,6 +203,14 @@ void MainWindow::ShowSurvey() {
 void MainWindow::OpenSoon(const QString& file) {
     fileToOpen = file;
     opening.start(0);
+}
+
+void MainWindow::OpenNow() {
+    constexpr int pause = 50; // milliseconds
+    if (QApplication::activeModalWidget() != nullptr || !program.form.frmMain.Enabled())
+        opening.start(pause); // a box has to be answered first
+    else
+        program.form.frmMain.Drop(fileToOpen);
 }
 
 } // namespace Hesperin

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "app/program.h"
+#include "window/file_status.h"
 #include "window/menu_view.h"
+#include "window/recent_menu.h"
 #include "window/recovery_watch.h"
 
 #include <QMainWindow>
@@ -27,8 +29,12 @@ public:
     /// Shows the window of the survey, which is built when it is first asked for.
     void ShowSurvey();
 
-    /// Opens a creature file when the current event has been handled.
+    /// Opens a creature file when the current event has been handled and nothing stands in front of
+    /// the window any more.
     void OpenSoon(const QString& file);
+
+    /// Lets the user look for an ability on its page.
+    void FindAbility();
 
     /// The process is about to end: closing the window asks nothing any more.
     void LetGo();
@@ -44,13 +50,20 @@ protected:
 private:
     void FinishStart();
     void BuildShortcuts();
+    void FollowFiles();
+    void Follow();
+    void OpenNow();
+    void TakeFileOfSecondStart();
 
     Program& program;
     TabView* tabs;
     std::vector<std::unique_ptr<EntryView>> menus;
     std::unique_ptr<RecoveryWatch> recovery; // from the first picture on
     QString fileToOpen;
-    QTimer opening;  // of a creature file, when the current event has been handled
+    QTimer opening;   // of a creature file, when the current event has been handled
+    QTimer following; // of what has changed, when the current event has been handled
+    std::unique_ptr<FileStatus> status; // from the first picture on, as what follows
+    std::unique_ptr<RecentMenu> recent;
     QTimer pictured; // the first picture has been painted
     bool ending = false;
     bool painted = false;

@@ -46,6 +46,8 @@ const std::vector<MenuPlan>& Plan() {
         {{&MainForm::mnuEdit, u"EП"}, {
             {&MainForm::mnuUndo,              u"UО"},
             {&MainForm::mnuRedo,              u"RВ"},
+            {nullptr},
+            {&MainForm::mnuFindAbility,       u"FН"},
         }},
         {{&MainForm::mnuBalance, u"BБ"}, {
             {&MainForm::mnuSurvey,            u"SО"},

@@ -2,6 +2,7 @@
 
 #include "window/box_pages.h"
 #include "window/file_view.h"
+#include "window/find_bar.h"
 #include "window/parameters_page.h"
 #include "window/results_panels.h"
 #include "window/standing_panel.h"
@@ -102,7 +103,7 @@ void TabView::BuildPage(int page) {
         standing = std::make_unique<StandingPanel>(program.form, widget, BarHeight);
         break;
     case Page::Abilities:
-        BuildAbilitiesPage(program.form, widget, BarHeight);
+        BuildAbilitiesPage(program, widget, BarHeight);
         break;
     case Page::Spells:
         BuildSpellsPage(program.form, widget, BarHeight);
@@ -125,6 +126,8 @@ void TabView::BuildPage(int page) {
 
 void TabView::ShowPage(int page) {
     BuildPage(page);
+    if (finder != nullptr)
+        finder->End();
     scroll->ensureVisible(0, 0); // unless what gets the focus now stands lower
     stack->setCurrentIndex(page);
 }
@@ -135,6 +138,21 @@ void TabView::ShowNeighbour(int step) {
         page = (page + step + bar->count()) % bar->count();
     while (!program.form.Tablus.Tab(page).On());
     bar->setCurrentIndex(page);
+}
+
+void TabView::FindAbility() {
+    constexpr int page = static_cast<int>(Page::Abilities);
+    bar->setCurrentIndex(page);
+    if (finder == nullptr) {
+        finder = new FindBar(program, *scroll, *stack->widget(page));
+        setTabOrder(bar, &finder->Field());
+    }
+    finder->Begin();
+}
+
+void TabView::Follow() {
+    if (finder != nullptr)
+        finder->Follow();
 }
 
 /// The mouse has only reached what is in sight.

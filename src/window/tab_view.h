@@ -9,6 +9,8 @@
 
 namespace Hesperin {
 
+class FindBar;
+
 /// The tab control with its five pages. A page that is off has no tab; when it was in front, page 0
 /// comes forward. A page is built when it is first shown; where there is no room for it, it
 /// scrolls.
@@ -24,6 +26,12 @@ public:
     /// last comes the first.
     void ShowNeighbour(int step);
 
+    /// Brings the abilities forward and lets the user look for one.
+    void FindAbility();
+
+    /// What the user does has changed something.
+    void Follow();
+
 private:
     class PageView;
 
@@ -35,6 +43,7 @@ private:
     QTabBar* bar;
     QScrollArea* scroll;
     QStackedWidget* stack;
+    FindBar* finder = nullptr; ///< from its first use on
     std::array<bool, TabControl::PageCount> built{};
     std::vector<std::unique_ptr<PageView>> pages;
     std::unique_ptr<StandingPanel> standing;

@@ -1,5 +1,6 @@
 #include "window/window_platform.h"
 
+#include "app/recent_files.h"
 #include "localisation/error_text.h"
 #include "system/save_file.h"
 #include "text/fill.h"
@@ -39,7 +40,15 @@ QString FilterText(const FileDialog& dialog) {
     return description.section(u'(', 0, 0) + u'(' + dialog.Filter.section(u'|', 1, 1) + u')';
 }
 
-void Prepare(QFileDialog& shown, const FileDialog& dialog, QFileDialog::AcceptMode mode) {
+/// The folder of the file used last.
+QString LastFolder(const ProgramPlaces& places) {
+    const QStringList files = RecentFiles(places);
+    const QString folder = files.isEmpty() ? QString() : QFileInfo(files.constFirst()).path();
+    return QFileInfo(folder).isDir() ? folder : QString();
+}
+
+void Prepare(QFileDialog& shown, const FileDialog& dialog, const QString& lastFolder,
+             QFileDialog::AcceptMode mode) {
     shown.setObjectName(dialog.Name());
     shown.setAcceptMode(mode);
     shown.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile
@@ -47,7 +56,9 @@ void Prepare(QFileDialog& shown, const FileDialog& dialog, QFileDialog::AcceptMo
     shown.setNameFilter(FilterText(dialog));
     shown.setDefaultSuffix(dialog.DefaultExtension);
     const QFileInfo last(dialog.FileName);
-    shown.setDirectory(last.isAbsolute() ? last.absolutePath() : dialog.InitialDirectory);
+    shown.setDirectory(last.isAbsolute()      ? last.absolutePath()
+                       : lastFolder.isEmpty() ? dialog.InitialDirectory
+                                              : lastFolder);
     if (!dialog.FileName.isEmpty())
         shown.selectFile(last.fileName());
 }
@@ -95,7 +106,7 @@ int WindowPlatform::Ask(const Question& question) {
 
 bool WindowPlatform::ShowOpenDialog(FileDialog& dialog) {
     QFileDialog shown(window);
-    Prepare(shown, dialog, QFileDialog::AcceptOpen);
+    Prepare(shown, dialog, LastFolder(Places()), QFileDialog::AcceptOpen);
     if (shown.exec() != QDialog::Accepted)
         return false;
     dialog.FileName = shown.selectedFiles().value(0);
@@ -105,7 +116,7 @@ bool WindowPlatform::ShowOpenDialog(FileDialog& dialog) {
 bool WindowPlatform::ShowSaveDialog(FileDialog& dialog) {
     QFileDialog shown(window);
     shown.setOption(QFileDialog::DontConfirmOverwrite); // the program asks, and tells more
-    Prepare(shown, dialog, QFileDialog::AcceptSave);
+    Prepare(shown, dialog, LastFolder(Places()), QFileDialog::AcceptSave);
     while (shown.exec() == QDialog::Accepted) {
         const QString path = shown.selectedFiles().value(0);
         auto refusal = SaveRefusal(path);
@@ -134,6 +145,10 @@ void WindowPlatform::Open(SecondaryWindow which) {
         new AboutWindow(*program, window);
     else
         new AbilityWindow(*program, window);
+}
+
+void WindowPlatform::FindAbility() {
+    window->FindAbility();
 }
 
 void WindowPlatform::ShowStatus(const QString& message) {

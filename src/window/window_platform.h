@@ -24,6 +24,7 @@ public:
     bool ShowSaveDialog(FileDialog& dialog) override;
     void SetFocus(Control& control) override;
     void Open(SecondaryWindow which) override;
+    void FindAbility() override;
     void ShowStatus(const QString& message) override;
     std::optional<RunningInstance> OtherInstance() override { return instance.Other(); }
     bool StartProgram(const QString& name) override;

@@ -54,6 +54,9 @@ TEST(Usage, HelpAndVersionGoToStandardOutputAndWrongUsageIsCode2) {
         {"table --json --html page.html .", nullptr},
         {"texts", nullptr},
         {"texts a --lang FR", nullptr},
+        {"find --help", "talmir-cli find --lang RU"},
+        {"find", nullptr},
+        {"find shot --lang FR", nullptr},
     };
     for (const auto& row : cases) {
         SCOPED_TRACE(row.arguments);

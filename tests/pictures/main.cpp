@@ -75,6 +75,11 @@ int main(int argc, char** argv) {
             use.Bar().setCurrentIndex(page);
             take(QString("page%1").arg(page));
         }
+        use.form.mnuFindAbility.Click();
+        use.Find<QLineEdit>("FindAbility").setText("shot");
+        use.Key(Qt::Key_Return);
+        take("find");
+        use.Key(Qt::Key_Escape);
         use.Bar().setCurrentIndex(0);
         use.form.frmAM.SetVisible(true);
         use.form.Abilities(Ability::Shooter).SetTicked(true);
@@ -107,6 +112,13 @@ int main(int argc, char** argv) {
         use.answers.paths = {path};
         question = "replace";
         mnuSave_Click(use.program);
+
+        use.window->OpenSoon(path);
+        QTest::qWait(1);
+        WriteFile(path, "");
+        const auto& bar = use.Find("ChangedOnDisk");
+        if (QTest::qWaitFor([&] { return bar.isVisible(); }))
+            take("changed");
     }
     return 0;
 }

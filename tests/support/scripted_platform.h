@@ -25,6 +25,7 @@ public:
     bool ShowSaveDialog(FileDialog& dialog) override { return Answer(dialog); }
     void SetFocus(Control& control) override { focus.append(control.Name()); }
     void Open(SecondaryWindow window) override { opened.push_back(window); }
+    void FindAbility() override {}
     void ShowStatus(const QString& message) override { status.append(message); }
     std::optional<RunningInstance> OtherInstance() override { return otherInstance; }
     bool StartProgram(const QString& name) override;

@@ -22,6 +22,7 @@ struct FullWindow : WindowInUse {
         form.frmAM.SetVisible(true);
         for (const ResultRow& row : ResultRows)
             (form.*row.place.label).SetCaption(QString("-32768"));
+        QTest::qWait(1); // the mark of what isn't saved follows
     }
 };
 

@@ -44,11 +44,19 @@ private:
             return std::exchange(use->answers.told, {}).join('\n');
         if (what == "clipboard")
             return QGuiApplication::clipboard()->text();
+        if (what == "found")
+            return ShownFound();
         if (what == "name")
             return use->Find(words[1]).accessibleName();
         if (what == "file")
             return ShownFile(ReadAll(use->Path(words[1])));
         return what == "second" ? ShownSecond() : use->form.Find(what)->Shown();
+    }
+
+    QString ShownFound() const {
+        QTest::qWait(1);
+        const auto* count = use->window->findChild<QLabel*>("FindAbility.Count");
+        return count != nullptr && count->isVisible() ? count->text() : "none";
     }
 
     QString ShownFile(const QByteArray& bytes) const {

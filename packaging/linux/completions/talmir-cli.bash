@@ -5,7 +5,7 @@ _talmir_cli() {
     local columns='file name town CreatureTier Upgrade AttackSkill DefenceSkill MinDamage MaxDamage Health Speed Initiative Shots SpellPoints Range Power Exp WeeklyGrowth Gold Abilities average.Power average.Exp average.WeeklyGrowth average.Gold product advised scale deviation problem'
     _init_completion || return
     case $cword,${words[1]},$prev,$cur in
-        1,*) mapfile -t COMPREPLY < <(compgen -W 'calc set table apply check explain solve run texts --help --version' -- "$cur") ;;
+        1,*) mapfile -t COMPREPLY < <(compgen -W 'calc set table apply check explain solve find run texts --help --version' -- "$cur") ;;
         *,calc,*,-*) mapfile -t COMPREPLY < <(compgen -W '--json --help --version' -- "$cur") ;;
         *,calc,*) _filedir xdb ;;
         *,explain,--lang,* | *,solve,--lang,*) mapfile -t COMPREPLY < <(compgen -W 'EN RU' -- "$cur") ;;
@@ -30,6 +30,8 @@ _talmir_cli() {
         *,run,--lang,*) mapfile -t COMPREPLY < <(compgen -W 'EN RU' -- "$cur") ;;
         *,run,*,-*) mapfile -t COMPREPLY < <(compgen -W '--keep-going --lang --help --version' -- "$cur") ;;
         *,run,*) _filedir ;;
+        *,find,--lang,*) mapfile -t COMPREPLY < <(compgen -W 'EN RU' -- "$cur") ;;
+        *,find,*,-*) mapfile -t COMPREPLY < <(compgen -W '--lang --json --help --version' -- "$cur") ;;
         *,texts,--lang,*) mapfile -t COMPREPLY < <(compgen -W 'EN RU' -- "$cur") ;;
         *,texts,*,-*) mapfile -t COMPREPLY < <(compgen -W '--lang --help --version' -- "$cur") ;;
         *,texts,*) _filedir pak ;;

@@ -54,6 +54,10 @@ complete -c talmir-cli -n '__fish_seen_subcommand_from run' -l lang -x -a 'EN RU
 complete -c talmir-cli -n '__fish_seen_subcommand_from run' -l keep-going -d 'Go on behind what cannot be done'
 complete -c talmir-cli -n '__fish_seen_subcommand_from run' -F
 
+complete -c talmir-cli -n __fish_use_subcommand -a find -d 'Find abilities by what the game says of them'
+complete -c talmir-cli -n '__fish_seen_subcommand_from find' -l lang -x -a 'EN RU' -d 'Language of names and descriptions'
+complete -c talmir-cli -n '__fish_seen_subcommand_from find' -l json -d 'Print one JSON object a line and ability'
+
 complete -c talmir-cli -n __fish_use_subcommand -a texts -d 'Copy the ability texts out of the game'
 complete -c talmir-cli -n '__fish_seen_subcommand_from texts' -l lang -x -a 'EN RU' -d 'Language of these texts'
 complete -c talmir-cli -n '__fish_seen_subcommand_from texts' -k -a '(__fish_complete_suffix .pak)'

@@ -12,4 +12,9 @@ Failure mnuRedo_Click(Program& program) {
     return {};
 }
 
+Failure mnuFindAbility_Click(Program& program) {
+    program.platform.FindAbility();
+    return {};
+}
+
 } // namespace Hesperin

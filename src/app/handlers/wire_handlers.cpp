@@ -40,6 +40,7 @@ constexpr Wire<MenuEntry> MenuWires[] = {
     {&MainForm::mnuSurvey, mnuSurvey_Click},
     {&MainForm::mnuUndo, mnuUndo_Click, Act::Aside},
     {&MainForm::mnuRedo, mnuRedo_Click, Act::Aside},
+    {&MainForm::mnuFindAbility, mnuFindAbility_Click, Act::Aside},
 };
 
 constexpr Wire<Button> ButtonWires[] = {
