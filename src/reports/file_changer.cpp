@@ -70,7 +70,7 @@ Failure ApplyAll(const FileChanger& changer, EditedFile& file, std::vector<Error
 
 } // namespace
 
-ChangeReport TryEdit(const QString& path, const Editing& edit) {
+ChangeReport TryEdit(const QString& path, const FileEditing& edit) {
     ChangeReport report{path, {}, {}, {}, {}, {}, false};
     const auto bytes = ReadFile(path, LargestCreatureFile);
     auto file = bytes ? EditedFile::Open(*bytes) : Result<EditedFile>(bytes.Why());

@@ -9,10 +9,10 @@
 namespace Hesperin {
 
 /// Makes changes in a file; what is told of those that were made goes to `notes`.
-using Editing = std::function<Failure(EditedFile& file, std::vector<Error>& notes)>;
+using FileEditing = std::function<Failure(EditedFile& file, std::vector<Error>& notes)>;
 
 /// What `edit` does to the file `path`; nothing is written.
-ChangeReport TryEdit(const QString& path, const Editing& edit);
+ChangeReport TryEdit(const QString& path, const FileEditing& edit);
 
 /// Makes the same changes in one file after another.
 struct FileChanger {
