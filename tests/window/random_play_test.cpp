@@ -127,9 +127,9 @@ private:
 
 TEST(RandomPlay, TheWindowStaysInOrderAndEndsInOrder) {
 #ifdef __SANITIZE_ADDRESS__ // ten times slower
-    constexpr int actions = 5'000;
+    constexpr int actions = 2'000;
 #else
-    constexpr int actions = 30'000;
+    constexpr int actions = 10'000;
 #endif
     constexpr int plays = 20;
     constexpr int paintedPlay = 10; // every tenth; painting takes most of the time
