@@ -111,7 +111,8 @@ QString Press(ScriptStage& stage, const QString& arguments) {
 /// The entries that a script may pick. The others open windows or end the program.
 constexpr const char* ScriptEntries[] = {"mnuNew",    "mnuOpen",    "mnuSave",
                                          "mnuUpdate", "mnuEnglish", "mnuRussian",
-                                         "mnuFrench", "mnuGerman",  "mnuAlternativeMethod"};
+                                         "mnuFrench", "mnuGerman",  "mnuAlternativeMethod",
+                                         "mnuTakeOver"};
 
 QString Menu(ScriptStage& stage, const QString& arguments) {
     const Words words = SplitFirst(arguments);
@@ -159,7 +160,7 @@ constexpr Action Actions[] = {
     {"untick",  "BOX",            "unticks it",                                               Untick},
     {"mastery", "SELECTOR LEVEL", "clicks option 0 to 4 of soq(46), saz(9)",                  Mastery},
     {"press",   "BUTTON",         "cmdCalc, cmdRAP, cmdRAA, cmdRAS, cmdResetAll",             Press},
-    {"menu",    "ENTRY [PATH]",   "mnuNew, mnuOpen PATH, mnuSave PATH, mnuUpdate, mnuRussian", Menu},
+    {"menu",    "ENTRY [PATH]",   "mnuNew, mnuOpen PATH, mnuSave PATH, mnuUpdate, mnuTakeOver, mnuRussian", Menu},
     {"show",    "NAME",           "prints the text, caption or state of a control",           Show},
     {"state",   "",               "prints the whole state, and the boxes shown, as JSON",     State},
 };

@@ -35,7 +35,8 @@ void HoldMenus(MainForm& form) {
                            &form.mnuHighContrast});
     Hold(form.mnuLanguage, {&form.mnuEnglish, &form.mnuRussian, &form.mnuFrench, &form.mnuGerman});
     Hold(form.mnuInfo, {&form.mnuHelp, &form.mnuAbout});
-    Hold(form.mnuBalance, {&form.mnuSurvey});
+    Hold(form.mnuBalance, {&form.mnuSurvey, &form.mnuExplain, &form.mnuSolve, &form.mnuTakeOver,
+                           &form.mnuTakeOverByScale});
 }
 
 void HoldParameters(MainForm& form) {
@@ -113,7 +114,7 @@ MainForm::MainForm() {
     HoldAll(frmMain, utbD);
 
     Tablus.At(Page::File).SetCaption(QStringLiteral("XDB"));
-    Disable({&mnuSave, &mnuUpdate, &mnuFrench, &mnuGerman, &mnuAlternativeMethod, &mnuHelp,
+    Disable({&mnuSave, &mnuUpdate, &mnuFrench, &mnuGerman, &mnuAlternativeMethod, &mnuHelp, &mnuTakeOverByScale,
              &FrameIDC, &FrameShots, &txtShots, &FrameMana, &txtMana, &FrameRange, &ComboRange,
              &frmMM, &frmAM, &cmdRAS, &Specabilities(0)});
     Hide({&frmAM, &FrameStanding, &FrameAlias, &FrameDiapazon, &RTBTEMP, &RTBSPEC});

@@ -43,6 +43,10 @@ struct MainForm : ControlRegistry {
     MenuEntry mnuAbout{*this, "mnuAbout", "Ctrl+A"};
     MenuEntry mnuBalance{*this, "mnuBalance"};
     MenuEntry mnuSurvey{*this, "mnuSurvey", "Ctrl+Shift+S"};
+    MenuEntry mnuExplain{*this, "mnuExplain", "F2"};
+    MenuEntry mnuSolve{*this, "mnuSolve", "F3"};
+    MenuEntry mnuTakeOver{*this, "mnuTakeOver", "Ctrl+T"};
+    MenuEntry mnuTakeOverByScale{*this, "mnuTakeOverByScale"};
 
     TabControl Tablus{*this, "Tablus", "Tablus.Tab"};
 

@@ -25,6 +25,10 @@ constexpr CaptionRow Captions[] = {
     {"mnuAbout",                      {u"About...",           u"О программе...",       u"A propos...",  u"Ьber programm..."}},
     {"mnuBalance",                    {u"Balance",            u"Баланс",               nullptr,         nullptr}},
     {"mnuSurvey",                     {u"Survey…",            u"Обзор…",               nullptr,         nullptr}},
+    {"mnuExplain",                    {u"How was this computed?", u"Как это получено?", nullptr,        nullptr}},
+    {"mnuSolve",                      {u"Solve…",             u"Подобрать…",           nullptr,         nullptr}},
+    {"mnuTakeOver",                   {u"Take over computed", u"Взять вычисленное",    nullptr,         nullptr}},
+    {"mnuTakeOverByScale",            {u"Take over by the mod's scale", u"Брать в масштабе мода", nullptr, nullptr}},
     {"mnuAlternativeMethod",          {u"Alternative method", u"Альтернативный метод", nullptr,         nullptr}},
 
     // Frames

@@ -9,6 +9,7 @@
 #include "app/handlers/list_rules.h"
 #include "app/handlers/options_menu.h"
 #include "app/handlers/save_and_update.h"
+#include "form/form_lists.h"
 
 namespace Hesperin {
 
@@ -36,6 +37,10 @@ constexpr Wire<MenuEntry> MenuWires[] = {
     {&MainForm::mnuHighContrast, mnuHighContrast_Click},
     {&MainForm::mnuAbout, mnuAbout_Click},
     {&MainForm::mnuSurvey, mnuSurvey_Click},
+    {&MainForm::mnuExplain, mnuExplain_Click},
+    {&MainForm::mnuSolve, mnuSolve_Click},
+    {&MainForm::mnuTakeOver, mnuTakeOver_Click},
+    {&MainForm::mnuTakeOverByScale, mnuTakeOverByScale_Click},
 };
 
 constexpr Wire<Button> ButtonWires[] = {
@@ -81,6 +86,10 @@ void WireHandlers(Program& program) {
     WireBoxes(program, form.Abilities, Abilities_Click);
     WireBoxes(program, form.Spells, Spells_Click);
     WireBoxes(program, form.Specabilities, Specabilities_Click);
+    for (const ResultRow& row : ResultRows)
+        (form.*row.place.label).SetDoubleClickHandler([&program, &row] {
+            ExplainResult(program, {row.method, row.figure});
+        });
     for (CheckBox& box : form.Abilities)
         box.SetRightClickHandler([&program, &box] {
             Abilities_RightClick(program, box.ArrayIndex());
