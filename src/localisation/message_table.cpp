@@ -177,7 +177,7 @@ constexpr MessageRow Table[] = {
     {&Messages::ExplanationWindowFigure,   {u"&Figure", u"&Показатель", nullptr, nullptr}},
     {&Messages::ExplanationWindowAll,      {u"All figures", u"Все показатели", nullptr, nullptr}},
     {&Messages::ExplanationWindowCopy,     {u"&Copy", u"&Копировать", nullptr, nullptr}},
-    {&Messages::ExplanationWindowMarkdown, {u"Copy as &Markdown", u"Копировать как &Markdown", nullptr, nullptr}},
+    {&Messages::ExplanationWindowMarkdown, {u"Copy as &Markdown", u"К&опировать как Markdown", nullptr, nullptr}},
     {&Messages::ExplanationWindowNothing,  {u"Nothing has been computed yet: Calculate (F5) does it.", u"Пока ничего не вычислено: нажмите «Рассчёт» (F5).", nullptr, nullptr}},
     {&Messages::SolveWindowTitle,     {u"Solve", u"Подбор", nullptr, nullptr}},
     {&Messages::SolveWindowGoal,      {u"Wanted &Power", u"Нужна &сила", nullptr, nullptr}},

@@ -29,10 +29,10 @@ QString StepRow(const ExplainedStep& step) {
 } // namespace
 
 QString ExplanationPage(const QString& head, const std::vector<ExplainedChapter>& chapters) {
-    QString page = QStringLiteral("<p style=\"margin:0 0 9px 2px\"><big><b>%1</b></big></p>")
+    QString page = QStringLiteral("<p style=\"margin:0 0 9px 1px\"><big><b>%1</b></big></p>")
                        .arg(head.toHtmlEscaped());
     for (const ExplainedChapter& chapter : chapters) {
-        page += QStringLiteral("<p style=\"margin:0 0 2px 2px;color:%1\"><b>%2</b></p>"
+        page += QStringLiteral("<p style=\"margin:0 0 2px 1px;color:%1\"><b>%2</b></p>"
                                "<table width=\"100%\" style=\"margin-bottom:9px\" "
                                "cellspacing=\"0\" cellpadding=\"1\">")
                     .arg(QColor(Colours().Accent).name(), chapter.heading.toHtmlEscaped());

@@ -33,6 +33,7 @@ QLabel* HeadingLabel() {
     font.setPixelSize(13);
     font.setBold(true);
     label->setFont(font);
+    label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     return label;
 }
 
@@ -40,6 +41,7 @@ void Stack(QVBoxLayout& lines, std::initializer_list<QWidget*> widgets) {
     for (QWidget* widget : widgets)
         lines.addWidget(widget);
     lines.addStretch(1);
+    lines.setSpacing(6); // else that of the layout around it
 }
 
 const ExplainedChapter* FindChapter(const std::vector<ExplainedChapter>& chapters, Chapter wanted) {
@@ -62,6 +64,7 @@ ExplanationWindow::ExplanationWindow(Program& owner)
     text->setObjectName(QStringLiteral("ExplanationText"));
     text->setOpenLinks(false);
     text->document()->setDocumentMargin(8);
+    text->setMinimumHeight(140);
     text->installEventFilter(this);
     lines->addWidget(text, 1);
     below = BuildBottom();
