@@ -109,9 +109,9 @@ QString Press(ScriptStage& stage, const QString& arguments) {
 }
 
 /// The entries that a script may pick. The others open windows or end the program.
-constexpr const char* ScriptEntries[] = {"mnuNew",    "mnuOpen",    "mnuSave",
-                                         "mnuUpdate", "mnuEnglish", "mnuRussian",
-                                         "mnuFrench", "mnuGerman",  "mnuAlternativeMethod",
+constexpr const char* ScriptEntries[] = {"mnuNew",     "mnuOpen",    "mnuSave",
+                                         "mnuUpdate",  "mnuEnglish", "mnuRussian",
+                                         "mnuFrench",  "mnuGerman",  "mnuAlternativeMethod",
                                          "mnuTakeOver"};
 
 QString Menu(ScriptStage& stage, const QString& arguments) {

@@ -114,9 +114,9 @@ MainForm::MainForm() {
     HoldAll(frmMain, utbD);
 
     Tablus.At(Page::File).SetCaption(QStringLiteral("XDB"));
-    Disable({&mnuSave, &mnuUpdate, &mnuFrench, &mnuGerman, &mnuAlternativeMethod, &mnuHelp, &mnuTakeOverByScale,
-             &FrameIDC, &FrameShots, &txtShots, &FrameMana, &txtMana, &FrameRange, &ComboRange,
-             &frmMM, &frmAM, &cmdRAS, &Specabilities(0)});
+    Disable({&mnuSave, &mnuUpdate, &mnuFrench, &mnuGerman, &mnuAlternativeMethod, &mnuHelp,
+             &mnuTakeOverByScale, &FrameIDC, &FrameShots, &txtShots, &FrameMana, &txtMana,
+             &FrameRange, &ComboRange, &frmMM, &frmAM, &cmdRAS, &Specabilities(0)});
     Hide({&frmAM, &FrameStanding, &FrameAlias, &FrameDiapazon, &RTBTEMP, &RTBSPEC});
     for (auto& text : utbN)
         text.SetVisible(false);

@@ -55,8 +55,8 @@ void GainBars::paintEvent(QPaintEvent*) {
                               : QRect(names + GainGap, top, width() - names - GainGap, GainHeight),
                          (some ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter, gain.value);
         if (some)
-            painter.fillRect(QRectF(numbersRight + GainGap, top + 4, std::max(1.0, room * gain.share),
-                                    GainHeight - 8),
+            painter.fillRect(QRectF(numbersRight + GainGap, top + 4,
+                                    std::max(1.0, room * gain.share), GainHeight - 8),
                              QColor(colours.Accent));
     }
 }

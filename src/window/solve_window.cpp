@@ -24,7 +24,10 @@ enum SolveColumns {
     ColumnCount
 };
 
-constexpr int ValueRole = Qt::UserRole; ///< of a cell whose value can be taken
+// Of a cell whose value can be taken.
+constexpr int ValueRole = Qt::UserRole;
+constexpr int ParameterRole = Qt::UserRole + 1;
+
 constexpr int SolveRowHeight = 26;
 
 } // namespace
@@ -97,8 +100,8 @@ void SolveWindow::BuildTable() {
     table->horizontalHeader()->setStretchLastSection(true);
     table->horizontalHeader()->setMinimumSectionSize(56);
     table->installEventFilter(this);
-    connect(table, &QTableWidget::cellClicked, this,
-            [this](int row, int column) { Take(row, column); });
+    connect(table, &QTableWidget::itemClicked, this,
+            [this](const QTableWidgetItem* item) { Take(item); });
 }
 
 void SolveWindow::ShowWithGoal() {
@@ -140,7 +143,6 @@ void SolveWindow::Refresh() {
     const bool surveyed = program.survey != nullptr;
     byScale->setEnabled(surveyed);
     const auto wanted = Goal();
-    table->setVisible(true);
     if (!wanted) {
         table->setRowCount(0);
         head->setText(program.state.messages.SolveWindowNoGoal);
@@ -176,10 +178,10 @@ void SolveWindow::ShowRow(int row, const SolveReport& report) {
         item->setData(ValueRole, {});
         return item;
     };
-    put(NameColumn, ParameterIn(language, solution.parameter), Qt::AlignLeft)
-        ->setData(ValueRole + 1, static_cast<int>(solution.parameter));
+    put(NameColumn, ParameterIn(language, solution.parameter), Qt::AlignLeft);
     put(NowColumn, QString::number(today), Qt::AlignRight);
-    put(WordsColumn, SolutionText(solution, language), Qt::AlignLeft);
+    const QString words = SolutionText(solution, language);
+    put(WordsColumn, words, Qt::AlignLeft)->setToolTip(words); // for a narrow window
     const auto choices = ChoicesOf(solution, today, OfferedChoices);
     for (std::size_t i = 0; i < OfferedChoices; ++i) {
         const bool some = i < choices.size();
@@ -194,15 +196,14 @@ void SolveWindow::ShowRow(int row, const SolveReport& report) {
         item->setFont(link);
         item->setForeground(QColor(Colours().Accent));
         item->setData(ValueRole, choices[i]);
+        item->setData(ParameterRole, static_cast<int>(solution.parameter));
     }
 }
 
-void SolveWindow::Take(int row, int column) {
-    const QTableWidgetItem* item = table->item(row, column);
+void SolveWindow::Take(const QTableWidgetItem* item) {
     if (item == nullptr || !item->data(ValueRole).isValid() || !program.form.frmMain.Enabled())
         return; // no value, or a secondary window locks the main one
-    const auto parameter =
-        static_cast<Parameter>(table->item(row, NameColumn)->data(ValueRole + 1).toInt());
+    const auto parameter = static_cast<Parameter>(item->data(ParameterRole).toInt());
     TakeParameter(program, parameter, static_cast<std::int16_t>(item->data(ValueRole).toInt()));
 }
 
@@ -210,7 +211,7 @@ bool SolveWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == table && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space) {
-            Take(table->currentRow(), table->currentColumn());
+            Take(table->currentItem());
             return true;
         }
     }

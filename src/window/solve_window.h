@@ -31,7 +31,7 @@ private:
     std::optional<SolveGoal> Goal() const;
     void ShowReport(const SolveReport& report);
     void ShowRow(int row, const SolveReport& report);
-    void Take(int row, int column);
+    void Take(const QTableWidgetItem* item);
 
     QLabel* goalLabel;
     QLineEdit* goal;

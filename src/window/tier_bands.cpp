@@ -15,8 +15,8 @@ namespace {
 constexpr int BandCount = 8;
 constexpr int AboveBands = 20; // for the mark's Power
 constexpr int BandHeight = 24;
-constexpr int BelowBands = 16; // for the Powers at the borders
-constexpr int BesideStrip = 18;      // half a number
+constexpr int BelowBands = 16;  // for the Powers at the borders
+constexpr int BesideStrip = 18; // half a number
 
 } // namespace
 
