@@ -74,10 +74,11 @@ void Calculate(Program& program) {
 
     const EnteredParameters entered = EnteredIn(program);
     form.cmdCalc.SetToolTip(state.messages.MsgAverageValue + FloatText(entered.AbilityProduct));
-    const Evaluation evaluation = Evaluate(entered);
+    Evaluation evaluation = Evaluate(entered);
     TellCorrections(program, evaluation.validated.corrections);
 
     state.parameters = evaluation.validated.parameters;
+    state.corrections = std::move(evaluation.validated.corrections);
     state.exponents = ExponentsFor(state.parameters.Shooter);
     state.powers = evaluation.powers;
     if (evaluation.figures)

@@ -1,6 +1,7 @@
 #include "app/history.h"
 
 #include "app/program.h"
+#include "app/standing.h"
 #include "localisation/captions.h"
 #include "text/fill.h"
 
@@ -119,6 +120,7 @@ void History::Go(const WindowState& state, std::uint32_t creature) {
         shown = creature;
     }
     SetWindowState(program, state);
+    ShowStanding(program);
 }
 
 void History::ShowEntries() {

@@ -12,8 +12,8 @@
 namespace Hesperin {
 
 /// The windows that open beside the main window. Each locks it until its button is pressed, but for
-/// the survey, which stays open beside it.
-enum class SecondaryWindow : std::uint8_t { About, AbilityInformation, Survey };
+/// those from the survey on, which stay open beside it.
+enum class SecondaryWindow : std::uint8_t { About, AbilityInformation, Survey, Explanation, Solve };
 
 class Platform {
 public:

@@ -6,6 +6,7 @@
 #include "form/main_form.h"
 #include "reports/survey.h"
 
+#include <functional>
 #include <memory>
 
 namespace Hesperin {
@@ -22,6 +23,9 @@ struct Program {
 
     /// The survey of a mod that is loaded; null when there is none. See app/standing.h.
     std::shared_ptr<const Survey> survey;
+
+    /// Runs when results, survey or language have changed: for the windows that show more of them.
+    std::function<void()> resultsChanged;
 
     /// A message box with the warning title.
     void Warn(BoxIcon icon, const QString& text) {

@@ -26,6 +26,10 @@ struct SharedState {
     Powers powers;
     Figures figures;
     Advice advice;
+    std::vector<Correction> corrections; ///< that validation made
+
+    /// The result of which the user last asked how it was computed.
+    ResultKey explained{Method::Average, Figure::Power};
 
     // The creature's identity and the values of the open file.
     QString CreatureName;

@@ -23,6 +23,7 @@ QString Lacking(const Program& program, const StandingOf& creature) {
 
 void LoadSurvey(Program& program, std::shared_ptr<const Survey> survey) {
     program.survey = std::move(survey);
+    program.form.mnuTakeOverByScale.SetEnabled(program.survey != nullptr);
     ShowStanding(program);
 }
 
@@ -34,6 +35,8 @@ std::optional<std::size_t> RowOfShownFile(const Program& program) {
 void ShowStanding(Program& program) {
     MainForm& form = program.form;
     const Messages& messages = program.state.messages;
+    if (program.resultsChanged)
+        program.resultsChanged();
     form.FrameStanding.SetVisible(program.survey != nullptr);
     if (!program.survey)
         return;

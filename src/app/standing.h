@@ -12,8 +12,8 @@ void LoadSurvey(Program& program, std::shared_ptr<const Survey> survey);
 std::optional<std::size_t> RowOfShownFile(const Program& program);
 
 /// Tells in the middle of page 0 how the computed average Power stands to the entered one among the
-/// surveyed creatures of the tier; hides it without a survey. To be called when any of them
-/// changed.
+/// surveyed creatures of the tier; hides it without a survey. Tells those that show more of the
+/// results. To be called when any of them changed.
 void ShowStanding(Program& program);
 
 } // namespace Hesperin

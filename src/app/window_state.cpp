@@ -28,6 +28,7 @@ WindowState TakeWindowState(Program& program) {
                       {},
                       {},
                       state.UpgradeFactor,
+                      state.corrections,
                       state.parameters,
                       state.exponents,
                       state.powers,
@@ -48,6 +49,7 @@ void SetWindowState(Program& program, const WindowState& state) {
     SetCreature(program, state.creature);
     current.CreatureName = state.creatureName;
     current.UpgradeFactor = state.upgradeFactor;
+    current.corrections = state.corrections;
     current.parameters = state.parameters;
     current.exponents = state.exponents;
     current.powers = state.powers;

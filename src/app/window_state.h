@@ -22,6 +22,7 @@ struct WindowState {
     std::array<QString, std::size(ResultRows)> results;
     std::array<bool, SwitchCount> switches{}; ///< whether controls are enabled and pages on
     float upgradeFactor = PlainFactor;
+    std::vector<Correction> corrections;
     Parameters parameters;
     Exponents exponents;
     Powers powers;

@@ -9,4 +9,12 @@ enum class Method : std::uint8_t { Rolvane, Hesperin, Average, Count };
 
 enum class Figure : std::uint8_t { Power, Experience, Growth, Cost, Count };
 
+/// One of the twelve.
+struct ResultKey {
+    Method method;
+    Figure figure;
+
+    bool operator==(const ResultKey&) const = default;
+};
+
 } // namespace Hesperin

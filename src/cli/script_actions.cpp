@@ -114,7 +114,7 @@ QString Press(ScriptStage& stage, const QString& arguments) {
 constexpr const char* ScriptEntries[] = {"mnuNew",    "mnuOpen",    "mnuSave",
                                          "mnuUpdate", "mnuEnglish", "mnuRussian",
                                          "mnuFrench", "mnuGerman",  "mnuAlternativeMethod",
-                                         "mnuUndo",   "mnuRedo"};
+                                         "mnuUndo",   "mnuRedo",    "mnuTakeOver"};
 
 QString Menu(ScriptStage& stage, const QString& arguments) {
     const Words words = SplitFirst(arguments);
@@ -162,7 +162,7 @@ constexpr Action Actions[] = {
     {"untick",  "BOX",            "unticks it",                                               Untick},
     {"mastery", "SELECTOR LEVEL", "clicks option 0 to 4 of soq(46), saz(9)",                  Mastery},
     {"press",   "BUTTON",         "cmdCalc, cmdRAP, cmdRAA, cmdRAS, cmdResetAll",             Press},
-    {"menu",    "ENTRY [PATH]",   "mnuNew, mnuOpen PATH, mnuSave PATH, mnuUpdate, mnuRussian, mnuUndo, mnuRedo", Menu},
+    {"menu",    "ENTRY [PATH]",   "mnuNew, mnuOpen PATH, mnuSave PATH, mnuUpdate, mnuUndo, mnuTakeOver", Menu},
     {"show",    "NAME",           "prints the text, caption or state of a control",           Show},
     {"state",   "",               "prints the whole state, and the boxes shown, as JSON",     State},
 };

@@ -56,6 +56,17 @@ public:
 class Label : public Captioned {
 public:
     using Captioned::Captioned;
+
+    void SetDoubleClickHandler(std::function<void()> value) { doubleClick = std::move(value); }
+
+    /// The user's double click.
+    void DoubleClick() {
+        if (doubleClick)
+            doubleClick();
+    }
+
+private:
+    std::function<void()> doubleClick;
 };
 
 /// What the user clicks on to have something done.

@@ -37,7 +37,8 @@ void HoldMenus(MainForm& form) {
     Hold(form.mnuLanguage, {&form.mnuEnglish, &form.mnuRussian, &form.mnuFrench, &form.mnuGerman});
     Hold(form.mnuInfo, {&form.mnuHelp, &form.mnuAbout});
     Hold(form.mnuEdit, {&form.mnuUndo, &form.mnuRedo, &form.mnuFindAbility});
-    Hold(form.mnuBalance, {&form.mnuSurvey});
+    Hold(form.mnuBalance, {&form.mnuSurvey, &form.mnuExplain, &form.mnuSolve, &form.mnuTakeOver,
+                           &form.mnuTakeOverByScale});
 }
 
 void HoldParameters(MainForm& form) {
@@ -115,9 +116,26 @@ MainForm::MainForm() {
     HoldAll(frmMain, utbD);
 
     Tablus.At(Page::File).SetCaption(QStringLiteral("XDB"));
-    Disable({&mnuSave, &mnuUpdate, &mnuUndo, &mnuRedo, &mnuFrench, &mnuGerman,
-             &mnuAlternativeMethod, &mnuHelp, &FrameIDC, &FrameShots, &txtShots, &FrameMana,
-             &txtMana, &FrameRange, &ComboRange, &frmMM, &frmAM, &cmdRAS, &Specabilities(0)});
+    Disable({&mnuSave,
+             &mnuUpdate,
+             &mnuUndo,
+             &mnuRedo,
+             &mnuFrench,
+             &mnuGerman,
+             &mnuAlternativeMethod,
+             &mnuHelp,
+             &mnuTakeOverByScale,
+             &FrameIDC,
+             &FrameShots,
+             &txtShots,
+             &FrameMana,
+             &txtMana,
+             &FrameRange,
+             &ComboRange,
+             &frmMM,
+             &frmAM,
+             &cmdRAS,
+             &Specabilities(0)});
     Hide({&frmAM, &FrameStanding, &FrameAlias, &FrameDiapazon, &RTBTEMP, &RTBSPEC});
     for (auto& text : utbN)
         text.SetVisible(false);

@@ -41,12 +41,16 @@ struct MainForm : ControlRegistry {
     MenuEntry mnuInfo{*this, "mnuInfo"};
     MenuEntry mnuHelp{*this, "mnuHelp", "F1"};
     MenuEntry mnuAbout{*this, "mnuAbout", "Ctrl+A"};
-    MenuEntry mnuBalance{*this, "mnuBalance"};
-    MenuEntry mnuSurvey{*this, "mnuSurvey", "Ctrl+Shift+S"};
     MenuEntry mnuEdit{*this, "mnuEdit"};
     MenuEntry mnuUndo{*this, "mnuUndo", "Ctrl+Z"};
     MenuEntry mnuRedo{*this, "mnuRedo", "Ctrl+Y"};
     MenuEntry mnuFindAbility{*this, "mnuFindAbility", "Ctrl+F"};
+    MenuEntry mnuBalance{*this, "mnuBalance"};
+    MenuEntry mnuSurvey{*this, "mnuSurvey", "Ctrl+Shift+S"};
+    MenuEntry mnuExplain{*this, "mnuExplain", "F2"};
+    MenuEntry mnuSolve{*this, "mnuSolve", "F3"};
+    MenuEntry mnuTakeOver{*this, "mnuTakeOver", "Ctrl+T"};
+    MenuEntry mnuTakeOverByScale{*this, "mnuTakeOverByScale"};
 
     TabControl Tablus{*this, "Tablus", "Tablus.Tab"};
 

@@ -176,6 +176,25 @@ struct Messages {
     QString SurveyWindowFindingPlace;
     QString SurveyWindowFindingWords;
 
+    // The window that tells how figures were computed.
+    QString ExplanationWindowFigure;
+    QString ExplanationWindowAll;
+    QString ExplanationWindowCopy;
+    QString ExplanationWindowMarkdown;
+    QString ExplanationWindowNothing;
+
+    // The window that finds values for a Power.
+    QString SolveWindowTitle;
+    QString SolveWindowGoal;
+    QString SolveWindowTier;
+    QString SolveWindowByScale;
+    QString SolveWindowParameter;
+    QString SolveWindowNow;
+    QString SolveWindowTake;
+    QString SolveWindowGives;
+    QString SolveWindowNoGoal;
+    QString SolveWindowHint;
+
     // The survey's page and picture.
     QString SurveyHeading;
     QString SurveyCreatures;

@@ -21,6 +21,9 @@ struct Explanation {
 
 Explanation Explain(const Creature& creature, const QString& name, const QString& file);
 
+/// Of parameters alone: the product of the abilities' values is given.
+Explanation Explain(const Parameters& parameters, const QString& name);
+
 /// Of the creature file `path`. The error names it.
 Result<Explanation> ExplainFile(const QString& path);
 

@@ -2,6 +2,7 @@
 
 #include "catalogue/tiers.h"
 #include "localisation/judgement_text.h"
+#include "reports/explained_terms.h"
 #include "text/fill.h"
 
 #include <algorithm>
@@ -25,22 +26,29 @@ bool IsCutOf(const Term& next, const Term& term) {
 
 class Explainer {
 public:
-    Explainer(const Explanation& source, std::uint8_t language)
+    Explainer(const Explanation& source, std::uint8_t language, std::optional<ResultKey> only)
         : explanation(source), languageId(language),
           parameters(source.evaluation.validated.parameters),
-          fixedGrowth(parameters.Tier >= FirstTierOfFixedGrowth) {}
+          fixedGrowth(parameters.Tier >= FirstTierOfFixedGrowth) {
+        if (only) {
+            result = TermOfResult(*only);
+            behind = TermsBehind(source, *only);
+        }
+    }
 
     std::vector<ExplainedChapter> Run() {
         TellCorrections();
         TellEntered();
         for (std::size_t i = 0; i < explanation.terms.size(); ++i)
-            if (i + 1 < explanation.terms.size() &&
-                IsCutOf(explanation.terms[i + 1], explanation.terms[i])) {
-                TellStep(explanation.terms[i + 1].id, CutWorking(i));
+            if (!Tells(explanation.terms[i].id)) {
+                continue;
+            } else if (i + 1 < explanation.terms.size() &&
+                       IsCutOf(explanation.terms[i + 1], explanation.terms[i])) {
+                TellStep(explanation.terms[i + 1].id, CutStep(i));
                 ++i;
             } else {
                 const Term& term = explanation.terms[i];
-                TellStep(term.id, Working(term, ReadableNumber(term.value)));
+                TellStep(term.id, StepOf(term, ReadableNumber(term.value)));
             }
         if (explanation.evaluation.advice)
             TellBand(*explanation.evaluation.advice);
@@ -55,13 +63,19 @@ private:
         return Fill(PhraseIn(languageId, phrase), values);
     }
 
-    void Tell(Chapter chapter, const QString& what, const QString& working = {}) {
+    bool Tells(const QString& id) const { return !behind || behind->contains(id); }
+
+    void Tell(Chapter chapter, const QString& what, const QString& value = {}) {
+        Tell(chapter, {what, {}, value});
+    }
+
+    void Tell(Chapter chapter, ExplainedStep step) {
         auto place = std::find_if(chapters.begin(), chapters.end(), [chapter](const auto& known) {
             return known.chapter >= chapter;
         });
         if (place == chapters.end() || place->chapter != chapter)
             place = chapters.insert(place, {chapter, ChapterIn(languageId, chapter), {}});
-        place->steps.push_back({what, working});
+        place->steps.push_back(std::move(step));
     }
 
     void TellCorrections() {
@@ -88,58 +102,69 @@ private:
     void TellEntered() {
         for (std::size_t i = 0; i < ParameterRanges.items.size(); ++i) {
             const auto parameter = static_cast<Parameter>(i);
-            Tell(Chapter::Entered, ParameterIn(languageId, parameter),
-                 QString::number(parameters[parameter]));
+            if (Tells(ParameterRanges[parameter].name.toString()))
+                Tell(Chapter::Entered, ParameterIn(languageId, parameter),
+                     QString::number(parameters[parameter]));
         }
         const bool upgraded = parameters.UpgradeFactor != PlainFactor;
-        Tell(Chapter::Entered, Words(Phrase::Upgraded), Words(upgraded ? Phrase::Yes : Phrase::No));
-        Tell(Chapter::Entered, Words(Phrase::Shooter),
-             Words(parameters.Shooter ? Phrase::Yes : Phrase::No));
+        if (Tells(QStringLiteral("UpgradeFactor")))
+            Tell(Chapter::Entered, Words(Phrase::Upgraded),
+                 Words(upgraded ? Phrase::Yes : Phrase::No));
+        if (Tells(QStringLiteral("Shooter")))
+            Tell(Chapter::Entered, Words(Phrase::Shooter),
+                 Words(parameters.Shooter ? Phrase::Yes : Phrase::No));
     }
 
-    /// `value` is that of the term in words.
-    static QString Working(const Term& term, const QString& value) {
-        return term.numbers == value ? value : term.numbers + QLatin1String(" = ") + value;
+    /// Without what it is. `value` is that of the term in words.
+    static ExplainedStep StepOf(const Term& term, const QString& value) {
+        return {{}, term.numbers == value ? QString() : term.numbers, value};
     }
 
     /// Of the step at `at` and the next, which cuts it.
-    QString CutWorking(std::size_t at) const {
+    ExplainedStep CutStep(std::size_t at) const {
         const Term& exact = explanation.terms[at];
         const Term& cut = explanation.terms[at + 1];
-        QString text = Working(exact, NumberBeforeCut(exact.value));
+        ExplainedStep step = StepOf(exact, NumberBeforeCut(exact.value));
         if (exact.value == cut.value)
-            return text;
-        text += QStringLiteral(" → ") + ReadableNumber(cut.value);
+            return step;
+        step.value += QStringLiteral(" → ") + ReadableNumber(cut.value);
         if (exact.value > std::numeric_limits<std::int16_t>::max() && cut.value + 1 < exact.value)
-            text += QLatin1String(" (") + Words(Phrase::LimitedTo16Bits) + u')';
+            step.value += QLatin1String(" (") + Words(Phrase::LimitedTo16Bits) + u')';
         else if (exact.value < 1)
-            text += QLatin1String(" (") +
-                    Words(cut.value == 0 ? Phrase::ZeroInsteadOfOne : Phrase::OneInsteadOfLess) +
-                    u')';
-        return text;
+            step.value +=
+                QLatin1String(" (") +
+                Words(cut.value == 0 ? Phrase::ZeroInsteadOfOne : Phrase::OneInsteadOfLess) + u')';
+        return step;
     }
 
-    void TellStep(const QString& id, const QString& working) {
+    void TellStep(const QString& id, ExplainedStep step) {
+        step.isResult = id == result;
+        const auto tell = [&](Chapter chapter, const QString& what) {
+            step.what = what;
+            Tell(chapter, std::move(step));
+        };
         if (id.startsWith(AbilityPrefix))
-            return Tell(Chapter::Abilities, id.mid(AbilityPrefix.size()), working);
-        if (id == QLatin1String("product") && chapters.back().chapter != Chapter::Abilities)
-            return Tell(Chapter::Abilities, Words(Phrase::NoAbility), working);
+            return tell(Chapter::Abilities, id.mid(AbilityPrefix.size()));
+        if (id == QLatin1String("product") && parameters.AbilityProduct == 1 &&
+            (chapters.empty() || chapters.back().chapter != Chapter::Abilities))
+            return tell(Chapter::Abilities, Words(Phrase::NoAbility));
         if (id == QLatin1String("exponent_offence"))
             return TellExponents();
         const QString tier = QString::number(parameters.Tier);
-        if (fixedGrowth && id == QLatin1String("growth_rolvane"))
-            return Tell(Chapter::Growth, Words(Phrase::FixedGrowth, {tier}), working);
+        if (fixedGrowth && id == QLatin1String("growth_rolvane")) {
+            step.isResult |= result == QLatin1String("growth_hesperin");
+            return tell(Chapter::Growth, Words(Phrase::FixedGrowth, {tier}));
+        }
         if (fixedGrowth &&
             (id == QLatin1String("growth_hesperin") || id == QLatin1String("growth_numerator")))
             return;
-        const StepWords* step = WordsOfStep(id);
-        if (step == nullptr)
+        const StepWords* words = WordsOfStep(id);
+        if (words == nullptr)
             return;
         // Where the growth is fixed, its base counts for the cost alone.
         const bool forTheCost = fixedGrowth && (id == QLatin1String("growth_base") ||
                                                 id == QLatin1String("both_numerators"));
-        Tell(forTheCost ? Chapter::Gold : step->chapter, Fill(StepIn(languageId, *step), {tier}),
-             working);
+        tell(forTheCost ? Chapter::Gold : words->chapter, Fill(StepIn(languageId, *words), {tier}));
     }
 
     void TellExponents() {
@@ -185,9 +210,13 @@ private:
             const auto parameter = static_cast<Parameter>(i);
             const std::int16_t highest = RangeOf(parameters, parameter).highest;
             const auto& gain = explanation.gains[i];
-            Tell(Chapter::OneMore, ParameterIn(languageId, parameter),
-                 gain ? u'+' + WholeText(*gain)
-                      : Words(Phrase::Highest, {QString::number(highest)}));
+            const double strongest = explanation.gains[order.front()].value_or(0);
+            Tell(Chapter::OneMore,
+                 {.what = ParameterIn(languageId, parameter),
+                  .numbers = {},
+                  .value = gain ? u'+' + WholeText(*gain)
+                                : Words(Phrase::Highest, {QString::number(highest)}),
+                  .share = gain && strongest > 0 ? *gain / strongest : 0});
         }
     }
 
@@ -195,13 +224,16 @@ private:
     const std::uint8_t languageId;
     const Parameters& parameters;
     const bool fixedGrowth;
+    QString result; ///< the term that was asked for; empty: all
+    std::optional<QSet<QString>> behind;
     std::vector<ExplainedChapter> chapters;
 };
 
 } // namespace
 
-std::vector<ExplainedChapter> ChaptersOf(const Explanation& explanation, std::uint8_t languageId) {
-    return Explainer(explanation, languageId).Run();
+std::vector<ExplainedChapter> ChaptersOf(const Explanation& explanation, std::uint8_t languageId,
+                                         std::optional<ResultKey> only) {
+    return Explainer(explanation, languageId, only).Run();
 }
 
 } // namespace Hesperin

@@ -9,13 +9,6 @@ namespace Hesperin {
 
 namespace {
 
-QString HeadOf(const Explanation& explanation, std::uint8_t languageId) {
-    const Parameters& parameters = explanation.evaluation.validated.parameters;
-    const Phrase phrase =
-        parameters.UpgradeFactor == PlainFactor ? Phrase::Head : Phrase::HeadUpgraded;
-    return Fill(PhraseIn(languageId, phrase), {explanation.name, QString::number(parameters.Tier)});
-}
-
 /// With a backslash before each character that Markdown would take for markup.
 QString Escaped(const QString& text) {
     static const QString markup = QStringLiteral("\\`*_{}[]<>#|~&");
@@ -30,35 +23,44 @@ QString Escaped(const QString& text) {
 
 } // namespace
 
-QString ExplanationText(const Explanation& explanation, std::uint8_t languageId) {
-    const QString head = HeadOf(explanation, languageId);
+QString ExplanationHead(const Explanation& explanation, std::uint8_t languageId) {
+    const Parameters& parameters = explanation.evaluation.validated.parameters;
+    const Phrase phrase =
+        parameters.UpgradeFactor == PlainFactor ? Phrase::Head : Phrase::HeadUpgraded;
+    return Fill(PhraseIn(languageId, phrase), {explanation.name, QString::number(parameters.Tier)});
+}
+
+QString ExplanationText(const Explanation& explanation, std::uint8_t languageId,
+                        std::optional<ResultKey> only) {
+    const QString head = ExplanationHead(explanation, languageId);
     QString text = explanation.file.isEmpty()
                        ? head + u'\n'
                        : explanation.file + QLatin1String(": ") + head + u'\n';
-    for (const ExplainedChapter& chapter : ChaptersOf(explanation, languageId)) {
+    for (const ExplainedChapter& chapter : ChaptersOf(explanation, languageId, only)) {
         text += u'\n' + chapter.heading + u'\n';
         qsizetype width = 0;
         for (const ExplainedStep& step : chapter.steps)
-            if (!step.working.isEmpty())
+            if (!step.value.isEmpty())
                 width = std::max(width, step.what.size());
         for (const ExplainedStep& step : chapter.steps)
             text += QLatin1String("  ") +
-                    (step.working.isEmpty() ? step.what
-                                            : step.what.leftJustified(width + 2) + step.working) +
+                    (step.value.isEmpty() ? step.what
+                                          : step.what.leftJustified(width + 2) + step.Working()) +
                     u'\n';
     }
     text.chop(1);
     return text;
 }
 
-QString ExplanationMarkdown(const Explanation& explanation, std::uint8_t languageId) {
-    QString text = QLatin1String("# ") + Escaped(HeadOf(explanation, languageId)) + u'\n';
-    for (const ExplainedChapter& chapter : ChaptersOf(explanation, languageId)) {
+QString ExplanationMarkdown(const Explanation& explanation, std::uint8_t languageId,
+                            std::optional<ResultKey> only) {
+    QString text = QLatin1String("# ") + Escaped(ExplanationHead(explanation, languageId)) + u'\n';
+    for (const ExplainedChapter& chapter : ChaptersOf(explanation, languageId, only)) {
         text += QLatin1String("\n## ") + Escaped(chapter.heading) +
                 QLatin1String("\n\n| | |\n|---|---|\n");
         for (const ExplainedStep& step : chapter.steps)
             text += QLatin1String("| ") + Escaped(step.what) + QLatin1String(" | ") +
-                    Escaped(step.working) + QLatin1String(" |\n");
+                    Escaped(step.Working()) + QLatin1String(" |\n");
     }
     return text;
 }

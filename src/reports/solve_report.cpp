@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
 namespace Hesperin {
 
@@ -73,20 +74,6 @@ QString WantedText(const SolveGoal& goal, std::uint8_t languageId) {
                ? Fill(PhraseIn(languageId, Phrase::WantedHighestTier), {tier, lowest})
                : Fill(PhraseIn(languageId, Phrase::WantedTier),
                       {tier, lowest, WholeText(goal.band.highest)});
-}
-
-QString SolutionText(const Solution& solution, std::uint8_t languageId) {
-    if (!solution.exact.empty())
-        return Fill(PhraseIn(languageId, Phrase::Exactly), {Ranges(solution.exact)});
-    QStringList values;
-    for (const auto& candidate : {solution.below, solution.above})
-        if (candidate)
-            values << QString::number(candidate->value) << WholeText(candidate->power);
-    const Phrase phrase = solution.below && solution.above ? Phrase::Nearest
-                          : solution.below                 ? Phrase::AtMost
-                          : solution.above                 ? Phrase::AtLeast
-                                                           : Phrase::Nothing;
-    return Fill(PhraseIn(languageId, phrase), values);
 }
 
 } // namespace
@@ -182,14 +169,46 @@ QJsonObject SolveJson(const SolveReport& report) {
             {"solutions", solutions}};
 }
 
-QString SolveText(const SolveReport& report, std::uint8_t languageId) {
+QString SolveHead(const SolveReport& report, std::uint8_t languageId) {
     const QString prefix = report.file.isEmpty() ? QString() : report.file + QLatin1String(": ");
     const QString head = report.now ? Fill(PhraseIn(languageId, Phrase::Average),
                                            {report.name, WholeText(*report.now)})
                                     : Fill(PhraseIn(languageId, Phrase::NoAverage), {report.name});
     const QString figures =
         report.inFiguresOfMod ? PhraseIn(languageId, Phrase::InFiguresOfMod) : QString();
-    QString text = prefix + head + figures + u'\n' + WantedText(report.goal, languageId);
+    return prefix + head + figures + u'\n' + WantedText(report.goal, languageId);
+}
+
+QString SolutionText(const Solution& solution, std::uint8_t languageId) {
+    if (!solution.exact.empty())
+        return Fill(PhraseIn(languageId, Phrase::Exactly), {Ranges(solution.exact)});
+    QStringList values;
+    for (const auto& candidate : {solution.below, solution.above})
+        if (candidate)
+            values << QString::number(candidate->value) << WholeText(candidate->power);
+    const Phrase phrase = solution.below && solution.above ? Phrase::Nearest
+                          : solution.below                 ? Phrase::AtMost
+                          : solution.above                 ? Phrase::AtLeast
+                                                           : Phrase::Nothing;
+    return Fill(PhraseIn(languageId, phrase), values);
+}
+
+std::vector<std::int16_t> ChoicesOf(const Solution& solution, std::int16_t today,
+                                    std::size_t most) {
+    std::vector<std::int16_t> choices = solution.exact;
+    for (const auto& candidate : {solution.below, solution.above})
+        if (candidate)
+            choices.push_back(candidate->value);
+    std::erase(choices, today);
+    std::stable_sort(choices.begin(), choices.end(), [today](std::int16_t a, std::int16_t b) {
+        return std::abs(a - today) < std::abs(b - today);
+    });
+    choices.resize(std::min(choices.size(), most));
+    return choices;
+}
+
+QString SolveText(const SolveReport& report, std::uint8_t languageId) {
+    QString text = SolveHead(report, languageId);
     qsizetype width = 0;
     QStringList names;
     for (const Solution& solution : report.solutions) {

@@ -47,6 +47,16 @@ Result<SolveReport> SolveFile(const QString& path, const SolveWish& wish);
 
 QJsonObject SolveJson(const SolveReport& report);
 
+/// Whose Power it is, and what is wanted: two lines.
+QString SolveHead(const SolveReport& report, std::uint8_t languageId);
+
+/// "not exactly: 4 gives 148, 5 gives 151"
+QString SolutionText(const Solution& solution, std::uint8_t languageId);
+
+/// At most `most` of the values that come to what is wanted, or else next to it: those nearest to
+/// `today` first, which is none itself.
+std::vector<std::int16_t> ChoicesOf(const Solution& solution, std::int16_t today, std::size_t most);
+
 /// A line a parameter, in the language of that number.
 QString SolveText(const SolveReport& report, std::uint8_t languageId);
 

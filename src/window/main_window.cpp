@@ -4,7 +4,9 @@
 #include "app/handlers/options_menu.h"
 #include "system/hand_over.h"
 #include "window/button_row.h"
+#include "window/explanation_window.h"
 #include "window/palette.h"
+#include "window/solve_window.h"
 #include "window/survey_window.h"
 #include "window/tab_view.h"
 #include "window/toolkit_words.h"
@@ -73,9 +75,16 @@ MainWindow::MainWindow(Program& owner, QSize available) : program(owner) {
     setFixedSize(fit.window);
     form.frmMain.SetView(this);
     setWindowTitle(form.frmMain.Caption());
+    program.resultsChanged = [this] {
+        if (explanation)
+            explanation->RefreshSoon();
+        if (solve)
+            solve->RefreshSoon();
+    };
 }
 
 MainWindow::~MainWindow() {
+    program.resultsChanged = {};
     survey.reset(); // ends what it still reads
     program.history.SetFollower({});
     program.form.frmMain.SetView(nullptr);
@@ -198,6 +207,18 @@ void MainWindow::ShowSurvey() {
     if (!survey)
         survey = std::make_unique<SurveyWindow>(program, *this);
     survey->ComeForward();
+}
+
+void MainWindow::ShowExplanation() {
+    if (!explanation)
+        explanation = std::make_unique<ExplanationWindow>(program);
+    explanation->ShowAsked();
+}
+
+void MainWindow::ShowSolve() {
+    if (!solve)
+        solve = std::make_unique<SolveWindow>(program);
+    solve->ShowWithGoal();
 }
 
 void MainWindow::OpenSoon(const QString& file) {

@@ -11,6 +11,8 @@
 
 namespace Hesperin {
 
+class ExplanationWindow;
+class SolveWindow;
 class SurveyWindow;
 class TabView;
 
@@ -26,8 +28,10 @@ public:
     /// The widget that shows the control of that name; null when there is none.
     QWidget* WidgetOf(const Control& control) const;
 
-    /// Shows the window of the survey, which is built when it is first asked for.
+    // Each shows a window, which is built when it is first asked for.
     void ShowSurvey();
+    void ShowExplanation();
+    void ShowSolve();
 
     /// Opens a creature file when the current event has been handled and nothing stands in front of
     /// the window any more.
@@ -68,6 +72,8 @@ private:
     bool ending = false;
     bool painted = false;
     std::unique_ptr<SurveyWindow> survey;
+    std::unique_ptr<ExplanationWindow> explanation;
+    std::unique_ptr<SolveWindow> solve;
 };
 
 } // namespace Hesperin

@@ -51,6 +51,11 @@ const std::vector<MenuPlan>& Plan() {
         }},
         {{&MainForm::mnuBalance, u"BБ"}, {
             {&MainForm::mnuSurvey,            u"SО"},
+            {nullptr},
+            {&MainForm::mnuExplain,           u"HК"},
+            {&MainForm::mnuSolve,             u"vП"},
+            {&MainForm::mnuTakeOver,          u"TВ"},
+            {&MainForm::mnuTakeOverByScale,   u"mБ"},
         }},
     };
     return plan;

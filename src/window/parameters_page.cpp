@@ -14,7 +14,7 @@ namespace {
 
 constexpr Colour InFile = &ColourTable::InFile;
 constexpr Colour Name = &ColourTable::Name;
-constexpr Colour Parameter = &ColourTable::Parameter;
+constexpr Colour Entered = &ColourTable::Parameter;
 constexpr Colour Text = &ColourTable::Text;
 
 constexpr int FrameHeight = 795; // twips; the rows of frames stand 840 apart
@@ -35,10 +35,10 @@ constexpr FrameRow FrameRowsOfPage[] = {
     //                            left   top  width  colour     field                    list
     {&MainForm::FrameNC,           240,  600, 2715,  Name,      &MainForm::txtNC,        nullptr},
     {&MainForm::FrameIDC,         3000,  600, 2715,  Name,      &MainForm::txtIDC,       nullptr},
-    {&MainForm::FrameAttack,       240, 1440, 1395,  Parameter, &MainForm::txtAttack,    nullptr},
-    {&MainForm::FrameDefence,     1680, 1440, 1275,  Parameter, &MainForm::txtDefence,   nullptr},
-    {&MainForm::FrameDamage,      3000, 1440, 2715,  Parameter, nullptr,                 nullptr}, // two fields
-    {&MainForm::FrameHealth,       240, 2280, 1275,  Parameter, &MainForm::txtHealth,    nullptr},
+    {&MainForm::FrameAttack,       240, 1440, 1395,  Entered,   &MainForm::txtAttack,    nullptr},
+    {&MainForm::FrameDefence,     1680, 1440, 1275,  Entered,   &MainForm::txtDefence,   nullptr},
+    {&MainForm::FrameDamage,      3000, 1440, 2715,  Entered,   nullptr,                 nullptr}, // two fields
+    {&MainForm::FrameHealth,       240, 2280, 1275,  Entered,   &MainForm::txtHealth,    nullptr},
     {&MainForm::FrameTier,        1560, 2280, 1395,  Text,      nullptr,                 &MainForm::ComboTier},
     {&MainForm::FrameSpeed,       3000, 2280, 1155,  Text,      nullptr,                 &MainForm::ComboSpeed},
     {&MainForm::FrameInitiative,  4200, 2280, 1515,  Text,      nullptr,                 &MainForm::ComboInitiative},
@@ -48,11 +48,11 @@ constexpr FrameRow FrameRowsOfPage[] = {
     {&MainForm::FrameSME,         3000, 3960, 2715,  Text,      nullptr,                 &MainForm::ComboSME},
     {&MainForm::FramePowerf,       240, 4800, 1165,  InFile,    &MainForm::txtPower,     nullptr},
     {&MainForm::FrameExpf,        1450, 4800, 1505,  InFile,    &MainForm::txtExp,       nullptr},
-    {&MainForm::FrameShots,       3000, 4800, 1275,  Parameter, &MainForm::txtShots,     nullptr},
+    {&MainForm::FrameShots,       3000, 4800, 1275,  Entered,   &MainForm::txtShots,     nullptr},
     {&MainForm::FrameRange,       4320, 4800, 1395,  Text,      nullptr,                 &MainForm::ComboRange},
     {&MainForm::FrameGrowthf,      240, 5640, 1165,  InFile,    &MainForm::txtGrowthf,   nullptr},
     {&MainForm::FrameCostf,       1450, 5640, 1505,  InFile,    &MainForm::txtGoldf,     nullptr},
-    {&MainForm::FrameMana,        3000, 5640,  795,  Parameter, &MainForm::txtMana,      nullptr},
+    {&MainForm::FrameMana,        3000, 5640,  795,  Entered,   &MainForm::txtMana,      nullptr},
     {&MainForm::FrameTTC,         3840, 5640, 1875,  Text,      nullptr,                 &MainForm::ComboTTC},
     {&MainForm::FrameWoodf,        240, 6480, 1275,  InFile,    &MainForm::txtWoodf,     nullptr},
     {&MainForm::FrameOref,        1560, 6480, 1395,  InFile,    &MainForm::txtOref,      nullptr},
@@ -77,7 +77,7 @@ void BuildDamageFields(MainForm& form, FrameView& frame) {
                                FieldHeight);
         auto* caption = new LabelView(label, &frame, captionPlace, CaptionFont(), Text,
                                       Qt::AlignRight | Qt::AlignVCenter);
-        caption->setBuddy(new FieldView(field, &frame, fieldPlace, FigureFont(), Parameter));
+        caption->setBuddy(new FieldView(field, &frame, fieldPlace, FigureFont(), Entered));
     };
     pair(form.lblMin, form.txtMinDam, Margin);
     pair(form.lblMax, form.txtMaxDam, Margin + half);

@@ -8,6 +8,8 @@
 #include "window/palette.h"
 #include "window/units.h"
 
+#include <QEvent>
+
 namespace Hesperin {
 
 namespace {
@@ -56,6 +58,14 @@ protected:
     void Sync() override {
         LabelView::Sync();
         FrameView::NameFieldsAround(*this);
+    }
+
+    /// Before the frame that holds it, which is disabled, can keep it from its user.
+    bool event(QEvent* event) override {
+        if (event->type() != QEvent::MouseButtonDblClick)
+            return LabelView::event(event);
+        control.DoubleClick();
+        return true;
     }
 
 private:

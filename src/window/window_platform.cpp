@@ -139,12 +139,20 @@ void WindowPlatform::SetFocus(Control& control) {
 }
 
 void WindowPlatform::Open(SecondaryWindow which) {
-    if (which == SecondaryWindow::Survey)
-        window->ShowSurvey();
-    else if (which == SecondaryWindow::About)
+    switch (which) {
+    case SecondaryWindow::About:
         new AboutWindow(*program, window);
-    else
+        break;
+    case SecondaryWindow::AbilityInformation:
         new AbilityWindow(*program, window);
+        break;
+    case SecondaryWindow::Survey:
+        return window->ShowSurvey();
+    case SecondaryWindow::Explanation:
+        return window->ShowExplanation();
+    case SecondaryWindow::Solve:
+        return window->ShowSolve();
+    }
 }
 
 void WindowPlatform::FindAbility() {

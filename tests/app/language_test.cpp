@@ -50,8 +50,9 @@ TEST(Language, ASwitchReplacesEveryTextThatTheLanguageHasLetterForLetterAndNoOth
         {mnuGerman_Click, 0xBB0B4083U, 0xE5847B3FU},
     };
     constexpr qsizetype translatedRows = 23; // those behind them are this program's own
-    const QStringList ownCaptions{"mnuHighContrast", "mnuUpdate",  "mnuEdit",   "mnuUndo",      "mnuRedo",
-                                  "mnuFindAbility",  "mnuBalance", "mnuSurvey", "FrameStanding"};
+    const QStringList ownCaptions{"mnuHighContrast", "mnuUpdate",          "mnuEdit",      "mnuUndo",    "mnuRedo",
+                                  "mnuFindAbility",  "mnuBalance",         "mnuSurvey",    "mnuExplain", "mnuSolve",
+                                  "mnuTakeOver",     "mnuTakeOverByScale", "FrameStanding"};
     std::int16_t number = 0;
     for (const auto& row : languages) {
         SCOPED_TRACE(++number);

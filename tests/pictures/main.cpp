@@ -1,6 +1,7 @@
 // Takes pictures of every page and window in both languages, to be looked at and for the guide:
 //   talmir-pictures FOLDER [MOD]
 // The survey is that of the mod.
+#include "app/handlers/balance_menu.h"
 #include "app/handlers/file_menu.h"
 #include "app/handlers/options_menu.h"
 #include "app/handlers/save_and_update.h"
@@ -47,6 +48,36 @@ void TakeSurveyPictures(WindowInUse& use, const QString& mod, const QString& pre
     survey.window.close();
 }
 
+/// The windows that explain results and find values, with what a creature of several corrections shows.
+void TakeResultPictures(WindowInUse& use, const QString& prefix) {
+    const auto take = [&](const char* window, const QString& name) {
+        for (QWidget* top : QApplication::topLevelWidgets())
+            if (top->objectName() == window) {
+                QTest::qWait(50);
+                top->grab().save(prefix + name + ".png");
+                top->close();
+            }
+    };
+    const QPair<const char*, ResultKey> results[] = {{"explanation", {Method::Average, Figure::Power}},
+                                                     {"explanation-gold", {Method::Average, Figure::Cost}},
+                                                     {"explanation-growth", {Method::Hesperin, Figure::Growth}}};
+    for (const auto& [name, result] : results) {
+        ExplainResult(use.program, result);
+        take("ExplanationWindow", name);
+    }
+    mnuSolve_Click(use.program);
+    take("SolveWindow", "solve");
+    use.form.txtAttack.SetText("70");
+    use.form.txtMinDam.SetText("12");
+    use.form.ComboTier.Select(7);
+    use.Press("cmdCalc");
+    ExplainResult(use.program, {Method::Rolvane, Figure::Power});
+    take("ExplanationWindow", "explanation-corrected");
+    use.form.cmdResetAll.Click();
+    mnuExplain_Click(use.program);
+    take("ExplanationWindow", "explanation-empty");
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -85,6 +116,10 @@ int main(int argc, char** argv) {
         use.form.Abilities(Ability::Shooter).SetTicked(true);
         use.Focus("Tablus.Bar");
         take("alternative");
+        use.form.frmAM.SetVisible(false);
+        OpenCreatureFile(use.program, TALMIR_SOURCE_DIR "/samples/frost_witch.xdb");
+        TakeResultPictures(use, prefix);
+        OpenCreatureFile(use.program, TALMIR_SOURCE_DIR "/samples/frost_witch.xdb");
         if (!mod.isEmpty())
             TakeSurveyPictures(use, mod, prefix);
 

@@ -1,4 +1,5 @@
 #include "localisation/languages.h"
+#include "reports/explained_terms.h"
 #include "reports/explanation_json.h"
 #include "reports/explanation_text.h"
 #include "reports/json.h"
@@ -49,6 +50,15 @@ Explanation WithoutPower() {
     return explanation;
 }
 
+/// The twelve results by the names of their terms.
+QMap<QString, ResultKey> Results() {
+    QMap<QString, ResultKey> results;
+    for (const Method method : {Method::Rolvane, Method::Hesperin, Method::Average})
+        for (const Figure figure : {Figure::Power, Figure::Experience, Figure::Growth, Figure::Cost})
+            results.insert(TermOfResult({method, figure}), {method, figure});
+    return results;
+}
+
 TEST(Explanation, TellsEveryStepInBothLanguages) {
     const QString before = QDir::currentPath();
     ASSERT_TRUE(QDir::setCurrent(TALMIR_SOURCE_DIR "/tests/data/reports")); // so that no path is told
@@ -67,6 +77,8 @@ TEST(Explanation, TellsEveryStepInBothLanguages) {
             object.remove("terms");
             return QString(JsonLine(object));
         }
+        if (const auto results = Results(); results.contains(words[0]))
+            return ExplanationText(explanation, language, results[words[0]]);
         return words[0] == "text" ? ExplanationText(explanation, language) : ExplanationMarkdown(explanation, language);
     });
     QDir::setCurrent(before);
@@ -111,6 +123,23 @@ void ExpectResults(const Explanation& explanation) {
         }
 }
 
+/// What a result is said to rest on is enough to reckon it anew, and no input without a part in it is among it.
+void ExpectEnoughBehindEachResult(const Explanation& explanation) {
+    const QJsonObject document = QJsonDocument::fromJson(ExplanationJson(explanation)).object();
+    for (const auto& [id, key] : Results().asKeyValueRange()) {
+        const QSet<QString> behind = TermsBehind(explanation, key);
+        QJsonObject part = document;
+        QJsonArray terms;
+        for (const QJsonValue& term : document["terms"].toArray())
+            if (behind.contains(term["id"].toString()))
+                terms.append(term);
+        part["terms"] = terms;
+        EXPECT_TRUE(ReckonAnew(part).contains(id)) << id.toStdString();
+        EXPECT_EQ(behind.contains("Tier"), key.figure != Figure::Power) << id.toStdString();
+        EXPECT_EQ(behind.contains("Shooter"), behind.contains("power_rolvane")) << id.toStdString();
+    }
+}
+
 /// Any creature within the ranges and a little beyond.
 Creature RandomCreature(std::mt19937& random) {
     const auto below = [&random](int end) { return std::uniform_int_distribution(0, end - 1)(random); };
@@ -142,6 +171,8 @@ TEST(Explanation, EveryExpressionGivesItsValueBitForBit) {
     for (int i = 0; i < 300; ++i) {
         const Explanation explanation = Explain(RandomCreature(random), "Any", "");
         ExpectResults(explanation);
+        if (i % 10 == 0)
+            ExpectEnoughBehindEachResult(explanation);
         zeroDivisors += explanation.evaluation.figures->CostDivisor == 0 ? 1 : 0;
     }
     EXPECT_GT(zeroDivisors, 5) << "the band in which the divisor is taken as 1 wasn't met";
@@ -158,6 +189,25 @@ TEST(Solve, ReadsItsGoal) {
     for (const char* text : {"", "Power", "Power=", "Power=0", "Power=-3", "Power=3.5", "Power=x",
                              "Power=9999999999999", "Tier=0", "Tier=9", "tier=4", "Health=3", "392", "=392"})
         EXPECT_FALSE(ReadSolveGoal(text)) << text;
+}
+
+TEST(Solve, OffersTheNearestValuesFirstAndNeverTodays) {
+    using Values = std::vector<std::int16_t>;
+    const struct {
+        Solution solution;
+        std::int16_t today;
+        Values choices;
+    } cases[] = {
+        {{Parameter::Attack, {6, 7, 8, 9}, {}, {}}, 4, {6, 7, 8}},
+        {{Parameter::Attack, {2, 9, 20, 21}, {}, {}}, 12, {9, 20, 21}},
+        {{Parameter::Attack, {4, 5, 6, 7}, {}, {}}, 5, {4, 6, 7}},
+        {{Parameter::Attack, {5}, {}, {}}, 5, {}},
+        {{Parameter::Attack, {}, Candidate{4, 148}, Candidate{9, 151}}, 8, {9, 4}},
+        {{Parameter::Attack, {}, Candidate{4, 148}, {}}, 4, {}},
+        {{Parameter::Attack, {}, {}, {}}, 4, {}},
+    };
+    for (const auto& [solution, today, choices] : cases)
+        EXPECT_EQ(ChoicesOf(solution, today, 3), choices) << today;
 }
 
 TEST(Solve, ReckonsInTheFiguresOfAMod) {

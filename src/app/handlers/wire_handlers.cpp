@@ -10,6 +10,7 @@
 #include "app/handlers/list_rules.h"
 #include "app/handlers/options_menu.h"
 #include "app/handlers/save_and_update.h"
+#include "form/form_lists.h"
 
 namespace Hesperin {
 
@@ -37,10 +38,14 @@ constexpr Wire<MenuEntry> MenuWires[] = {
     {&MainForm::mnuCalculator, mnuCalculator_Click},
     {&MainForm::mnuHighContrast, mnuHighContrast_Click},
     {&MainForm::mnuAbout, mnuAbout_Click},
-    {&MainForm::mnuSurvey, mnuSurvey_Click},
+    {&MainForm::mnuSurvey, mnuSurvey_Click, Act::Aside},
     {&MainForm::mnuUndo, mnuUndo_Click, Act::Aside},
     {&MainForm::mnuRedo, mnuRedo_Click, Act::Aside},
     {&MainForm::mnuFindAbility, mnuFindAbility_Click, Act::Aside},
+    {&MainForm::mnuExplain, mnuExplain_Click, Act::Aside},
+    {&MainForm::mnuSolve, mnuSolve_Click, Act::Aside},
+    {&MainForm::mnuTakeOver, mnuTakeOver_Click},
+    {&MainForm::mnuTakeOverByScale, mnuTakeOverByScale_Click, Act::Aside},
 };
 
 constexpr Wire<Button> ButtonWires[] = {
@@ -87,6 +92,10 @@ void WireHandlers(Program& program) {
     WireBoxes(program, form.Abilities, Abilities_Click);
     WireBoxes(program, form.Spells, Spells_Click);
     WireBoxes(program, form.Specabilities, Specabilities_Click);
+    for (const ResultRow& row : ResultRows)
+        (form.*row.place.label).SetDoubleClickHandler([&program, &row] {
+            ExplainResult(program, {row.method, row.figure});
+        });
     for (CheckBox& box : form.Abilities)
         box.SetRightClickHandler([&program, &box] {
             Abilities_RightClick(program, box.ArrayIndex());
