@@ -79,7 +79,7 @@ constexpr EnumArray<Phrase, Texts> Phrases{{{
     /* ZeroInsteadOfOne   */ {u"from 0.51 up to 1 counts as 0",        u"от 0.51 до 1 считается как 0"},
     /* LimitedTo16Bits    */ {u"32767 at most",                        u"не больше 32767"},
     /* NoPower            */ {u"It is 0, so that neither Experience, Growth and Gold nor averages can be computed.", u"Она равна нулю, поэтому опыт, прирост, золото и средние значения вычислить нельзя."},
-    /* FixedGrowth        */ {u"By both methods, fixed at tier %1",    u"По обоим методам, постоянный на уровне %1"},
+    /* GrowthFixed        */ {u"By both methods, fixed at tier %1",    u"По обоим методам, постоянный на уровне %1"},
     /* Band               */ {u"Its band of average Power",            u"Его полоса средней силы"},
     /* BandFromTo         */ {u"%1 to %2; %3 is %4% of the way",       u"от %1 до %2; %3 — это %4% пути"},
     /* BandFrom           */ {u"%1 and more",                          u"от %1"},

@@ -52,7 +52,7 @@ enum class Phrase : std::uint8_t {
     ZeroInsteadOfOne,
     LimitedTo16Bits,
     NoPower,     ///< the first method's is 0, and nothing follows from it
-    FixedGrowth, ///< at tier %1
+    GrowthFixed, ///< at tier %1
     Band,
     BandFromTo,     ///< %1 to %2, the Power (%3) so many percent (%4) of the way
     BandFrom,       ///< %1, for the highest tier

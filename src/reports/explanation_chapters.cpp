@@ -153,7 +153,7 @@ private:
         const QString tier = QString::number(parameters.Tier);
         if (fixedGrowth && id == QLatin1String("growth_rolvane")) {
             step.isResult |= result == QLatin1String("growth_hesperin");
-            return tell(Chapter::Growth, Words(Phrase::FixedGrowth, {tier}));
+            return tell(Chapter::Growth, Words(Phrase::GrowthFixed, {tier}));
         }
         if (fixedGrowth &&
             (id == QLatin1String("growth_hesperin") || id == QLatin1String("growth_numerator")))

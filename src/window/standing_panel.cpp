@@ -16,7 +16,7 @@ namespace Hesperin {
 
 namespace {
 
-constexpr double Radius = 3;
+constexpr double DotRadius = 3;
 
 /// The dots beside one another where there is room, in lanes above and below the middle where
 /// there isn't.
@@ -42,7 +42,7 @@ protected:
         reach = std::min(std::max(reach, std::abs(*values.mark)), 4 * OutlierPercent);
         const double middle = Middle();
         const auto across = [&](double value) {
-            const double half = width() / 2.0 - 2 * Radius - 1;
+            const double half = width() / 2.0 - 2 * DotRadius - 1;
             return width() / 2.0 + half * std::clamp(value / reach, -1.0, 1.0);
         };
         PaintScale(painter, across);
@@ -53,20 +53,20 @@ protected:
         std::vector<double> places;
         std::transform(values.dots.begin(), values.dots.end(), std::back_inserter(places), across);
         std::sort(places.begin(), places.end());
-        std::vector<double> lanes(static_cast<std::size_t>(middle / (2 * Radius)) | 1U, -1e9);
+        std::vector<double> lanes(static_cast<std::size_t>(middle / (2 * DotRadius)) | 1U, -1e9);
         for (const double x : places) {
             auto lane = std::find_if(lanes.begin(), lanes.end(),
-                                     [x](double last) { return x - last >= 2 * Radius; });
+                                     [x](double last) { return x - last >= 2 * DotRadius; });
             if (lane == lanes.end()) // all are full: over the one that is free again first
                 lane = std::min_element(lanes.begin(), lanes.end());
             *lane = x;
             const auto number = static_cast<int>(lane - lanes.begin());
             const int off = (number + 1) / 2 * (number % 2 == 0 ? 1 : -1);
-            painter.drawEllipse(QPointF(x, middle + off * 2 * Radius), Radius, Radius);
+            painter.drawEllipse(QPointF(x, middle + off * 2 * DotRadius), DotRadius, DotRadius);
         }
         painter.setPen(QPen(QColor(Colours().Text), 1.5));
         painter.setBrush(QColor(Colours().Average));
-        painter.drawEllipse(QPointF(across(*values.mark), middle), 2 * Radius, 2 * Radius);
+        painter.drawEllipse(QPointF(across(*values.mark), middle), 2 * DotRadius, 2 * DotRadius);
     }
 
 private:
