@@ -60,13 +60,17 @@ void History::KeepStep() {
     SharedState& state = program.state;
     WindowState now = TakeWindowState(program);
     const bool fileStays = TakeFilePart(program) == fileBefore;
-    if (now == before && fileStays) {
+    if (now.LooksLike(before) && fileStays) {
         state.creatureNumber = creatureBefore;
+        if (!undone.empty())
+            undone.back().before = now; // results may have been stored anew
+        if (!done.empty())
+            done.back().after = std::move(now);
         return;
     }
     if (edited != nullptr) { // the step is there already
         done.back().after = std::move(now);
-        if (done.back().after == done.back().before) {
+        if (done.back().after.LooksLike(done.back().before)) {
             done.pop_back();
             edited = nullptr;
         }

@@ -17,6 +17,13 @@ std::array<Control*, WindowState::SwitchCount - 1> Switched(MainForm& form) {
 
 } // namespace
 
+bool WindowState::LooksLike(const WindowState& other) const {
+    return creature == other.creature && creatureName == other.creatureName &&
+           languageId == other.languageId && title == other.title &&
+           calculateToolTip == other.calculateToolTip && results == other.results &&
+           switches == other.switches;
+}
+
 WindowState TakeWindowState(Program& program) {
     MainForm& form = program.form;
     const SharedState& state = program.state;

@@ -29,7 +29,8 @@ struct WindowState {
     Figures figures;
     Advice advice;
 
-    bool operator==(const WindowState&) const = default;
+    /// Whether the user sees no difference, whatever has been stored behind it.
+    bool LooksLike(const WindowState& other) const;
 };
 
 WindowState TakeWindowState(Program& program);
