@@ -72,11 +72,13 @@ void History::KeepStep() {
         done.back().after = std::move(now);
         if (done.back().after.LooksLike(done.back().before)) {
             done.pop_back();
+            undone = std::move(beforeEdit);
             edited = nullptr;
         }
         return;
     }
-    undone.clear();
+    beforeEdit.clear();
+    undone.swap(beforeEdit);
     if (state.creatureNumber != creatureBefore)
         files[creatureBefore] = Pack(std::move(fileBefore));
     done.push_back(
@@ -85,14 +87,18 @@ void History::KeepStep() {
         done.pop_front();
     if (act == Act::Editing)
         edited = control;
+    else
+        beforeEdit.clear();
     ForgetFiles();
 }
 
 /// Those of creatures that no step leads to any more.
 void History::ForgetFiles() {
     std::erase_if(files, [this](const auto& file) {
-        return std::none_of(done.begin(), done.end(),
-                            [&](const Step& step) { return step.creatureBefore == file.first; });
+        const auto leadsBack = [&](const Step& step) { return step.creatureBefore == file.first; };
+        const auto leadsOn = [&](const Step& step) { return step.creatureAfter == file.first; };
+        return std::none_of(done.begin(), done.end(), leadsBack) &&
+               std::none_of(beforeEdit.begin(), beforeEdit.end(), leadsOn);
     });
 }
 

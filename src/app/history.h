@@ -51,6 +51,7 @@ private:
     Program& program;
     std::deque<Step> done;
     std::vector<Step> undone;
+    std::vector<Step> beforeEdit; ///< undone then; comes back when an edit ends where it began
     std::map<std::uint32_t, PackedFilePart> files; ///< by creature, of those that aren't shown
 
     // Of the act that goes on.

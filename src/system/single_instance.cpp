@@ -15,6 +15,7 @@ namespace Hesperin {
 namespace {
 
 const qint64 ProcessBegan = QDateTime::currentMSecsSinceEpoch();
+constexpr qint64 LongestLock = 1 << 12;
 
 /// Whether a lock file was written on this computer. Its lines are process, program, computer's
 /// name and, where the system has one, computer's number, which outlives a change of name and tells
@@ -57,7 +58,10 @@ std::optional<RunningInstance> SingleInstance::Other() {
     const auto refused = [this] {
         return !lock.tryLock(0) && lock.error() == QLockFile::LockFailedError;
     };
-    if (const QFileInfo place(path); place.exists() && !place.isFile())
+    const QFileInfo place(path);
+    if (place.exists() && !place.isFile())
+        return std::nullopt;
+    if (place.size() > LongestLock && !QFile::remove(path)) // no lock, and long to read
         return std::nullopt;
     if (lock.isLocked() || !refused())
         return std::nullopt;

@@ -196,7 +196,11 @@ public:
                 stage.reset(), stage = std::make_unique<Stage>(rest == "RU" ? Russian : English);
             else if (act.startsWith("show "))
                 told += stage->program.form.Find(rest)->Shown() + '\n';
-            else if (act.startsWith("tip "))
+            else if (act.startsWith("slip ")) { // a key, and back
+                auto& field = dynamic_cast<TextField&>(*stage->program.form.Find(rest));
+                field.Edit(field.Text() + 'x');
+                field.Edit(field.Text().chopped(1));
+            } else if (act.startsWith("tip "))
                 told += stage->program.form.Find(rest)->ToolTip() + '\n';
             else if (act == "is")
                 told += Is();

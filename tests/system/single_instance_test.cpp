@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QDeadlineTimer>
 #include <QProcess>
 
 namespace Hesperin {
@@ -88,6 +89,12 @@ TEST_F(SingleInstanceTest, TakesOverALockThatCannotBeRead) {
         EXPECT_FALSE(first.Other());
         EXPECT_TRUE(SingleInstance(Path("d")).Other()) << "it holds the lock now";
     }
+    ASSERT_TRUE(QFile::resize(Write("f/talmir.lock", ""), 1 << 28)); // nothing to read through
+    SingleInstance first(Path("f"));
+    const QDeadlineTimer soon(2000);
+    EXPECT_FALSE(first.Other());
+    EXPECT_FALSE(soon.hasExpired());
+    EXPECT_TRUE(SingleInstance(Path("f")).Other());
 }
 
 TEST_F(SingleInstanceTest, TheProgramStartsWhereNoLockCanBeHad) {
