@@ -27,6 +27,7 @@ constexpr QString Messages::*Sentences[] = {
     &Messages::MsgArchiveDamaged,
     &Messages::MsgDamagedInArchive,
     &Messages::MsgEncrypted,
+    &Messages::MsgPackedOtherwise,
     &Messages::MsgNotWellFormed,
     &Messages::MsgEndsEarly,
     &Messages::MsgWrongRoot,

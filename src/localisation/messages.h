@@ -62,6 +62,7 @@ struct Messages {
     QString MsgArchiveDamaged;
     QString MsgDamagedInArchive;
     QString MsgEncrypted;
+    QString MsgPackedOtherwise;
     QString MsgEndlessMarkup;
     QString MsgNameChanges;
     QString MsgEncodingUnknown;

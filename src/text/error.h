@@ -29,6 +29,7 @@ struct Error {
         ArchiveDamaged,
         DamagedInArchive,
         Encrypted,
+        PackedOtherwise, ///< in an archive, by the method with the number `value`
         // A document can't be used.
         NotWellFormed,   ///< `value` is the parser's word for it, in English
         EndsEarly,       ///< it stops in the middle
