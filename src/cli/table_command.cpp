@@ -182,10 +182,9 @@ int RunTable(const QCommandLineParser& parser) {
         other.paths = QStringList(parser.value(TableOption::Against));
         const Survey before = TakeSurveyTold(other);
         sides.against = CompareMods(before, survey, messages);
-        for (const RefusedPlace& place : AllRefused(before)) {
-            Complain(QStringLiteral("%1: %2").arg(place.path, ErrorReason(messages, place.error)));
-            allRead = false;
-        }
+        const auto refused = AllRefused(before);
+        Complain(refused);
+        allRead = allRead && refused.empty();
     }
     const bool asPage = parser.isSet(TableOption::Html);
     if (!asPage) // which lists them apart

@@ -21,6 +21,7 @@ constexpr QString Messages::*Sentences[] = {
     &Messages::MsgDiskFull,
     &Messages::MsgDiskReadOnly,
     &Messages::MsgNameTooLong,
+    &Messages::MsgNameUndecodable,
     &Messages::MsgFileTooLarge,
     &Messages::MsgSystemSays,
     &Messages::MsgNotAnArchive,

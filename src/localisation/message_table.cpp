@@ -48,6 +48,7 @@ constexpr MessageRow Table[] = {
     {&Messages::MsgDiskFull,         {u"The disk is full.",                                             u"На диске нет места.",                                      nullptr, nullptr}},
     {&Messages::MsgDiskReadOnly,     {u"The disk can only be read.",                                    u"С диска можно только читать.",                             nullptr, nullptr}},
     {&Messages::MsgNameTooLong,      {u"Its name is too long.",                                         u"Его имя слишком длинное.",                                 nullptr, nullptr}},
+    {&Messages::MsgNameUndecodable,  {u"Its name is not UTF-8, so it can't be opened; rename it.",      u"Его имя не в UTF-8, поэтому открыть его нельзя; переименуйте.", nullptr, nullptr}},
     {&Messages::MsgFileTooLarge,     {u"It is larger than %2 bytes; a creature file never is.",         u"Он больше %2 байт, а файл существа всегда меньше.",        nullptr, nullptr}},
     {&Messages::MsgLargerThan,       {u"It is larger than %2 bytes.",                                   u"Он больше %2 байт.",                                       nullptr, nullptr}},
     {&Messages::MsgSystemSays,       {u"The system says: %1.",                                          u"Система сообщает: %1.",                                    nullptr, nullptr}},

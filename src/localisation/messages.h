@@ -46,6 +46,7 @@ struct Messages {
     QString MsgDiskFull;
     QString MsgDiskReadOnly;
     QString MsgNameTooLong;
+    QString MsgNameUndecodable;
     QString MsgFileTooLarge; ///< of a creature file
     QString MsgLargerThan;   ///< of any other
     QString MsgSystemSays;

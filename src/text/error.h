@@ -23,9 +23,10 @@ struct Error {
         DiskFull,
         DiskReadOnly,
         NameTooLong,
-        FileTooLarge, ///< `expected` is the limit in bytes
-        SystemSays,   ///< `value` is what the system says, in the system's language
-        NotAnArchive, ///< or an empty one
+        NameUndecodable, ///< it is no UTF-8
+        FileTooLarge,    ///< `expected` is the limit in bytes
+        SystemSays,      ///< `value` is what the system says, in the system's language
+        NotAnArchive,    ///< or an empty one
         ArchiveDamaged,
         DamagedInArchive,
         Encrypted,

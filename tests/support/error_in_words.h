@@ -12,6 +12,7 @@ namespace Hesperin {
 inline const QStringList& ErrorNames() {
     static const QStringList names =
         QString("FileMissing FolderMissing IsFolder NotAFile NotAllowed InUse DiskFull DiskReadOnly NameTooLong "
+                "NameUndecodable "
                 "FileTooLarge SystemSays NotAnArchive ArchiveDamaged DamagedInArchive Encrypted PackedOtherwise "
                 "NotWellFormed "
                 "EndsEarly WrongRoot TextTooLong EndlessMarkup NameChanges")
