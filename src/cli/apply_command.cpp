@@ -2,6 +2,7 @@
 
 #include "cli/edit_run.h"
 #include "cli/output.h"
+#include "creature_files/mod.h"
 #include "localisation/error_text.h"
 #include "localisation/languages.h"
 #include "reports/table_changes.h"
@@ -44,11 +45,6 @@ int Refused(const QString& path, const Error& error) {
     return SomethingFailed;
 }
 
-bool IsArchive(const QFileInfo& path) {
-    const QString suffix = path.suffix().toLower();
-    return path.isFile() && (suffix == QLatin1String("pak") || suffix == QLatin1String("h5u"));
-}
-
 int RunApply(const QCommandLineParser& parser) {
     const QStringList arguments = parser.positionalArguments();
     QString reason = WhyAtOdds(parser);
@@ -62,7 +58,7 @@ int RunApply(const QCommandLineParser& parser) {
     const QString& path = arguments[1];
     if (!QFileInfo::exists(path))
         return Refused(path, {Error::What::FileMissing});
-    if (IsArchive(QFileInfo(path)))
+    if (IsArchiveName(path) && QFileInfo(path).isFile())
         return Refused(path, {Error::What::NeverWritten});
     constexpr qint64 largestTable = 256 << 20;
     const auto bytes = ReadFile(table, largestTable);

@@ -28,8 +28,9 @@ int Calc(const QCommandLineParser& parser) {
         Complain(QStringLiteral("talmir-cli calc: at least one FILE is expected"));
         return WrongUsage;
     }
-    bool allOpened = true;
-    for (const QString& file : CreatureFilesAt(paths)) {
+    const FoundFiles found = CreatureFilesAt(paths);
+    bool allOpened = found.refused.empty();
+    for (const QString& file : found.files) {
         const CalcReport report = CalculateFile(file, English);
         allOpened = allOpened && !report.refusal;
         if (json)
@@ -39,6 +40,7 @@ int Calc(const QCommandLineParser& parser) {
         else
             Complain(report.messages.front().text);
     }
+    Complain(found.refused);
     return allOpened ? AllDone : SomethingFailed;
 }
 

@@ -126,8 +126,7 @@ int RunCheck(const QCommandLineParser& parser) {
         PrintJson(survey);
     else
         PrintText(survey, messages);
-    for (const RefusedPlace& place : survey.refused)
-        Complain(QStringLiteral("%1: %2").arg(place.path, ErrorReason(messages, place.error)));
+    Complain(survey.refused);
     const bool isFine = survey.refused.empty() && CountOf(survey.findings, Severity::Error) == 0;
     return isFine ? AllDone : SomethingFailed;
 }

@@ -1,5 +1,8 @@
 #include "cli/output.h"
 
+#include "localisation/error_text.h"
+#include "localisation/languages.h"
+
 #include <cstdio>
 
 namespace Hesperin {
@@ -28,6 +31,12 @@ void PrintBytes(const QByteArray& bytes) {
 void Complain(const QString& line) {
     std::fflush(stdout); // so that both streams tell the same story in a terminal
     Write(stderr, line.toUtf8());
+}
+
+void Complain(const std::vector<RefusedPlace>& places) {
+    const Messages messages = MessagesIn(English);
+    for (const RefusedPlace& place : places)
+        Complain(QStringLiteral("%1: %2").arg(place.path, ErrorReason(messages, place.error)));
 }
 
 bool FlushOutput() {

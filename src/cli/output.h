@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include "creature_files/mod.h"
 
 namespace Hesperin {
 
@@ -13,6 +13,7 @@ void PrintBytes(const QByteArray& bytes);
 
 /// Complaints, the same way on standard error.
 void Complain(const QString& line);
+void Complain(const std::vector<RefusedPlace>& places);
 
 /// Writes out what is still held back. False when any result could not be written.
 bool FlushOutput();

@@ -112,8 +112,12 @@ int RunSet(const QCommandLineParser& parser) {
         scale = ScaleOf({mod});
         changer.scale = &scale;
     }
-    const QStringList files = WithoutTwins(CreatureFilesAt(paths));
-    return EditFiles(parser, files.size(), [&](qsizetype at) { return changer.Try(files[at]); });
+    const FoundFiles found = CreatureFilesAt(paths);
+    const QStringList files = WithoutTwins(found.files);
+    const int code =
+        EditFiles(parser, files.size(), [&](qsizetype at) { return changer.Try(files[at]); });
+    Complain(found.refused);
+    return found.refused.empty() ? code : std::max<int>(code, SomethingFailed);
 }
 
 } // namespace

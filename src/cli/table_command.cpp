@@ -2,6 +2,7 @@
 
 #include "cli/output.h"
 #include "cli/survey_progress.h"
+#include "creature_files/mod.h"
 #include "localisation/error_text.h"
 #include "localisation/languages.h"
 #include "reports/table_csv.h"
@@ -96,6 +97,10 @@ private:
         both(TableOption::Html, TableOption::Against);
         if (parser.isSet(TableOption::Bom) && !parser.isSet(TableOption::Csv))
             wrong = QStringLiteral("--bom goes with --csv");
+        const QString page = parser.value(TableOption::Html);
+        if (IsDocumentName(page) || IsArchiveName(page)) // most likely a PATH, which would be lost
+            wrong = QStringLiteral("--html '%1': a file for the page is expected, not one of a mod")
+                        .arg(page);
     }
 
     void ReadSort(const QString& text) {
@@ -177,10 +182,9 @@ int RunTable(const QCommandLineParser& parser) {
         other.paths = QStringList(parser.value(TableOption::Against));
         const Survey before = TakeSurveyTold(other);
         sides.against = CompareMods(before, survey, messages);
-        for (const RefusedPlace& place : AllRefused(before)) {
-            Complain(QStringLiteral("%1: %2").arg(place.path, ErrorReason(messages, place.error)));
-            allRead = false;
-        }
+        const auto refused = AllRefused(before);
+        Complain(refused);
+        allRead = allRead && refused.empty();
     }
     const bool asPage = parser.isSet(TableOption::Html);
     if (!asPage) // which lists them apart

@@ -11,7 +11,9 @@
 
 namespace Hesperin {
 
-QStringList CreatureFilesBelow(const QString& folder) {
+namespace {
+
+void AddFilesBelow(const QString& folder, FoundFiles& found) {
     const QString root = folder.endsWith(u'/') ? folder : folder + u'/';
     QStringList paths;
     FolderVisitor visitor;
@@ -22,16 +24,24 @@ QStringList CreatureFilesBelow(const QString& folder) {
         if (!content || !IsOtherDocument(*content))
             paths.append(root + path);
     };
+    visitor.refused = [&](const QString& path, const Error& why) {
+        found.refused.push_back({path.isEmpty() ? folder : root + path, why});
+    };
     WalkFolder(folder, visitor);
     std::sort(paths.begin(), paths.end());
-    return paths;
+    found.files += paths;
 }
 
-QStringList CreatureFilesAt(const QStringList& paths) {
-    QStringList files;
+} // namespace
+
+FoundFiles CreatureFilesAt(const QStringList& paths) {
+    FoundFiles found;
     for (const QString& path : paths)
-        files += QFileInfo(path).isDir() ? CreatureFilesBelow(path) : QStringList(path);
-    return files;
+        if (QFileInfo(path).isDir())
+            AddFilesBelow(path, found);
+        else
+            found.files.append(path);
+    return found;
 }
 
 } // namespace Hesperin

@@ -1,5 +1,8 @@
 #include "creature_files/folder_walk.h"
 
+#include "creature_files/mod.h"
+#include "system/undecodable_names.h"
+
 #include <QDirIterator>
 #include <QFileInfo>
 
@@ -14,11 +17,12 @@ void WalkFolder(const QString& folder, const FolderVisitor& visitor) {
         const QString inner = std::move(waiting.back());
         waiting.pop_back();
         if (!QFileInfo(root + inner).isReadable()) {
-            if (visitor.refused)
-                visitor.refused(inner.chopped(inner.isEmpty() ? 0 : 1),
-                                Error{Error::What::NotAllowed});
+            visitor.refused(inner.chopped(inner.isEmpty() ? 0 : 1), Error{Error::What::NotAllowed});
             continue;
         }
+        for (const QString& name : UndecodableNames(root + inner))
+            if (name.endsWith(u'/') || IsDocumentName(name))
+                visitor.refused(inner + name, Error{Error::What::NameUndecodable});
         QDirIterator entries(root + inner, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot);
         while (entries.hasNext()) {
             entries.next();

@@ -6,10 +6,11 @@
 
 namespace Hesperin {
 
-/// What is told of a walk through a folder. Paths are below it, with /.
+/// What is told of a walk through a folder. Paths are below it, with /. Refused are folders that
+/// may not be read, and folders and documents with a name that can't be.
 struct FolderVisitor {
     std::function<void(const QString& path)> file;
-    std::function<void(const QString& path, const Error& why)> refused; ///< a folder; none: silent
+    std::function<void(const QString& path, const Error& why)> refused;
     std::function<bool()> goOn; ///< false ends the walk; none: it goes to its end
 };
 

@@ -12,15 +12,6 @@
 
 namespace Hesperin {
 
-namespace {
-
-bool IsArchiveName(const QString& path) {
-    return path.endsWith(QLatin1String(".pak"), Qt::CaseInsensitive) ||
-           path.endsWith(QLatin1String(".h5u"), Qt::CaseInsensitive);
-}
-
-} // namespace
-
 struct Mod::Contents {
     QSet<QString> names;                ///< of all files of any kind, folded
     QHash<QString, std::size_t> places; ///< in the list of documents, by their folded names

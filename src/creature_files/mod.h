@@ -72,6 +72,12 @@ inline bool IsDocumentName(QStringView name) {
     return name.endsWith(u".xdb", Qt::CaseInsensitive);
 }
 
+/// Whether a file of that name is an archive of the game: *.pak, *.h5u in any letter case.
+inline bool IsArchiveName(QStringView name) {
+    return name.endsWith(u".pak", Qt::CaseInsensitive) ||
+           name.endsWith(u".h5u", Qt::CaseInsensitive);
+}
+
 /// Whether the document is known to have another root than Creature. Its first bytes will do.
 bool IsOtherDocument(const QByteArray& bytes);
 

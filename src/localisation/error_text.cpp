@@ -10,8 +10,7 @@ namespace {
 using What = Error::What;
 
 // clang-format off
-/// In the order of Error::What. %1 is the value, or what was expected where there is no value; %2 what was
-/// expected, %3 the element.
+/// In the order of Error::What. %1 is the value, %2 what was expected, %3 the element.
 constexpr QString Messages::*Sentences[] = {
     &Messages::MsgFileMissing,
     &Messages::MsgFolderMissing,
@@ -22,12 +21,14 @@ constexpr QString Messages::*Sentences[] = {
     &Messages::MsgDiskFull,
     &Messages::MsgDiskReadOnly,
     &Messages::MsgNameTooLong,
+    &Messages::MsgNameUndecodable,
     &Messages::MsgFileTooLarge,
     &Messages::MsgSystemSays,
     &Messages::MsgNotAnArchive,
     &Messages::MsgArchiveDamaged,
     &Messages::MsgDamagedInArchive,
     &Messages::MsgEncrypted,
+    &Messages::MsgPackedOtherwise,
     &Messages::MsgNotWellFormed,
     &Messages::MsgEndsEarly,
     &Messages::MsgWrongRoot,
@@ -91,9 +92,8 @@ QString Place(const Messages& messages, const Error& error) {
 } // namespace
 
 QString ErrorReason(const Messages& messages, const Error& error) {
-    const QString value = error.what == What::NotWellFormed ? ParserWords(messages, error.value)
-                          : error.value.isEmpty()           ? error.expected
-                                                            : error.value;
+    const QString value =
+        error.what == What::NotWellFormed ? ParserWords(messages, error.value) : error.value;
     const bool otherTooLarge =
         error.what == What::FileTooLarge && error.doing != Error::Doing::Opening;
     const auto sentence =

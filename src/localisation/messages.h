@@ -46,6 +46,7 @@ struct Messages {
     QString MsgDiskFull;
     QString MsgDiskReadOnly;
     QString MsgNameTooLong;
+    QString MsgNameUndecodable;
     QString MsgFileTooLarge; ///< of a creature file
     QString MsgLargerThan;   ///< of any other
     QString MsgSystemSays;
@@ -62,6 +63,7 @@ struct Messages {
     QString MsgArchiveDamaged;
     QString MsgDamagedInArchive;
     QString MsgEncrypted;
+    QString MsgPackedOtherwise;
     QString MsgEndlessMarkup;
     QString MsgNameChanges;
     QString MsgEncodingUnknown;

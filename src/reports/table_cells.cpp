@@ -53,6 +53,7 @@ QStringList AbilitiesIn(const QString& text) {
     const QString words = text.simplified();
     for (const QStringView word : QStringView(words).split(u' ', Qt::SkipEmptyParts))
         abilities.append(AbilityIn(word.toString()));
+    abilities.removeAll(QString()); // a bare prefix has no word in a table
     abilities.removeDuplicates();
     return abilities;
 }
@@ -70,7 +71,7 @@ Failure ApplyAbilities(const TableCell& cell, EditedFile& file, std::vector<Erro
     QStringList present;
     for (const ListItem& item : *items) {
         present.append(AbilityIn(item.word));
-        if (!item.word.isEmpty() && !wanted.contains(present.constLast()))
+        if (!present.constLast().isEmpty() && !wanted.contains(present.constLast()))
             if (auto failure = file.RemoveItem(AbilityList, {item.word}))
                 return failure;
     }

@@ -117,7 +117,7 @@ QString ChangeWords(const CellChange& change) {
 QString ComparisonText(const std::vector<FileComparison>& files) {
     constexpr const char* kinds[] = {"added    ", "removed  ", "changed  "};
     if (files.empty())
-        return QStringLiteral("\nBoth versions hold the same.\n");
+        return QStringLiteral("\nBoth versions hold the same in the columns of the table.\n");
     QString text = QStringLiteral("\nAgainst the other version:\n");
     QString stayed;
     for (const FileComparison& file : files) {

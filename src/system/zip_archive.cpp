@@ -147,6 +147,8 @@ Result<QByteArray> ZipArchive::Unpack(Reader& reader, const QString& name, qint6
         return damaged;
     if ((info.flag & encrypted) != 0)
         return Error{Error::What::Encrypted};
+    if (info.compression_method != 0 && info.compression_method != Z_DEFLATED)
+        return Error{Error::What::PackedOtherwise, QString::number(info.compression_method)};
     const bool larger = info.uncompressed_size > static_cast<ZPOS64_T>(limit);
     if (larger && wish == Wish::Whole)
         return Error{Error::What::FileTooLarge, {}, QString::number(limit)};

@@ -23,12 +23,14 @@ struct Error {
         DiskFull,
         DiskReadOnly,
         NameTooLong,
-        FileTooLarge, ///< `expected` is the limit in bytes
-        SystemSays,   ///< `value` is what the system says, in the system's language
-        NotAnArchive, ///< or an empty one
+        NameUndecodable, ///< it is no UTF-8
+        FileTooLarge,    ///< `expected` is the limit in bytes
+        SystemSays,      ///< `value` is what the system says, in the system's language
+        NotAnArchive,    ///< or an empty one
         ArchiveDamaged,
         DamagedInArchive,
         Encrypted,
+        PackedOtherwise, ///< in an archive, by the method with the number `value`
         // A document can't be used.
         NotWellFormed,   ///< `value` is the parser's word for it, in English
         EndsEarly,       ///< it stops in the middle

@@ -117,10 +117,15 @@ TEST(Archives, LieOverFoldersAndEachOtherAndDamageStaysWithItsFile) {
     WriteFile(path("fault.pak"), bytes);
     WriteArchive(path("secret.pak"), {{"secret.xdb", "x"}}, 1);
     WriteFile(path("cut.pak"), bytes.first(bytes.size() / 2));
-    const Mod odd({path("fault.pak"), path("cut.pak"), path("secret.pak"), path("nowhere")});
+    WriteArchive(path("dense.pak"), {{"dense.xdb", "x"}});
+    bytes = ReadAll(path("dense.pak"));
+    bytes[8] = bytes[bytes.indexOf("PK\1\2") + 10] = 12; // the number of the method, at both its places
+    WriteFile(path("dense.pak"), bytes);
+    const Mod odd({path("fault.pak"), path("cut.pak"), path("secret.pak"), path("dense.pak"), path("nowhere")});
     const auto number = [](Error::What what) { return QString::number(static_cast<int>(what)); };
     EXPECT_EQ(Told(odd, LargestCreatureFile), QStringList({"a.xdb refused " + number(Error::What::DamagedInArchive),
                                                            "bomb.xdb refused " + number(Error::What::FileTooLarge),
+                                                           "dense.xdb refused " + number(Error::What::PackedOtherwise),
                                                            "secret.xdb refused " + number(Error::What::Encrypted)}));
     ASSERT_EQ(odd.Refused().size(), 2U);
     EXPECT_EQ(odd.Refused()[0].error.what, Error::What::NotAnArchive);

@@ -12,7 +12,9 @@ namespace Hesperin {
 inline const QStringList& ErrorNames() {
     static const QStringList names =
         QString("FileMissing FolderMissing IsFolder NotAFile NotAllowed InUse DiskFull DiskReadOnly NameTooLong "
-                "FileTooLarge SystemSays NotAnArchive ArchiveDamaged DamagedInArchive Encrypted NotWellFormed "
+                "NameUndecodable "
+                "FileTooLarge SystemSays NotAnArchive ArchiveDamaged DamagedInArchive Encrypted PackedOtherwise "
+                "NotWellFormed "
                 "EndsEarly WrongRoot TextTooLong EndlessMarkup NameChanges")
             .split(' ');
     return names;
