@@ -33,11 +33,11 @@ public:
             ThroughOne(path);
             ++source;
         }
-        auto& files = mod.files;
-        std::sort(files.begin(), files.end(),
+        auto& found = mod.files;
+        std::sort(found.begin(), found.end(),
                   [](const ModFile& a, const ModFile& b) { return a.path < b.path; });
-        for (std::size_t i = 0; i < files.size(); ++i)
-            mod.contents->places[files[i].path.toCaseFolded()] = i;
+        for (std::size_t i = 0; i < found.size(); ++i)
+            mod.contents->places[found[i].path.toCaseFolded()] = i;
     }
 
 private:

@@ -47,7 +47,7 @@ QString SummaryTitle(const Messages& messages, const QString& name, const FileFi
 }
 
 QString SummaryTitleIn(const Messages& to, const Messages& from, QString title) {
-    const QString given = title;
+    QString given = title;
     const qsizetype begin = VersionRecord::TitleAndVersion().size();
     qsizetype end = title.size();
     // From the back, since the name may hold anything.

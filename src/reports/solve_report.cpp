@@ -21,8 +21,9 @@ namespace {
 class PowerTeller {
 public:
     explicit PowerTeller(const ModScale* mod) : scaled(mod != nullptr) {
-        for (std::int16_t tier = 1; scaled && tier < static_cast<std::int16_t>(scales.size());
-             ++tier)
+        if (mod == nullptr)
+            return;
+        for (std::int16_t tier = 1; tier < static_cast<std::int16_t>(scales.size()); ++tier)
             scales[static_cast<std::size_t>(tier)] = mod->Of(tier, Figure::Power);
     }
 

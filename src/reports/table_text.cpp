@@ -11,22 +11,22 @@ namespace {
 
 /// A column of the text and the room that it may take.
 struct TextColumn {
-    Column column;
     const char* heading;
     qsizetype widest;
+    Column column;
     bool isRight;
 };
 
 // clang-format off
 constexpr TextColumn Shown[] = {
-    {Column::File,         "File",      ReportWidth, false},
-    {Column::Name,         "Name",               18, false},
-    {Column::Town,         "Town",               10, false},
-    {Column::CreatureTier, "Tier",                4, true},
-    {Column::Advised,      "Advised",             7, true},
-    {Column::Power,        "Power",              12, true},
-    {Column::AveragePower, "Average",            12, true},
-    {Column::Deviation,    "Deviation",           9, true},
+    {"File",      ReportWidth, Column::File,         false},
+    {"Name",               18, Column::Name,         false},
+    {"Town",               10, Column::Town,         false},
+    {"Tier",                4, Column::CreatureTier, true},
+    {"Advised",             7, Column::Advised,      true},
+    {"Power",              12, Column::Power,        true},
+    {"Average",            12, Column::AveragePower, true},
+    {"Deviation",           9, Column::Deviation,    true},
 };
 // clang-format on
 constexpr qsizetype Gap = 2;

@@ -258,7 +258,8 @@ void SurveyWindow::Tell(QMessageBox::Icon icon, const QString& text) {
 /// The title of the main window is another whenever it shows another creature.
 bool SurveyWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::WindowTitleChange)
-        QTimer::singleShot(0, this, [this] { pages->LookForCurrent(); });
+        QMetaObject::invokeMethod(
+            this, [this] { pages->LookForCurrent(); }, Qt::QueuedConnection);
     return QWidget::eventFilter(watched, event);
 }
 
