@@ -143,6 +143,10 @@ TEST_F(Recovery, HostileCopiesAreToldAndPutAside) {
         QByteArray(2 << 20, ' ') + good,
         changed({"version"}, 2),
         changed({"version"}, "1"),
+        changed({"name"}, 5),
+        changed({"figures"}, QJsonArray{1, 2, 3}),
+        changed({"figures"}, QJsonArray{1, 2, 3, 32768}),
+        changed({"figures"}, QJsonArray{1, 2, 3, "4"}),
         changed({"creature"}, QJsonArray()),
         changed({"path"}, file), // without the creature as it was opened
         changed({"creature", "Name"}, 5),
