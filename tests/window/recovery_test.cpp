@@ -177,6 +177,13 @@ TEST_F(Recovery, HostileCopiesAreToldAndPutAside) {
         EXPECT_EQ(use.Text("txtAttack") + QString::number(use.form.Spells(46).Ticked()), "171");
         EXPECT_TRUE(use.form.txtShots.Enabled() && use.form.Tablus.At(Page::Spells).On());
     }
+    QFile::remove(data.filePath("recovery.old.json"));
+    QDir().mkpath(data.filePath("recovery.old.json/inside")); // so that nothing can be put aside
+    WriteFile(Copy(), "{");
+    {
+        const WindowInUse use;
+        EXPECT_TRUE(use.answers.told.constLast().contains(Copy())) << use.answers.told.join('\n').toStdString();
+    }
     QFile::remove(Copy());
     QDir().mkpath(Copy()); // a folder of that name
     const WindowInUse use;
