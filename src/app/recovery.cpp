@@ -14,6 +14,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <limits>
+
 namespace Hesperin {
 
 namespace {
@@ -39,15 +41,26 @@ QJsonArray FiguresToJson(const FileFigures& file) {
     return {file.FilePower, file.FileExperience, file.FileGrowth, file.FileGold};
 }
 
-FileFigures FiguresFromJson(const QJsonArray& json) {
-    const auto figure = [&json](qsizetype place) {
-        return static_cast<std::int16_t>(json[place].toInt());
-    };
-    return {figure(0), figure(1), figure(2), figure(3)};
+/// Nothing where they aren't figures of a file.
+std::optional<FileFigures> FiguresFromJson(const QJsonValue& json) {
+    using Figure = std::numeric_limits<std::int16_t>;
+    std::array<std::int16_t, 4> figures{};
+    const QJsonArray values = json.toArray();
+    if (values.size() != static_cast<qsizetype>(figures.size()))
+        return std::nullopt;
+    for (std::size_t i = 0; i < figures.size(); ++i) {
+        constexpr int none = Figure::max() + 1;
+        const int value = values[static_cast<qsizetype>(i)].toInt(none);
+        if (value < Figure::min() || value > Figure::max())
+            return std::nullopt;
+        figures[i] = static_cast<std::int16_t>(value);
+    }
+    return FileFigures{figures[0], figures[1], figures[2], figures[3]};
 }
 
 /// Takes the file up, if it still has the bytes that it had.
-bool TakeUpFile(Program& program, const QJsonObject& kept, const Creature& opened) {
+bool TakeUpFile(Program& program, const QJsonObject& kept, const Creature& opened,
+                const FileFigures& figures) {
     MainForm& form = program.form;
     SharedState& state = program.state;
     const QString path = kept["path"].toString();
@@ -59,7 +72,7 @@ bool TakeUpFile(Program& program, const QJsonObject& kept, const Creature& opene
     ShowFilePage(form);
     state.baseline = {path, document->bytes, opened};
     form.mnuUpdate.SetEnabled(true);
-    state.file = FiguresFromJson(kept["figures"].toArray());
+    state.file = figures;
     state.CreatureFileLoaded = kept["loaded"].toBool();
     if (state.CreatureFileLoaded)
         form.frmMain.SetCaption(FileTitle(state.CreatureName, state.file));
@@ -102,11 +115,13 @@ bool Recover(Program& program, const QByteArray& text) {
     const QJsonObject kept = QJsonDocument::fromJson(text).object();
     const auto creature = CreatureFromJson(kept["creature"].toObject());
     const auto opened = CreatureFromJson(kept["opened"].toObject());
-    if (kept["version"].toInt() != Version || !creature || (kept.contains("path") && !opened))
+    const auto figures = FiguresFromJson(kept["figures"]);
+    if (kept["version"].toInt() != Version || !creature || !figures || !kept["name"].isString() ||
+        (kept.contains("path") && !opened))
         return false;
     const UserAct act(program.form.frmMain);
     Show(program, kept, *creature);
-    if (kept.contains("path") && !TakeUpFile(program, kept, *opened))
+    if (kept.contains("path") && !TakeUpFile(program, kept, *opened, *figures))
         program.Warn(BoxIcon::Information,
                      Fill(program.state.messages.MsgRecoveredAlone,
                           {QDir::toNativeSeparators(kept["path"].toString())}));

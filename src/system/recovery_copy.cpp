@@ -28,7 +28,7 @@ std::optional<QByteArray> RecoveryCopy::Left() {
 QString RecoveryCopy::PutAside() {
     const QString aside = folder + QLatin1String("/recovery.old.json");
     QFile::remove(aside);
-    return QFile::rename(path, aside) ? aside : QString();
+    return QFile::rename(path, aside) ? aside : path;
 }
 
 void RecoveryCopy::Write(const QByteArray& bytes) {

@@ -20,7 +20,7 @@ public:
     std::optional<QByteArray> Left();
 
     /// Moves what was left behind out of the way, in place of what was moved there before. Gives
-    /// the place where it lies now, empty when it could not be moved.
+    /// the place where it lies now, which is the old one when it could not be moved.
     QString PutAside();
 
     /// Writes the copy, in its own time: a slow disk holds nobody up. What comes in the way is told

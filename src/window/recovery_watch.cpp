@@ -34,7 +34,7 @@ void RecoveryWatch::Offer() {
         return;
     }
     const QString aside = copy.PutAside();
-    if (wanted && !aside.isEmpty())
+    if (wanted)
         program.Warn(BoxIcon::Information,
                      Fill(messages.MsgRecoveryUnread, {QDir::toNativeSeparators(aside)}));
 }

@@ -143,6 +143,10 @@ TEST_F(Recovery, HostileCopiesAreToldAndPutAside) {
         QByteArray(2 << 20, ' ') + good,
         changed({"version"}, 2),
         changed({"version"}, "1"),
+        changed({"name"}, 5),
+        changed({"figures"}, QJsonArray{1, 2, 3}),
+        changed({"figures"}, QJsonArray{1, 2, 3, 32768}),
+        changed({"figures"}, QJsonArray{1, 2, 3, "4"}),
         changed({"creature"}, QJsonArray()),
         changed({"path"}, file), // without the creature as it was opened
         changed({"creature", "Name"}, 5),
@@ -172,6 +176,13 @@ TEST_F(Recovery, HostileCopiesAreToldAndPutAside) {
         const WindowInUse use;
         EXPECT_EQ(use.Text("txtAttack") + QString::number(use.form.Spells(46).Ticked()), "171");
         EXPECT_TRUE(use.form.txtShots.Enabled() && use.form.Tablus.At(Page::Spells).On());
+    }
+    QFile::remove(data.filePath("recovery.old.json"));
+    QDir().mkpath(data.filePath("recovery.old.json/inside")); // so that nothing can be put aside
+    WriteFile(Copy(), "{");
+    {
+        const WindowInUse use;
+        EXPECT_TRUE(use.answers.told.constLast().contains(Copy())) << use.answers.told.join('\n').toStdString();
     }
     QFile::remove(Copy());
     QDir().mkpath(Copy()); // a folder of that name
