@@ -87,6 +87,7 @@ Validated Validate(const EnteredParameters& entered);
 
 /// The parameters of a creature, with the product of its abilities' values.
 EnteredParameters EnteredOf(const Creature& creature);
+EnteredParameters EnteredOf(Creature&&) = delete; // which would be gone before its texts are read
 
 /// The same, with a step a ticked ability added to `record`.
 EnteredParameters EnteredOf(const Creature& creature, Record& record);

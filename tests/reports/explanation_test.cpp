@@ -42,7 +42,8 @@ Creature CreatureIn(const QString& file, const QStringList& words) {
 Explanation WithoutPower() {
     Explanation explanation{"", "Ghost", {}, {}, {}};
     Record record;
-    EnteredParameters entered = EnteredOf(EmptyCreature());
+    const Creature empty = EmptyCreature();
+    EnteredParameters entered = EnteredOf(empty);
     entered.Attack = entered.Defence = entered.Health = entered.MinDam = entered.MaxDam = u"4";
     record.Step("product", entered.AbilityProduct, 0.008F); // 0.73 by Rolvane, which counts as 0
     explanation.evaluation = Evaluate(entered, record);
