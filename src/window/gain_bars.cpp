@@ -51,9 +51,10 @@ void GainBars::paintEvent(QPaintEvent*) {
         painter.drawText(QRect(0, top, names, GainHeight), Qt::AlignLeft | Qt::AlignVCenter,
                          gain.what);
         painter.setPen(QColor(some ? colours.Text : colours.TextOff));
+        const int side = some ? Qt::AlignRight : Qt::AlignLeft;
         painter.drawText(some ? QRect(names + GainGap, top, numbers, GainHeight)
                               : QRect(names + GainGap, top, width() - names - GainGap, GainHeight),
-                         (some ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter, gain.value);
+                         side | Qt::AlignVCenter, gain.value);
         if (some)
             painter.fillRect(QRectF(numbersRight + GainGap, top + 4,
                                     std::max(1.0, room * gain.share), GainHeight - 8),

@@ -82,7 +82,10 @@ SurveyWindow::SurveyWindow(Program& owner, MainWindow& mainWindow)
         connect(
             main.findChild<QAction*>(entry->Name()), &QAction::toggled, this,
             [this] { Retranslate(); }, Qt::QueuedConnection); // when all of it is switched
-    main.installEventFilter(this);
+    // The title of the main window is another whenever it shows another creature.
+    connect(
+        &main, &QWidget::windowTitleChanged, this, [this] { pages->LookForCurrent(); },
+        Qt::QueuedConnection);
     Retranslate();
 
     const QRect room = screen()->availableGeometry();
@@ -253,14 +256,6 @@ void SurveyWindow::Tell(QMessageBox::Icon icon, const QString& text) {
     QMessageBox box(icon, program.state.messages.WarningTitle, text, QMessageBox::Ok, this);
     box.setTextFormat(Qt::PlainText);
     box.exec();
-}
-
-/// The title of the main window is another whenever it shows another creature.
-bool SurveyWindow::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::WindowTitleChange)
-        QMetaObject::invokeMethod(
-            this, [this] { pages->LookForCurrent(); }, Qt::QueuedConnection);
-    return QWidget::eventFilter(watched, event);
 }
 
 void SurveyWindow::keyPressEvent(QKeyEvent* event) {
