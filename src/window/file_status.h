@@ -15,6 +15,8 @@ class FileStatus {
 public:
     /// `reload` opens the file again.
     FileStatus(Program& program, QMenuBar& menus, std::function<void(const QString&)> reload);
+    FileStatus(const FileStatus&) = delete;
+    FileStatus& operator=(const FileStatus&) = delete;
 
     /// What the user does has changed something.
     void Follow();

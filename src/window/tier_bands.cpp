@@ -80,7 +80,7 @@ void TierBands::paintEvent(QPaintEvent*) {
         QPolygonF({{x, AboveBands + 7.0}, {x - 5, AboveBands - 3.0}, {x + 5, AboveBands - 3.0}}));
     painter.setFont(bold);
     const double left = std::clamp(x - 50, 0.0, this->width() - 100.0);
-    const int side = x - 50 < left   ? Qt::AlignLeft
+    const int side = left > x - 50   ? Qt::AlignLeft
                      : x - 50 > left ? Qt::AlignRight
                                      : Qt::AlignHCenter;
     painter.drawText(QRectF(left, 0, 100, AboveBands - 4), side | Qt::AlignVCenter,
