@@ -50,8 +50,6 @@ void History::End() {
     if (act != Act::Aside)
         KeepStep();
     ShowEntries();
-    if (handler)
-        handler();
     if (follower)
         follower();
 }

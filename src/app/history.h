@@ -28,9 +28,6 @@ public:
     void Redo();
 
     /// `value` runs after everything that the user does.
-    void SetActHandler(std::function<void()> value) { handler = std::move(value); }
-
-    /// The same for what a window shows beside its controls.
     void SetFollower(std::function<void()> value) { follower = std::move(value); }
 
 private:
@@ -63,7 +60,6 @@ private:
     std::uint32_t creatureBefore = 0;
 
     const Control* edited = nullptr; ///< field whose editing is the last step and may go on
-    std::function<void()> handler;
     std::function<void()> follower;
 };
 

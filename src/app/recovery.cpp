@@ -5,6 +5,7 @@
 #include "app/handlers/buttons.h"
 #include "app/handlers/save_and_update.h"
 #include "app/resets.h"
+#include "app/unsaved.h"
 #include "creature_files/document.h"
 #include "localisation/titles.h"
 #include "text/fill.h"
@@ -24,17 +25,6 @@ constexpr int Version = 1;
 
 QString HashOf(const QByteArray& bytes) {
     return QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex());
-}
-
-/// Whether something has been entered into `base` to make `creature`. A change of language alone
-/// takes choices, counter and flag away.
-bool IsEntered(const Creature& base, Creature creature) {
-    for (const ListField list : {ListField::Faction, ListField::Range})
-        if (creature.Choices[list].index < 0)
-            creature.Choices[list] = base.Choices[list];
-    creature.SpellPoints1Count = base.SpellPoints1Count;
-    creature.SpecabilityFlag = base.SpecabilityFlag;
-    return creature != base;
 }
 
 QJsonArray FiguresToJson(const FileFigures& file) {
@@ -94,12 +84,11 @@ void Show(Program& program, const QJsonObject& kept, const Creature& creature) {
 } // namespace
 
 QByteArray RecoveryText(const Program& program) {
-    const auto& baseline = program.state.baseline;
-    const Creature creature = TakeCreature(program);
-    if (!IsEntered(baseline ? baseline->creature : EmptyCreature(), creature))
+    if (!HasUnsaved(program))
         return {};
+    const auto& baseline = program.state.baseline;
     QJsonObject kept{{"version", Version},
-                     {"creature", CreatureToJson(creature)},
+                     {"creature", CreatureToJson(TakeCreature(program))},
                      {"name", program.state.CreatureName},
                      {"figures", FiguresToJson(program.state.file)},
                      {"loaded", program.state.CreatureFileLoaded}};

@@ -6,6 +6,9 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <chrono>
+#include <system_error>
+
 namespace Hesperin {
 
 RecoveryCopy::RecoveryCopy(const QString& place)
@@ -31,13 +34,18 @@ QString RecoveryCopy::PutAside() {
     return QFile::rename(path, aside) ? aside : path;
 }
 
-void RecoveryCopy::Write(const QByteArray& bytes) {
-    if (writing.valid())
-        writing.wait();
-    writing = std::async(std::launch::async, [this, bytes] {
-        if (IsOurs())
-            SaveFileOfMany(path, bytes);
-    });
+bool RecoveryCopy::Write(const QByteArray& bytes) {
+    if (writing.valid() && writing.wait_for(std::chrono::seconds(0)) != std::future_status::ready)
+        return false;
+    try {
+        writing = std::async(std::launch::async, [this, bytes] {
+            if (IsOurs())
+                SaveFileOfMany(path, bytes);
+        });
+        return true;
+    } catch (const std::system_error&) { // threads may lack
+        return false;
+    }
 }
 
 void RecoveryCopy::Remove() {

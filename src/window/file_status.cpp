@@ -1,6 +1,6 @@
 #include "window/file_status.h"
 
-#include "app/creature_in_form.h"
+#include "app/unsaved.h"
 #include "creature_files/document.h"
 #include "system/read_file.h"
 #include "text/fill.h"
@@ -17,22 +17,6 @@ namespace {
 
 constexpr int Gap = 6;
 constexpr int MarkWidth = 16;
-
-/// Whether the user would miss something of `shown` in `saved`. What a change of language takes
-/// away is none of it: what the lists that follow it show, and the state of the click rules. A
-/// field that a rule has emptied is as good as 0.
-bool Differs(Creature shown, Creature saved) {
-    for (const ListField list : {ListField::Faction, ListField::Range})
-        if (shown.Choices[list].index < 0)
-            shown.Choices[list] = saved.Choices[list];
-    for (Creature* creature : {&shown, &saved})
-        for (QString& number : creature->Numbers)
-            if (number.isEmpty())
-                number = QStringLiteral("0");
-    shown.SpellPoints1Count = saved.SpellPoints1Count;
-    shown.SpecabilityFlag = saved.SpecabilityFlag;
-    return shown != saved;
-}
 
 } // namespace
 
@@ -70,8 +54,7 @@ void FileStatus::Follow() {
     const auto& baseline = program.state.baseline;
     mark->setToolTip(messages.MsgNotSaved);
     mark->setAccessibleName(messages.MsgNotSaved);
-    mark->setVisible(
-        Differs(TakeCreature(program), baseline ? baseline->creature : EmptyCreature()));
+    mark->setVisible(HasUnsaved(program));
     const QString path = baseline ? baseline->path : QString();
     const QByteArray now = baseline ? baseline->bytes : QByteArray();
     if (path != file || now != bytes) {

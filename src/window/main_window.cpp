@@ -141,6 +141,7 @@ void MainWindow::Follow() {
     status->Follow();
     recent->Follow();
     tabs->Follow();
+    recovery->Follow();
 }
 
 void MainWindow::FindAbility() {

@@ -12,14 +12,11 @@ RecoveryWatch::RecoveryWatch(Program& owner) : program(owner), copy(program.plat
     timer.setSingleShot(true);
     timer.setInterval(seconds * 1000);
     QObject::connect(&timer, &QTimer::timeout, [this] { Keep(); });
-    program.history.SetActHandler([this] {
-        if (!timer.isActive())
-            timer.start();
-    });
 }
 
-RecoveryWatch::~RecoveryWatch() {
-    program.history.SetActHandler({});
+void RecoveryWatch::Follow() {
+    if (!ended && !timer.isActive())
+        timer.start();
 }
 
 void RecoveryWatch::Offer() {
@@ -43,15 +40,15 @@ void RecoveryWatch::Keep() {
     const QByteArray text = RecoveryText(program);
     if (text == kept)
         return;
-    kept = text;
     if (text.isEmpty())
         copy.Remove();
-    else
-        copy.Write(text);
+    else if (!copy.Write(text))
+        return timer.start(); // and tries again
+    kept = text;
 }
 
 void RecoveryWatch::End() {
-    program.history.SetActHandler({});
+    ended = true;
     timer.stop();
     copy.Remove();
 }

@@ -12,12 +12,14 @@ namespace Hesperin {
 class RecoveryWatch {
 public:
     explicit RecoveryWatch(Program& program);
-    ~RecoveryWatch();
     RecoveryWatch(const RecoveryWatch&) = delete;
     RecoveryWatch& operator=(const RecoveryWatch&) = delete;
 
     /// Asks whether to show again what was left behind, if there is something.
     void Offer();
+
+    /// What the user does has changed something: in a while the copy follows.
+    void Follow();
 
     /// The program ends in order: no copy stays.
     void End();
@@ -29,6 +31,7 @@ private:
     RecoveryCopy copy;
     QByteArray kept;
     QTimer timer; ///< from the first act that isn't kept yet
+    bool ended = false;
 };
 
 } // namespace Hesperin
