@@ -12,8 +12,11 @@ TEST(Find, TellsWhatTheGameSaysInThatLanguage) {
         WriteFile(settings.filePath("talmir/") + language + "/Text/Game/Creatures/Creature_abilities/Bash/" + file,
                   text);
     };
+    const QString program = settings.filePath(QFileInfo(TestedProgram("talmir-cli")).fileName());
+    ASSERT_TRUE(QFile::copy(TestedProgram("talmir-cli"), program)); // beside which lie no texts
+    const auto find = [&](const QStringList& words) { return RunCli(QStringList{"find"} + words, {}, {}, program); };
     qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
-    const CliOutcome without = RunCli({"find", "stuns"});
+    const CliOutcome without = find({"stuns"});
     write("EN", "Bash_name.txt", "Bash\r\n");
     write("EN", "Bash_desc.txt", "Stuns the enemy");
     write("RU", "Bash_name.txt", "Оглушение");
@@ -34,7 +37,7 @@ TEST(Find, TellsWhatTheGameSaysInThatLanguage) {
          "\n"},
     };
     for (const auto& row : cases) {
-        const CliOutcome outcome = RunCli(QStringList{"find"} + row.arguments);
+        const CliOutcome outcome = find(row.arguments);
         EXPECT_EQ(outcome.code, row.code);
         EXPECT_EQ(outcome.out, row.out);
         EXPECT_EQ(outcome.err, row.err);
