@@ -18,4 +18,4 @@ set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
 
 # With CMAKE_UNITY_BUILD a layer is a few translation units: its headers are parsed a few times, not
 # once a file. The preset debug compiles each file alone, as a developer wants it.
-set(CMAKE_UNITY_BUILD_BATCH_SIZE 24)
+set(CMAKE_UNITY_BUILD_BATCH_SIZE 24 CACHE STRING "Files of a translation unit; 0: all of a room")

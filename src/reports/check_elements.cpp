@@ -12,7 +12,7 @@ namespace Hesperin {
 namespace {
 
 // clang-format off
-constexpr std::pair<QStringView, Parameter> Ranges[] = {
+constexpr std::pair<QStringView, Parameter> ElementRanges[] = {
     {u"AttackSkill",  Parameter::Attack},
     {u"DefenceSkill", Parameter::Defence},
     {u"MinDamage",    Parameter::MinDam},
@@ -50,7 +50,7 @@ const FileElement& Around(const FileElements& elements, const Element& lacking) 
 } // namespace
 
 const ParameterRange* RangeOf(QStringView element) {
-    for (const auto& [name, parameter] : Ranges)
+    for (const auto& [name, parameter] : ElementRanges)
         if (name == element)
             return &ParameterRanges[parameter];
     return nullptr;

@@ -14,7 +14,7 @@ namespace Hesperin {
 
 namespace {
 
-const QString AbilityPrefix = QStringLiteral("product_");
+const QString AbilityTermPrefix = QStringLiteral("product_");
 
 /// Whether `next` is what `term` becomes without its fraction.
 bool IsCutOf(const Term& next, const Term& term) {
@@ -143,8 +143,8 @@ private:
             step.what = what;
             Tell(chapter, std::move(step));
         };
-        if (id.startsWith(AbilityPrefix))
-            return tell(Chapter::Abilities, id.mid(AbilityPrefix.size()));
+        if (id.startsWith(AbilityTermPrefix))
+            return tell(Chapter::Abilities, id.mid(AbilityTermPrefix.size()));
         if (id == QLatin1String("product") && parameters.AbilityProduct == 1 &&
             (chapters.empty() || chapters.back().chapter != Chapter::Abilities))
             return tell(Chapter::Abilities, Words(Phrase::NoAbility));

@@ -18,7 +18,7 @@ struct TextColumn {
 };
 
 // clang-format off
-constexpr TextColumn Shown[] = {
+constexpr TextColumn TextColumns[] = {
     {"File",      ReportWidth, Column::File,         false},
     {"Name",               18, Column::Name,         false},
     {"Town",               10, Column::Town,         false},
@@ -29,7 +29,7 @@ constexpr TextColumn Shown[] = {
     {"Deviation",           9, Column::Deviation,    true},
 };
 // clang-format on
-constexpr qsizetype Gap = 2;
+constexpr qsizetype ColumnGap = 2;
 
 QString ShownCell(const SurveyRow& row, const TextColumn& column, const Messages& messages) {
     QString text = Printable(CellText(row, column.column, messages));
@@ -48,16 +48,17 @@ class RowTable {
 public:
     RowTable(const std::vector<SurveyRow>& all, const Messages& words)
         : rows(all), messages(words) {
-        for (std::size_t i = 0; i < std::size(Shown); ++i) {
-            widths[i] = static_cast<qsizetype>(std::string_view(Shown[i].heading).size());
+        for (std::size_t i = 0; i < std::size(TextColumns); ++i) {
+            widths[i] = static_cast<qsizetype>(std::string_view(TextColumns[i].heading).size());
             for (const SurveyRow& row : rows)
                 if (!row.problem)
-                    widths[i] = std::max(widths[i], ShownCell(row, Shown[i], messages).size());
-            widths[i] = std::min(widths[i], Shown[i].widest);
+                    widths[i] =
+                        std::max(widths[i], ShownCell(row, TextColumns[i], messages).size());
+            widths[i] = std::min(widths[i], TextColumns[i].widest);
         }
         qsizetype others = 0;
         for (std::size_t i = 1; i < widths.size(); ++i)
-            others += Gap + widths[i];
+            others += ColumnGap + widths[i];
         widths[0] = std::min(widths[0], ReportWidth - others); // the paths get what is left
     }
 
@@ -74,9 +75,9 @@ private:
     template <typename CellOf>
     QString Line(CellOf cellOf) const {
         QString line;
-        for (std::size_t i = 0; i < std::size(Shown); ++i)
-            line += (i > 0 ? QString(Gap, u' ') : QString()) +
-                    Padded(cellOf(Shown[i]), widths[i], Shown[i]);
+        for (std::size_t i = 0; i < std::size(TextColumns); ++i)
+            line += (i > 0 ? QString(ColumnGap, u' ') : QString()) +
+                    Padded(cellOf(TextColumns[i]), widths[i], TextColumns[i]);
         while (line.endsWith(u' '))
             line.chop(1);
         return line + u'\n';
@@ -84,7 +85,7 @@ private:
 
     const std::vector<SurveyRow>& rows;
     const Messages& messages;
-    std::array<qsizetype, std::size(Shown)> widths{};
+    std::array<qsizetype, std::size(TextColumns)> widths{};
 };
 
 QString TiersText(const ModScale& scale) {

@@ -9,6 +9,7 @@
 #include "creature_files/document.h"
 #include "creature_files/reader.h"
 #include "support/invariants.h"
+#include "support/repetitions.h"
 
 #include <gtest/gtest.h>
 
@@ -63,7 +64,7 @@ private:
 TEST(Play, KeepsBoxesCountersAndSelectorsInStep) {
     TestProgram test;
     Player player(test, 7);
-    for (int step = 0; step < 20000; ++step) {
+    for (int step = 0; step < Repetitions(20'000); ++step) {
         player.ClickBoxes();
         if (step % 10 != 0)
             continue;
@@ -78,7 +79,7 @@ TEST(Play, KeepsBoxesCountersAndSelectorsInStep) {
 TEST(Play, ACreatureIsTakenOutOfTheFormAndSetBackWithoutARule) {
     TestProgram test;
     Player player(test, 11);
-    for (int round = 0; round < 60; ++round) {
+    for (int round = 0; round < Repetitions(60); ++round) {
         for (int clicks = 0; clicks < 20; ++clicks)
             player.ClickBoxes();
         player.FillIn();
@@ -162,7 +163,7 @@ Creature AsWritten(Creature creature) {
 }
 
 TEST(Play, SavingAndOpeningGivesTheCreatureBack) {
-    for (unsigned seed = 1; seed <= 150; ++seed) {
+    for (unsigned seed = 1; seed <= Repetitions(150U); ++seed) {
         SCOPED_TRACE(seed);
         TestProgram saved;
         Player player(saved, seed);

@@ -5,6 +5,7 @@
 #include "cli/state_json.h"
 #include "form/form_lists.h"
 #include "support/cases_file.h"
+#include "support/repetitions.h"
 
 #include <QDir>
 #include <QJsonDocument>
@@ -115,7 +116,7 @@ QString AnyLine(const MainForm& form, std::mt19937& random) {
 }
 
 TEST(Undo, GoesBackAndForthThroughEveryState) {
-    for (unsigned seed = 1; seed <= 3; ++seed) {
+    for (unsigned seed = 1; seed <= Repetitions(5U); ++seed) {
         Stage stage(seed % 2 == 0 ? Russian : English);
         std::mt19937 random(seed);
         std::vector<Kept> states{Kept(stage)};

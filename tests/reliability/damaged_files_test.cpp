@@ -9,6 +9,7 @@
 #include "reliability/damage.h"
 #include "support/invariants.h"
 #include "support/peak_memory.h"
+#include "support/repetitions.h"
 #include "support/test_program.h"
 
 #include <gtest/gtest.h>
@@ -48,11 +49,7 @@ struct Opener {
 };
 
 TEST(DamagedFiles, AreOpenedInOrderOrRefusedWithNothingChanged) {
-#ifdef __SANITIZE_ADDRESS__ // ten times slower
-    constexpr unsigned damagesOfEach = 500;
-#else
-    constexpr unsigned damagesOfEach = 2000;
-#endif
+    constexpr unsigned damagesOfEach = Repetitions(2000U);
     const QTemporaryDir folder;
     const QString path = folder.filePath("a.xdb");
     const QDir samples(TALMIR_SOURCE_DIR "/samples");

@@ -1,6 +1,7 @@
 // A long play at random: whatever the user does, the window shows the state of its controls, what
 // must hold holds, and the program ends in order.
 #include "support/invariants.h"
+#include "support/repetitions.h"
 #include "window/agreement.h"
 
 #include <random>
@@ -126,11 +127,7 @@ private:
 };
 
 TEST(RandomPlay, TheWindowStaysInOrderAndEndsInOrder) {
-#ifdef __SANITIZE_ADDRESS__ // ten times slower
-    constexpr int actions = 2'000;
-#else
-    constexpr int actions = 10'000;
-#endif
+    constexpr int actions = Repetitions(10'000);
     constexpr int plays = 20;
     constexpr int paintedPlay = 10; // every tenth; painting takes most of the time
     constexpr int betweenChecks = 250;
