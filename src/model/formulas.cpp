@@ -172,15 +172,21 @@ Figures ComputeFigures(const Parameters& parameters, const Powers& powers, Recor
 }
 
 double ResultOf(const Powers& powers, const Figures& figures, Method method, Figure figure) {
-    const double results[][3] = {
-        {powers.PowerRolvane, powers.PowerHesperin, figures.PowerAverage},
-        {static_cast<double>(figures.ExpRolvane), figures.ExpHesperin,
-         static_cast<double>(figures.ExpAverage)},
-        {static_cast<double>(figures.GrowthRolvane), static_cast<double>(figures.GrowthHesperin),
-         static_cast<double>(figures.GrowthAverage)},
-        {figures.CostRolvane, figures.CostHesperin, figures.CostAverage},
+    const auto of = [method](double rolvane, double hesperin, double average) {
+        if (method == Method::Average)
+            return average;
+        return method == Method::Rolvane ? rolvane : hesperin;
     };
-    return results[static_cast<std::size_t>(figure)][static_cast<std::size_t>(method)];
+    switch (figure) {
+    case Figure::Experience:
+        return of(figures.ExpRolvane, figures.ExpHesperin, figures.ExpAverage);
+    case Figure::Growth:
+        return of(figures.GrowthRolvane, figures.GrowthHesperin, figures.GrowthAverage);
+    case Figure::Cost:
+        return of(figures.CostRolvane, figures.CostHesperin, figures.CostAverage);
+    default:
+        return of(powers.PowerRolvane, powers.PowerHesperin, figures.PowerAverage);
+    }
 }
 
 } // namespace Hesperin
