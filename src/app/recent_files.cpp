@@ -1,5 +1,6 @@
 #include "app/recent_files.h"
 
+#include "system/file_place.h"
 #include "system/read_file.h"
 #include "system/save_file.h"
 
@@ -12,12 +13,6 @@
 namespace Hesperin {
 
 namespace {
-
-#ifdef Q_OS_WIN
-constexpr Qt::CaseSensitivity LetterCase = Qt::CaseInsensitive;
-#else
-constexpr Qt::CaseSensitivity LetterCase = Qt::CaseSensitive;
-#endif
 
 QString ListFile(const ProgramPlaces& places) {
     return places.settingsFolder + QLatin1String("/recent.ini");
@@ -60,7 +55,7 @@ QStringList RecentFiles(const ProgramPlaces& places) {
     QStringList files;
     for (const QString& line : text.split(u'\n')) {
         const QString path = line.endsWith(u'\r') ? line.chopped(1) : line;
-        if (IsPath(path) && !files.contains(path, LetterCase) && files.size() < MostRecentFiles)
+        if (IsPath(path) && !files.contains(path, FileNameCase) && files.size() < MostRecentFiles)
             files.append(path);
     }
     return files;
@@ -71,7 +66,7 @@ void AddRecentFile(const ProgramPlaces& places, const QString& path) {
     if (!IsPath(file))
         return;
     ChangeList(places, [&](QStringList& files) {
-        files.removeIf([&](const QString& old) { return old.compare(file, LetterCase) == 0; });
+        files.removeIf([&](const QString& old) { return old.compare(file, FileNameCase) == 0; });
         files.prepend(file);
         files = files.mid(0, MostRecentFiles);
     });

@@ -6,6 +6,7 @@
 #include "localisation/error_text.h"
 #include "localisation/languages.h"
 #include "reports/file_changer.h"
+#include "system/file_place.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -79,7 +80,7 @@ QStringList WithoutTwins(const QStringList& files) {
     QStringList once;
     QSet<QString> known;
     for (const QString& file : files) {
-        const QString place = QFileInfo(file).canonicalFilePath();
+        const QString place = FilePlace(file);
         if (place.isEmpty() || !known.contains(place))
             once.append(file);
         known.insert(place);

@@ -3,6 +3,7 @@
 #include "creature_files/document.h"
 #include "reports/file_changer.h"
 #include "reports/survey.h"
+#include "system/file_place.h"
 #include "system/path_lookup.h"
 #include "system/read_file.h"
 #include "text/csv.h"
@@ -41,7 +42,7 @@ public:
         for (const QString& level : levels)
             if (level.isEmpty() || level == u"." || level == u"..")
                 return {};
-        QString file = lookup.Find(levels);
+        QString file = lookup.FindListed(levels);
         return IsInside(file) ? file : QString();
     }
 
@@ -109,7 +110,7 @@ public:
         TableRow made{row.number, files.Find(inner), {}, {}};
         QString place;
         if (!made.file.isEmpty()) {
-            place = QFileInfo(made.file).canonicalFilePath();
+            place = FilePlace(made.file);
         } else {
             made.file = inner;
             made.refusal = At({Error::What::FileMissing}, row.number, heading);

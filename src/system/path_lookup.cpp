@@ -7,8 +7,10 @@ namespace Hesperin {
 
 QString PathLookup::Find(const QStringList& levels) {
     QString spelled = Spelled(levels);
-    if (QFileInfo::exists(spelled))
-        return spelled;
+    return QFileInfo::exists(spelled) ? spelled : FindListed(levels);
+}
+
+QString PathLookup::FindListed(const QStringList& levels) {
     QString path = folder;
     for (const QString& level : levels) {
         const QHash<QString, QString>& names = Names(path);

@@ -19,6 +19,9 @@ public:
     /// regard to letter case, level by level; empty when there is none.
     QString Find(const QStringList& levels);
 
+    /// The same, always as it is spelled on disk; takes longer for a file or two.
+    QString FindListed(const QStringList& levels);
+
 private:
     /// Names in `path` by their folded spelling; the first in alphabetical order wins.
     const QHash<QString, QString>& Names(const QString& path);

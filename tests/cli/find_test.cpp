@@ -9,11 +9,10 @@ namespace {
 TEST(Find, TellsWhatTheGameSaysInThatLanguage) {
     const QTemporaryDir settings;
     const auto write = [&](const char* language, const char* file, const QByteArray& text) {
-        WriteFile(settings.filePath("talmir/") + language + "/Text/Game/Creatures/Creature_abilities/Bash/" + file,
-                  text);
+        WriteFile(settings.filePath(language) + "/Text/Game/Creatures/Creature_abilities/Bash/" + file, text);
     };
     const QString program = settings.filePath(QFileInfo(TestedProgram("talmir-cli")).fileName());
-    ASSERT_TRUE(QFile::copy(TestedProgram("talmir-cli"), program)); // beside which lie no texts
+    ASSERT_TRUE(QFile::copy(TestedProgram("talmir-cli"), program)); // beside which lie its texts alone
     const auto find = [&](const QStringList& words) { return RunCli(QStringList{"find"} + words, {}, {}, program); };
     qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
     const CliOutcome without = find({"stuns"});

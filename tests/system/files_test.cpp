@@ -1,3 +1,4 @@
+#include "system/file_place.h"
 #include "system/files.h"
 #include "system/path_lookup.h"
 #include "system/program_places.h"
@@ -52,6 +53,15 @@ TEST_F(PathLookupTest, PrefersTheExactSpellingAndElseDisregardsLetterCase) {
         EXPECT_EQ(path.isEmpty(), content == nullptr) << levels;
     }
     EXPECT_EQ(PathLookup(Path("missing")).Find({"EN"}), "");
+}
+
+TEST_F(PathLookupTest, AFileHasOnePlaceWhateverLeadsToIt) {
+    const QString place = FilePlace(Write("a/One.xdb", "1"));
+    Write("a/other.xdb", "1");
+    EXPECT_EQ(FilePlace(Path("a/../a//One.xdb")), place);
+    EXPECT_EQ(FilePlace(Path("A/ONE.XDB")), OnLinux ? "" : place);
+    EXPECT_EQ(FilePlace(Path("a/two.xdb")), "");
+    EXPECT_NE(FilePlace(Path("a/other.xdb")), place);
 }
 
 #ifdef Q_OS_UNIX

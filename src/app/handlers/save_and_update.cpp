@@ -8,6 +8,7 @@
 #include "creature_files/writer.h"
 #include "localisation/error_text.h"
 #include "system/backups.h"
+#include "system/file_place.h"
 #include "system/read_file.h"
 #include "system/save_file.h"
 #include "text/blanks.h"
@@ -64,7 +65,7 @@ QString BackupFolder(const Program& program) {
 /// Keeps the old bytes of a file, once in a run. What comes in the way is told.
 void BackUp(Program& program, const QString& path, const QByteArray& bytes) {
     QStringList& done = program.state.backedUp;
-    const QString place = QFileInfo(path).canonicalFilePath();
+    const QString place = FilePlace(path);
     if (done.contains(place))
         return;
     if (const auto failure = KeepBackup(BackupFolder(program), path, bytes))
@@ -78,8 +79,7 @@ enum class Replacing : std::uint8_t { Goes, Updates, Cancelled };
 
 bool IsOpenedFile(const Program& program, const QString& path) {
     const auto& baseline = program.state.baseline;
-    return baseline &&
-           QFileInfo(path).canonicalFilePath() == QFileInfo(baseline->path).canonicalFilePath();
+    return baseline && FilePlace(path) == FilePlace(baseline->path);
 }
 
 /// Where Save would replace a file: asks whether it may, telling what would be lost. Keeps a copy
