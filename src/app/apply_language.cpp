@@ -52,7 +52,7 @@ void ApplyLanguage(Program& program, std::int16_t languageId) {
     SetCaptions(form, column);
     SetItems(form.ComboFaction, FactionRows, column);
     SetItems(form.ComboRange, RangeRows, column);
-    ShowStanding(program);
+    FollowResults(program);
 }
 
 void BuildCatalogues(Program& program) {

@@ -86,7 +86,7 @@ void Calculate(Program& program) {
     for (const ResultRow& row : ResultRows)
         if (evaluation.figures || IsPowerOfMethod(row))
             Show(form, state, row);
-    ShowStanding(program);
+    FollowResults(program);
     if (!evaluation.figures)
         return program.Warn(BoxIcon::Critical, state.messages.MsgZeroPower);
 

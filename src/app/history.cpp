@@ -128,7 +128,7 @@ void History::Go(const WindowState& state, std::uint32_t creature) {
         shown = creature;
     }
     SetWindowState(program, state);
-    ShowStanding(program);
+    FollowResults(program);
 }
 
 void History::ShowEntries() {

@@ -44,7 +44,7 @@ void ClearCreature(Program& program) {
         (form.*row.place.label).SetCaption(QString());
     form.txtNC.SetText({});
     form.txtIDC.SetText({});
-    ShowStanding(program);
+    FollowResults(program);
 }
 
 } // namespace Hesperin

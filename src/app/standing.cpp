@@ -19,24 +19,9 @@ QString Lacking(const Program& program, const StandingOf& creature) {
     return Fill(messages.StandingNoTier, {QString::number(creature.tier)});
 }
 
-} // namespace
-
-void LoadSurvey(Program& program, std::shared_ptr<const Survey> survey) {
-    program.survey = std::move(survey);
-    program.form.mnuTakeOverByScale.SetEnabled(program.survey != nullptr);
-    ShowStanding(program);
-}
-
-std::optional<std::size_t> RowOfShownFile(const Program& program) {
-    const auto& baseline = program.state.baseline;
-    return program.survey && baseline ? RowOfFile(*program.survey, baseline->path) : std::nullopt;
-}
-
 void ShowStanding(Program& program) {
     MainForm& form = program.form;
     const Messages& messages = program.state.messages;
-    if (program.resultsChanged)
-        program.resultsChanged();
     form.FrameStanding.SetVisible(program.survey != nullptr);
     if (!program.survey)
         return;
@@ -60,6 +45,25 @@ void ShowStanding(Program& program) {
         Fill(messages.StandingPlace,
              {QString::number(standing->place), QString::number(standing->others.size() + 1)}));
     form.StandingStrip.Show({standing->others, standing->deviation});
+}
+
+} // namespace
+
+void LoadSurvey(Program& program, std::shared_ptr<const Survey> survey) {
+    program.survey = std::move(survey);
+    program.form.mnuTakeOverByScale.SetEnabled(program.survey != nullptr);
+    FollowResults(program);
+}
+
+std::optional<std::size_t> RowOfShownFile(const Program& program) {
+    const auto& baseline = program.state.baseline;
+    return program.survey && baseline ? RowOfFile(*program.survey, baseline->path) : std::nullopt;
+}
+
+void FollowResults(Program& program) {
+    ShowStanding(program);
+    if (program.resultsChanged)
+        program.resultsChanged();
 }
 
 } // namespace Hesperin

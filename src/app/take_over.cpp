@@ -58,7 +58,7 @@ Failure TakeOverComputed(Program& program) {
     }
     for (std::size_t i = 0; i < texts.size(); ++i)
         (form.*NumberFields[FiguresInFile[i].field]).SetText(texts[i]);
-    ShowStanding(program);
+    FollowResults(program);
     return {};
 }
 

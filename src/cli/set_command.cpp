@@ -2,14 +2,13 @@
 
 #include "cli/edit_run.h"
 #include "cli/output.h"
+#include "cli/scale_option.h"
 #include "creature_files/creature_folder.h"
-#include "localisation/error_text.h"
 #include "localisation/languages.h"
 #include "reports/file_changer.h"
 #include "system/file_place.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QSet>
 
 #include <algorithm>
@@ -19,7 +18,6 @@ namespace Hesperin {
 namespace {
 
 const QString AnyWordOption = QStringLiteral("any-word");
-const QString ScaleOption = QStringLiteral("scale-of");
 
 void DescribeSet(QCommandLineParser& parser) {
     parser.setApplicationDescription(
@@ -104,16 +102,12 @@ int RunSet(const QCommandLineParser& parser) {
             return Misused(QStringLiteral("'%1' is no CHANGE; NAME=TEXT is expected").arg(text));
         changer.changes.push_back(*change);
     }
-    ModScale scale;
+    std::optional<ModScale> scale;
     if (parser.isSet(ScaleOption)) {
-        const QString mod = parser.value(ScaleOption);
-        if (!QFileInfo::exists(mod)) {
-            Error error{Error::What::FileMissing};
-            Complain(QStringLiteral("%1: %2").arg(mod, ErrorReason(MessagesIn(English), error)));
+        scale = ReadScale(parser.value(ScaleOption), MessagesIn(English));
+        if (!scale)
             return SomethingFailed;
-        }
-        scale = ScaleOf({mod});
-        changer.scale = &scale;
+        changer.scale = &*scale;
     }
     const FoundFiles found = CreatureFilesAt(paths);
     const QStringList files = WithoutTwins(found.files);

@@ -2,12 +2,11 @@
 
 #include "cli/language_option.h"
 #include "cli/output.h"
+#include "cli/scale_option.h"
 #include "localisation/error_text.h"
 #include "reports/json.h"
 #include "reports/solve_report.h"
 #include "text/nearest.h"
-
-#include <QFileInfo>
 
 #include <algorithm>
 #include <variant>
@@ -18,7 +17,6 @@ namespace {
 
 const QString JsonOfSolve = QStringLiteral("json");
 const QString VaryOption = QStringLiteral("vary");
-const QString ScaleOfSolve = QStringLiteral("scale-of");
 
 void DescribeSolve(QCommandLineParser& parser) {
     parser.setApplicationDescription(
@@ -41,7 +39,7 @@ void DescribeSolve(QCommandLineParser& parser) {
                       QStringLiteral("Parameters to try instead of all, parted by commas: Attack, "
                                      "Defence, MinDam, MaxDam, Health, Speed, Initiative, Tier."),
                       QStringLiteral("NAME,...")});
-    parser.addOption({ScaleOfSolve, QStringLiteral("Reckons in the figures of the mod there."),
+    parser.addOption({ScaleOption, QStringLiteral("Reckons in the figures of the mod there."),
                       QStringLiteral("PATH")});
     parser.addOption({JsonOfSolve, QStringLiteral("One JSON document instead of a table.")});
     AddLanguageOption(parser, QStringLiteral("Language of the table"));
@@ -87,22 +85,22 @@ int RunSolve(const QCommandLineParser& parser) {
     SolveWish wish{*goal};
     if (parser.isSet(VaryOption)) {
         const auto varied = ReadVaried(parser.value(VaryOption));
-        if (const QString* unknown = std::get_if<QString>(&varied))
+        if (const QString* unknown = std::get_if<QString>(&varied); unknown && unknown->isEmpty())
+            return Unusable(
+                QStringLiteral("--vary '%1': names with a comma between two are expected")
+                    .arg(parser.value(VaryOption)));
+        else if (unknown != nullptr)
             return Unusable(QStringLiteral("--vary: there is no parameter '%1'; the nearest is %2")
                                 .arg(*unknown, NearestTo(*unknown, ParameterNames())));
         wish.varied = std::get<std::vector<Parameter>>(varied);
     }
     const Messages messages = MessagesIn(*languageId);
-    ModScale scale;
-    if (parser.isSet(ScaleOfSolve)) {
-        const QString mod = parser.value(ScaleOfSolve);
-        if (!QFileInfo::exists(mod)) {
-            const Error error{Error::What::FileMissing};
-            Complain(QStringLiteral("%1: %2").arg(mod, ErrorReason(messages, error)));
+    std::optional<ModScale> scale;
+    if (parser.isSet(ScaleOption)) {
+        scale = ReadScale(parser.value(ScaleOption), messages);
+        if (!scale)
             return SomethingFailed;
-        }
-        scale = ScaleOf({mod});
-        wish.scale = &scale;
+        wish.scale = &*scale;
     }
     const auto report = SolveFile(arguments[0], wish);
     if (!report) {

@@ -1,7 +1,5 @@
 #include "reports/mod_scale.h"
 
-#include "reports/survey.h"
-
 #include <algorithm>
 
 namespace Hesperin {
@@ -39,12 +37,6 @@ std::vector<std::int16_t> ModScale::KnownTiers() const {
         if (CountOf(tier, Figure::Power) > 0)
             tiers.push_back(tier);
     return tiers;
-}
-
-ModScale ScaleOf(const QStringList& paths) {
-    SurveyWish wish;
-    wish.paths = paths;
-    return TakeSurvey(wish).scale;
 }
 
 } // namespace Hesperin

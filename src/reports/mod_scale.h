@@ -35,8 +35,4 @@ private:
         ratios;
 };
 
-/// The scale of the mod that these files, folders and archives are; what can't be read has no part
-/// in it.
-ModScale ScaleOf(const QStringList& paths);
-
 } // namespace Hesperin

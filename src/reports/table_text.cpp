@@ -18,7 +18,7 @@ struct TextColumn {
 };
 
 // clang-format off
-constexpr TextColumn TextColumns[] = {
+constexpr TextColumn ShownColumns[] = {
     {"File",      ReportWidth, Column::File,         false},
     {"Name",               18, Column::Name,         false},
     {"Town",               10, Column::Town,         false},
@@ -48,13 +48,13 @@ class RowTable {
 public:
     RowTable(const std::vector<SurveyRow>& all, const Messages& words)
         : rows(all), messages(words) {
-        for (std::size_t i = 0; i < std::size(TextColumns); ++i) {
-            widths[i] = static_cast<qsizetype>(std::string_view(TextColumns[i].heading).size());
+        for (std::size_t i = 0; i < std::size(ShownColumns); ++i) {
+            widths[i] = static_cast<qsizetype>(std::string_view(ShownColumns[i].heading).size());
             for (const SurveyRow& row : rows)
                 if (!row.problem)
                     widths[i] =
-                        std::max(widths[i], ShownCell(row, TextColumns[i], messages).size());
-            widths[i] = std::min(widths[i], TextColumns[i].widest);
+                        std::max(widths[i], ShownCell(row, ShownColumns[i], messages).size());
+            widths[i] = std::min(widths[i], ShownColumns[i].widest);
         }
         qsizetype others = 0;
         for (std::size_t i = 1; i < widths.size(); ++i)
@@ -75,9 +75,9 @@ private:
     template <typename CellOf>
     QString Line(CellOf cellOf) const {
         QString line;
-        for (std::size_t i = 0; i < std::size(TextColumns); ++i)
+        for (std::size_t i = 0; i < std::size(ShownColumns); ++i)
             line += (i > 0 ? QString(ColumnGap, u' ') : QString()) +
-                    Padded(cellOf(TextColumns[i]), widths[i], TextColumns[i]);
+                    Padded(cellOf(ShownColumns[i]), widths[i], ShownColumns[i]);
         while (line.endsWith(u' '))
             line.chop(1);
         return line + u'\n';
@@ -85,7 +85,7 @@ private:
 
     const std::vector<SurveyRow>& rows;
     const Messages& messages;
-    std::array<qsizetype, std::size(TextColumns)> widths{};
+    std::array<qsizetype, std::size(ShownColumns)> widths{};
 };
 
 QString TiersText(const ModScale& scale) {

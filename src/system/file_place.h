@@ -11,8 +11,8 @@ constexpr Qt::CaseSensitivity FileNameCase = Qt::CaseInsensitive;
 constexpr Qt::CaseSensitivity FileNameCase = Qt::CaseSensitive;
 #endif
 
-/// The same text for all paths that lead to one file, to be compared and not to be shown; empty when
-/// there is no such file.
+/// The same text for all paths that lead to one file, to be compared and not to be shown; empty
+/// when there is no such file.
 QString FilePlace(const QString& path);
 
 } // namespace Hesperin

@@ -35,6 +35,7 @@ TEST(Usage, HelpAndVersionGoToStandardOutputAndWrongUsageIsCode2) {
         {"solve a", nullptr},
         {"solve a Power=0", nullptr},
         {"solve a Power=1 --vary Atack", nullptr},
+        {"solve a Power=1 --vary Attack,", nullptr},
         {"solve a Power=1 --lang FR", nullptr},
         {"run", nullptr},
         {"run a b", nullptr},

@@ -239,13 +239,13 @@ Failure mnuUpdate_Click(Program& program) {
 void SetBaseline(Program& program, const QByteArray& bytes) {
     program.state.baseline = {program.form.ComDialog.FileName, bytes, TakeCreature(program)};
     program.form.mnuUpdate.SetEnabled(true);
-    ShowStanding(program);
+    FollowResults(program);
 }
 
 void ForgetBaseline(Program& program) {
     program.state.baseline.reset();
     program.form.mnuUpdate.SetEnabled(false);
-    ShowStanding(program);
+    FollowResults(program);
 }
 
 } // namespace Hesperin
