@@ -8,6 +8,7 @@
 #include "support/repetitions.h"
 
 #include <QDir>
+#include <QJsonArray>
 #include <QJsonDocument>
 
 #ifdef __GLIBC__
