@@ -56,7 +56,7 @@ void ClickIfUsable(CheckBox& box) {
         box.SetTicked(!box.Ticked());
 }
 
-void Act(Program& program, std::uint8_t kind, std::uint8_t which, std::uint8_t how) {
+void ActOnce(Program& program, std::uint8_t kind, std::uint8_t which, std::uint8_t how) {
     MainForm& form = program.form;
     switch (kind % 9) {
     case 0:
@@ -111,7 +111,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     FuzzProgram fuzzed;
     bool languageChanged = false;
     for (std::size_t at = 0; at + 2 < size && at < 3 * 400; at += 3) {
-        Act(fuzzed.program, data[at], data[at + 1], data[at + 2]);
+        ActOnce(fuzzed.program, data[at], data[at + 1], data[at + 2]);
         languageChanged =
             languageChanged || (data[at] % 9 == 5 && data[at + 1] % Entries.size() != 0);
         RequireInvariants(fuzzed.program);
