@@ -8,7 +8,7 @@ namespace Hesperin {
 Result<QByteArray> ReadFile(const QString& path, qint64 limit) {
     const Error tooLarge{Error::What::FileTooLarge, {}, QString::number(limit)};
     const QFileInfo place(path);
-    if (place.exists() && !place.isFile())
+    if (!place.isFile() && place.exists()) // in this order a file is looked up once
         return Error{place.isDir() ? Error::What::IsFolder : Error::What::NotAFile};
     const qint64 told = place.size(); // 0 for a file that doesn't tell
     if (told > limit)
