@@ -49,7 +49,7 @@ play_sessions() {
     mkdir -p "$programs"
     printf '#!/bin/sh\nexec wine "%s" "$@"\n' "$program" >"$programs/talmir-cli"
     chmod +x "$programs/talmir-cli"
-    for _ in 1 2 3; do # Wine itself fails at the end of one program in some hundred
+    for _ in 1 2 3; do # Wine itself was seen to fail at the end of a program
         TALMIR_PROGRAMS=$programs "$top/build/release/bin/test_cli" --gtest_brief=1 \
             --gtest_filter='*.GoesAsTold:*HelpWorkFromTheTop' && return
     done

@@ -85,13 +85,12 @@ int RunSolve(const QCommandLineParser& parser) {
     SolveWish wish{*goal};
     if (parser.isSet(VaryOption)) {
         const auto varied = ReadVaried(parser.value(VaryOption));
-        if (const QString* unknown = std::get_if<QString>(&varied); unknown && unknown->isEmpty())
+        if (const QString* unknown = std::get_if<QString>(&varied))
             return Unusable(
-                QStringLiteral("--vary '%1': names with a comma between two are expected")
-                    .arg(parser.value(VaryOption)));
-        else if (unknown != nullptr)
-            return Unusable(QStringLiteral("--vary: there is no parameter '%1'; the nearest is %2")
-                                .arg(*unknown, NearestTo(*unknown, ParameterNames())));
+                unknown->isEmpty()
+                    ? QStringLiteral("--vary: a name is expected before and behind each comma")
+                    : QStringLiteral("--vary: there is no parameter '%1'; the nearest is %2")
+                          .arg(*unknown, NearestTo(*unknown, ParameterNames())));
         wish.varied = std::get<std::vector<Parameter>>(varied);
     }
     const Messages messages = MessagesIn(*languageId);

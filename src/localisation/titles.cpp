@@ -10,12 +10,10 @@ namespace Hesperin {
 namespace {
 
 /// One figure of the title: what the open file has, and in braces what was computed.
-struct Pair {
-    Pair(std::int16_t ofFile, double figure) : inFile(std::int64_t{ofFile}), computed(figure) {}
-
-    WholeDigits inFile;
-    WholeDigits computed;
-};
+void AppendPair(QString& title, const QString& heading, std::int16_t inFile, double computed) {
+    title +=
+        heading % WholeDigits(std::int64_t{inFile}).View() % u'{' % WholeDigits(computed).View();
+}
 
 } // namespace
 
@@ -30,20 +28,20 @@ QString FileTitle(const QString& name, const FileFigures& file) {
 
 QString SummaryTitle(const Messages& messages, const QString& name, const FileFigures& file,
                      std::int16_t tier, const Powers& powers, const Figures& figures) {
-    const Pair power(file.FilePower, AverageOf(powers.PowerRolvane, powers.PowerHesperin));
-    const Pair experience(
-        file.FileExperience,
+    QString title;
+    title.reserve(160);
+    title += VersionRecord::TitleAndVersion() % messages.SumCreature % name;
+    AppendPair(title, messages.SumPower, file.FilePower,
+               AverageOf(powers.PowerRolvane, powers.PowerHesperin));
+    AppendPair(
+        title, messages.SumExperience, file.FileExperience,
         RoundTo16Bits(AverageOf(ExpHesperinOf(powers.PowerHesperin, tier), figures.ExpRolvane)));
-    const Pair growth(file.FileGrowth, AverageOf(figures.GrowthHesperin, figures.GrowthRolvane));
-    const Pair gold(file.FileGold, AverageOf(figures.CostHesperin, figures.CostRolvane));
-    const QChar brace(u'{');
-    return VersionRecord::TitleAndVersion() % messages.SumCreature % name %          //
-           messages.SumPower % power.inFile.View() % brace % power.computed.View() % //
-           messages.SumExperience % experience.inFile.View() % brace %
-           experience.computed.View() %                                                 //
-           messages.SumGrowth % growth.inFile.View() % brace % growth.computed.View() % //
-           messages.SumGold % gold.inFile.View() % brace % gold.computed.View() %
-           QStringView(u"}]");
+    AppendPair(title, messages.SumGrowth, file.FileGrowth,
+               AverageOf(figures.GrowthHesperin, figures.GrowthRolvane));
+    AppendPair(title, messages.SumGold, file.FileGold,
+               AverageOf(figures.CostHesperin, figures.CostRolvane));
+    title += u"}]";
+    return title;
 }
 
 QString SummaryTitleIn(const Messages& to, const Messages& from, QString title) {

@@ -1,5 +1,7 @@
 #include "reports/survey_view.h"
 
+#include "system/file_place.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QSet>
@@ -10,12 +12,6 @@
 namespace Hesperin {
 
 namespace {
-
-#ifdef Q_OS_WIN
-constexpr Qt::CaseSensitivity PathCase = Qt::CaseInsensitive;
-#else
-constexpr Qt::CaseSensitivity PathCase = Qt::CaseSensitive;
-#endif
 
 QString WholePath(const QString& path) {
     return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
@@ -121,8 +117,8 @@ void SurveyView::Gather() {
 std::optional<std::size_t> RowOfFile(const Survey& survey, const QString& path) {
     const QString name = QFileInfo(path).fileName();
     return FirstRow(survey, [&, whole = WholePath(path)](const SurveyRow& row) {
-        return !row.packed && row.place.endsWith(name, PathCase) &&
-               WholePath(row.place).compare(whole, PathCase) == 0;
+        return !row.packed && row.place.endsWith(name, FileNameCase) &&
+               WholePath(row.place).compare(whole, FileNameCase) == 0;
     });
 }
 

@@ -88,21 +88,12 @@ WholeDigits::WholeDigits(double whole)
 WholeDigits::WholeDigits(std::int64_t whole) {
     const auto bits = static_cast<std::uint64_t>(whole);
     std::uint64_t rest = whole < 0 ? 0 - bits : bits;
-    char16_t* begin = units.data() + Room;
-    const auto put = [&begin](std::uint64_t digit) {
-        *--begin = static_cast<char16_t>(u'0' + digit);
-    };
-    for (; rest >= 100; rest /= 100) { // two at a time: each division waits for the one before
-        const std::uint64_t two = rest % 100;
-        put(two % 10);
-        put(two / 10);
-    }
-    put(rest % 10);
-    if (rest >= 10)
-        put(rest / 10);
+    do {
+        units[static_cast<std::size_t>(--first)] = static_cast<char16_t>(u'0' + rest % 10);
+        rest /= 10;
+    } while (rest != 0);
     if (whole < 0)
-        *--begin = u'-';
-    first = static_cast<int>(begin - units.data());
+        units[static_cast<std::size_t>(--first)] = u'-';
 }
 
 QString FloatText(float value) {

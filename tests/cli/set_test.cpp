@@ -2,7 +2,6 @@
 #include "cli/run_cli.h"
 #include "reports/line_diff.h"
 #include "support/cases_file.h"
-#include "support/repetitions.h"
 
 #include <QRegularExpression>
 #include <QThread>
@@ -89,8 +88,7 @@ TEST(Set, AKilledRunLeavesEachFileOldOrNew) {
     ASSERT_NE(before, after);
     std::mt19937 random(7);
     int mixed = 0;
-    constexpr int kills = Repetitions(20);
-    for (int kill = 0; kill < kills; ++kill) {
+    for (int kill = 0; kill < 20; ++kill) {
         for (int i = 0; i < 60; ++i)
             WriteFile(folder.filePath(QString::number(i) + ".xdb"), before);
         QProcess process;
@@ -111,7 +109,7 @@ TEST(Set, AKilledRunLeavesEachFileOldOrNew) {
         }
         mixed += changed > 0 && changed < 60 ? 1 : 0;
     }
-    EXPECT_GT(mixed, kills / 6) << "most were killed before or behind the work";
+    EXPECT_GT(mixed, 3) << "most were killed before or behind the work";
 }
 
 } // namespace

@@ -49,7 +49,7 @@ struct Opener {
 };
 
 TEST(DamagedFiles, AreOpenedInOrderOrRefusedWithNothingChanged) {
-    constexpr unsigned damagesOfEach = Repetitions(2000U);
+    constexpr unsigned damagesOfEach = Repetitions(2500U);
     const QTemporaryDir folder;
     const QString path = folder.filePath("a.xdb");
     const QDir samples(TALMIR_SOURCE_DIR "/samples");

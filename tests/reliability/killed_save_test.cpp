@@ -1,6 +1,5 @@
 // The process may end at any moment of a save, and the disk may fill up in it.
 #include "cli/run_cli.h"
-#include "support/repetitions.h"
 
 #include <gtest/gtest.h>
 
@@ -39,7 +38,7 @@ struct KilledSave : testing::Test {
 };
 
 TEST_F(KilledSave, TheFileIsTheOldOneOrTheWholeNewOne) {
-    constexpr int kills = Repetitions(100);
+    constexpr int kills = 100;
     QList<QByteArray> whole{"old"}; // then after an odd and after an even number of saves
     QElapsedTimer clock;
     clock.start();
