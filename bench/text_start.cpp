@@ -1,6 +1,5 @@
-// An otherwise empty window that writes what the first picture has most of, the captions and what
-// stands in fields and lists, in their faces, with no control at all: what any window that shows
-// these texts pays. Run by the start benchmark.
+// An otherwise empty window that writes the texts of the first picture in their faces, with no
+// control at all: what any window that shows these texts pays. Run by the start benchmark.
 #include "app/handlers/form_load.h"
 #include "window/early_start.h"
 #include "window/fonts.h"
@@ -22,13 +21,19 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
+        for (const MenuEntry* menu :
+             {&form.mnuFile, &form.mnuOptions, &form.mnuInfo, &form.mnuEdit, &form.mnuBalance})
+            Write(painter, QApplication::font(), menu->Caption());
         for (int page = 0; page < TabControl::PageCount; ++page)
-            Write(painter, QApplication::font(), form.Tablus.Tab(page).Caption());
+            if (form.Tablus.Tab(page).Visible())
+                Write(painter, QApplication::font(), form.Tablus.Tab(page).Caption());
         for (const Control* control : form.Controls())
-            if (!control->Visible())
+            if (!InPicture(*control))
                 continue;
             else if (const auto* frame = dynamic_cast<const Frame*>(control))
                 Write(painter, CaptionFont(), frame->Caption());
+            else if (const auto* label = dynamic_cast<const Label*>(control))
+                Write(painter, IsSmall(*label) ? CaptionFont() : HeadingFont(), label->Caption());
             else if (const auto* list = dynamic_cast<const ComboBox*>(control))
                 Write(painter, HeadingFont(), list->Text());
             else if (const auto* field = dynamic_cast<const TextField*>(control))
@@ -38,6 +43,17 @@ protected:
     }
 
 private:
+    static bool InPicture(const Control& control) {
+        for (const Control* part = &control; part != nullptr; part = part->Parent())
+            if (!part->Visible())
+                return false;
+        return true;
+    }
+
+    bool IsSmall(const Label& label) const {
+        return &label == &form.lblMin || &label == &form.lblMax;
+    }
+
     void Write(QPainter& painter, const QFont& face, const QString& text) {
         constexpr int step = 12;
         y = (y + step) % height();

@@ -7,16 +7,6 @@
 
 namespace Hesperin {
 
-namespace {
-
-/// One figure of the title: what the open file has, and in braces what was computed.
-void AppendPair(QString& title, const QString& heading, std::int16_t inFile, double computed) {
-    title +=
-        heading % WholeDigits(std::int64_t{inFile}).View() % u'{' % WholeDigits(computed).View();
-}
-
-} // namespace
-
 QString FileTitle(const QString& name, const FileFigures& file) {
     return VersionRecord::TitleAndVersion() + QLatin1String(" [Creature: ") + name +
            QStringLiteral(", Power=%1, Experience=%2, Growth=%3, Cost=%4]")
@@ -28,20 +18,17 @@ QString FileTitle(const QString& name, const FileFigures& file) {
 
 QString SummaryTitle(const Messages& messages, const QString& name, const FileFigures& file,
                      std::int16_t tier, const Powers& powers, const Figures& figures) {
-    QString title;
-    title.reserve(160);
-    title += VersionRecord::TitleAndVersion() % messages.SumCreature % name;
-    AppendPair(title, messages.SumPower, file.FilePower,
-               AverageOf(powers.PowerRolvane, powers.PowerHesperin));
-    AppendPair(
-        title, messages.SumExperience, file.FileExperience,
-        RoundTo16Bits(AverageOf(ExpHesperinOf(powers.PowerHesperin, tier), figures.ExpRolvane)));
-    AppendPair(title, messages.SumGrowth, file.FileGrowth,
-               AverageOf(figures.GrowthHesperin, figures.GrowthRolvane));
-    AppendPair(title, messages.SumGold, file.FileGold,
-               AverageOf(figures.CostHesperin, figures.CostRolvane));
-    title += u"}]";
-    return title;
+    const double power = AverageOf(powers.PowerRolvane, powers.PowerHesperin);
+    const double experience =
+        AverageOf(ExpHesperinOf(powers.PowerHesperin, tier), figures.ExpRolvane);
+    const double growth = AverageOf(figures.GrowthHesperin, figures.GrowthRolvane);
+    const double gold = AverageOf(figures.CostHesperin, figures.CostRolvane);
+    using Digits = WholeDigits;
+    return VersionRecord::TitleAndVersion() % messages.SumCreature % name % messages.SumPower %
+           Digits(file.FilePower).View() % u'{' % Digits(power).View() % messages.SumExperience %
+           Digits(file.FileExperience).View() % u'{' % Digits(RoundTo16Bits(experience)).View() %
+           messages.SumGrowth % Digits(file.FileGrowth).View() % u'{' % Digits(growth).View() %
+           messages.SumGold % Digits(file.FileGold).View() % u'{' % Digits(gold).View() % u"}]";
 }
 
 QString SummaryTitleIn(const Messages& to, const Messages& from, QString title) {

@@ -164,7 +164,9 @@ float UpgradeFactorOf(QStringView entry) {
 }
 
 float ProductOf(const AbilityValues& values) {
-    return ProductWith(Unrecorded{}, values, [](std::size_t) { return true; });
+    return ProductWith(Unrecorded{}, values, [&values](std::size_t ability) {
+        return values[ability] != 1.0F; // nearly all are 1: no product waits for the one before
+    });
 }
 
 } // namespace Hesperin

@@ -73,9 +73,10 @@ bool FitsIn16Bits(double value) {
 
 std::int16_t RoundTo16Bits(double value) {
     using Limits = std::numeric_limits<std::int16_t>;
-    if (!FitsIn16Bits(value))
-        return value < 0 ? Limits::min() : Limits::max();
-    return static_cast<std::int16_t>(std::nearbyint(value));
+    const double rounded = std::nearbyint(value);
+    if (rounded < Limits::min())
+        return Limits::min();
+    return rounded <= Limits::max() ? static_cast<std::int16_t>(rounded) : Limits::max();
 }
 
 QString WholeText(double whole) {

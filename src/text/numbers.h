@@ -32,6 +32,7 @@ class WholeDigits {
 public:
     explicit WholeDigits(std::int64_t whole);
     explicit WholeDigits(double whole);
+    explicit WholeDigits(std::int16_t whole) : WholeDigits(std::int64_t{whole}) {}
 
     QStringView View() const { return {units.data() + first, Room - first}; }
 
