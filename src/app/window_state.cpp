@@ -73,7 +73,7 @@ void SetWindowState(Program& program, const WindowState& state) {
         form.cmdCalc.SetToolTip(state.calculateToolTip);
         return;
     }
-    const Messages then = MessagesIn(state.languageId);
+    const Messages& then = MessagesIn(state.languageId);
     form.frmMain.SetCaption(SummaryTitleIn(current.messages, then, state.title));
     QString toolTip = state.calculateToolTip;
     if (!then.MsgAverageValue.isEmpty() && toolTip.startsWith(then.MsgAverageValue))

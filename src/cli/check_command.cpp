@@ -121,7 +121,7 @@ int RunCheck(const QCommandLineParser& parser) {
     wish.game = parser.values(GameOption) + paths.mid(count);
     wish.findings = true;
     const Survey survey = TakeSurvey(wish);
-    const Messages messages = MessagesIn(English);
+    const Messages& messages = MessagesIn(English);
     if (parser.isSet(CheckAsJson))
         PrintJson(survey);
     else

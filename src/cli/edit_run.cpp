@@ -124,7 +124,7 @@ private:
     const bool write;
     const bool diff;
     const bool json;
-    const Messages messages = MessagesIn(English);
+    const Messages& messages = MessagesIn(English);
     QSet<QString> folders; ///< in which files were written
     std::size_t changedFiles = 0;
     std::size_t changes = 0;

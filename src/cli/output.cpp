@@ -34,7 +34,7 @@ void Complain(const QString& line) {
 }
 
 void Complain(const std::vector<RefusedPlace>& places) {
-    const Messages messages = MessagesIn(English);
+    const Messages& messages = MessagesIn(English);
     for (const RefusedPlace& place : places)
         Complain(QStringLiteral("%1: %2").arg(place.path, ErrorReason(messages, place.error)));
 }

@@ -93,7 +93,7 @@ int RunSolve(const QCommandLineParser& parser) {
                           .arg(*unknown, NearestTo(*unknown, ParameterNames())));
         wish.varied = std::get<std::vector<Parameter>>(varied);
     }
-    const Messages messages = MessagesIn(*languageId);
+    const Messages& messages = MessagesIn(*languageId);
     std::optional<ModScale> scale;
     if (parser.isSet(ScaleOption)) {
         scale = ReadScale(parser.value(ScaleOption), messages);

@@ -173,7 +173,7 @@ int RunTable(const QCommandLineParser& parser) {
         Complain(QLatin1String("talmir-cli table: ") + wishes.wrong);
         return WrongUsage;
     }
-    const Messages messages = MessagesIn(English);
+    const Messages& messages = MessagesIn(English);
     Survey survey = TakeSurveyTold(wishes.survey);
     TableSides sides{AllRefused(survey), std::nullopt};
     bool allRead = sides.refused.empty();

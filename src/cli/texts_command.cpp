@@ -196,7 +196,7 @@ int RunTexts(const QCommandLineParser& parser) {
             "talmir-cli texts: at least one FOLDER or ARCHIVE is expected, and --lang EN or RU"));
         return WrongUsage;
     }
-    const Messages messages = MessagesIn(*language);
+    const Messages& messages = MessagesIn(*language);
     TextSources sources;
     bool allRead = true;
     for (const QString& path : paths)

@@ -1,5 +1,8 @@
 #include "localisation/messages.h"
 
+#include <functional>
+#include <mutex>
+
 namespace Hesperin {
 
 namespace {
@@ -269,10 +272,15 @@ void SetMessages(Messages& messages, std::uint8_t languageId) {
             messages.*row.message = QString::fromUtf16(text);
 }
 
-Messages MessagesIn(std::uint8_t languageId) {
-    Messages messages;
-    SetMessages(messages, languageId);
-    return messages;
+const Messages& MessagesIn(std::uint8_t languageId) {
+    struct Made {
+        std::once_flag once;
+        Messages messages;
+    };
+    static std::array<Made, std::tuple_size_v<Texts>> languages;
+    Made& made = languages.at(languageId - 1U);
+    std::call_once(made.once, SetMessages, std::ref(made.messages), languageId);
+    return made.messages;
 }
 
 } // namespace Hesperin

@@ -238,7 +238,7 @@ extern const std::span<const MessageRow> MessageRows;
 /// German.
 void SetMessages(Messages& messages, std::uint8_t languageId);
 
-/// The messages of a language and nothing else.
-Messages MessagesIn(std::uint8_t languageId);
+/// The messages of a language and nothing else; made when they are first asked for, by any thread.
+const Messages& MessagesIn(std::uint8_t languageId);
 
 } // namespace Hesperin

@@ -143,7 +143,7 @@ void TellReading(CalcReport& report, const Messages& messages, std::uint8_t lang
 } // namespace
 
 CalcReport CalculateFile(const QString& path, std::uint8_t languageId) {
-    const Messages messages = MessagesIn(languageId);
+    const Messages& messages = MessagesIn(languageId);
     CalcReport report{path, {}, {}, {}, {}, {}, {}};
     const auto document = LoadCreatureDocument(path);
     if (!document) {

@@ -90,7 +90,7 @@ QString FindingText(const Messages& messages, const Finding& finding) {
 }
 
 QJsonObject FindingJson(const Finding& finding) {
-    static const Messages english = MessagesIn(English);
+    const Messages& english = MessagesIn(English);
     return {{QStringLiteral("rule"), RuleName(finding)},
             {QStringLiteral("severity"), SeverityName(finding.severity)},
             {QStringLiteral("file"), finding.file},

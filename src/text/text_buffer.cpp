@@ -5,6 +5,8 @@ namespace Hesperin {
 qsizetype TextBuffer::Search(QStringView needle, Qt::CaseSensitivity sensitivity) const {
     constexpr qsizetype worthAnIndex = 256; // the excerpts of 64 and 128 characters aren't
     constexpr qsizetype shortestNeedle = 4;
+    if (text.size() < worthAnIndex && sensitivity == Qt::CaseInsensitive)
+        return TextIndex::FindInShort(text, needle);
     if (text.size() < worthAnIndex || text.size() > TextIndex::LongestText ||
         needle.size() < shortestNeedle)
         return QStringView(text).indexOf(needle, 0, sensitivity);

@@ -17,6 +17,12 @@ char16_t Fold(char16_t unit) {
 
 } // namespace
 
+qsizetype TextIndex::FindInShort(QStringView text, QStringView needle) {
+    const auto isSame = [](QChar a, QChar b) { return Fold(a.unicode()) == Fold(b.unicode()); };
+    const auto found = std::search(text.begin(), text.end(), needle.begin(), needle.end(), isSame);
+    return found == text.end() && !needle.isEmpty() ? -1 : found - text.begin();
+}
+
 std::size_t TextIndex::Slot(const char16_t* group) {
     std::uint64_t units = 0;
     static_assert(sizeof units == GroupLength * sizeof(char16_t));

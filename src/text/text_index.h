@@ -14,6 +14,10 @@ namespace Hesperin {
 /// nanoseconds instead of a pass over the text.
 class TextIndex {
 public:
+    /// 0-based position of the first occurrence of `needle` in a short text, letter case not
+    /// counting, or -1. The toolkit's own search is made for long ones.
+    static qsizetype FindInShort(QStringView text, QStringView needle);
+
     /// Positions are held in 16 bits.
     static constexpr qsizetype LongestText = 32767;
 

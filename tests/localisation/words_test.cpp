@@ -44,7 +44,7 @@ TEST(Words, OfCorrectionsAndNotesAreInBothLanguages) {
     const QStringList names =
         QString("Mana Shots Attack Defence Health MinDam MaxDam DamageOrder Speed Initiative Tier").split(' ');
     const auto textIn = [&](std::uint8_t language, const QString& act) {
-        const Messages messages = MessagesIn(language);
+        const Messages& messages = MessagesIn(language);
         const auto number = [&](int part) { return static_cast<std::int16_t>(act.section(' ', part, part).toInt()); };
         if (act.startsWith("tier"))
             return TierAdviceText(messages, number(1), number(2));

@@ -34,7 +34,7 @@ TEST(CheckFile, FindsWhatIsWrong) {
     EXPECT_TRUE(findingsIn(archer).empty());
     ExpectCases("reports/check_file.txt", [&](const QString& act) {
         const bool russian = act.startsWith("RU ");
-        const Messages messages = MessagesIn(russian ? Russian : English);
+        const Messages& messages = MessagesIn(russian ? Russian : English);
         QStringList lines;
         for (const Finding& finding : findingsIn(Spoiled(archer, act.mid(russian ? 3 : 0))))
             lines.append(

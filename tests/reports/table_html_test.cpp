@@ -85,7 +85,7 @@ TEST(TableHtml, ShowsEveryTextAsItStandsAndRunsNone) {
     const auto columns = static_cast<qsizetype>(Column::Count);
 
     for (const Language language : {English, Russian}) {
-        const Messages messages = MessagesIn(language);
+        const Messages& messages = MessagesIn(language);
         const QByteArray html = TableHtml(survey, messages);
         EXPECT_EQ(html.count("<script"), 1);
         EXPECT_EQ(html.count("<style"), 1);
