@@ -177,8 +177,9 @@ private:
 
     void ReadSpells() {
         constexpr qsizetype excerptLength = 64;
+        const auto& tokens = SpellTokens();
         for (std::size_t i = 1; i <= SpellCount; ++i) {
-            if (FindToken(positions, text, SpellTokens()[i]) == 0)
+            if (FindToken(positions, text, tokens[i]) == 0)
                 continue;
             result.spellExcerpt = text.Text().mid(positions.TokenPosition, excerptLength);
             creature.Spells[i] = {true, Mastery(result.spellExcerpt, MasteryInSpellWindow)};
@@ -187,8 +188,9 @@ private:
 
     void ReadSpecabilities() {
         constexpr qsizetype excerptLength = 128;
+        const auto& tokens = SpecabilityTokens();
         for (std::size_t j = 1; j <= SpecabilityCount; ++j) {
-            if (FindSpecabilityToken(positions, text, SpecabilityTokens()[j]) == 0)
+            if (FindSpecabilityToken(positions, text, tokens[j]) == 0)
                 continue;
             result.specabilityExcerpt =
                 text.Text().mid(positions.SpecabilityTokenPosition, excerptLength);
@@ -199,8 +201,9 @@ private:
 
     /// Nothing is unticked here: what an earlier element ticked stays.
     void ReadAbilities() {
+        const auto& tokens = AbilityTokens();
         for (int i = 1; i <= Ability::Count; ++i)
-            if (FindToken(positions, text, AbilityTokens()[static_cast<std::size_t>(i)]) == 1)
+            if (FindToken(positions, text, tokens[static_cast<std::size_t>(i)]) == 1)
                 creature.Set(i, true);
     }
 

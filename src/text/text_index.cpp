@@ -18,9 +18,15 @@ char16_t Fold(char16_t unit) {
 } // namespace
 
 qsizetype TextIndex::FindInShort(QStringView text, QStringView needle) {
+    if (needle.isEmpty())
+        return 0;
     const auto isSame = [](QChar a, QChar b) { return Fold(a.unicode()) == Fold(b.unicode()); };
-    const auto found = std::search(text.begin(), text.end(), needle.begin(), needle.end(), isSame);
-    return found == text.end() && !needle.isEmpty() ? -1 : found - text.begin();
+    const char16_t first = Fold(needle.front().unicode());
+    for (qsizetype at = 0; at <= text.size() - needle.size(); ++at)
+        if (Fold(text[at].unicode()) == first &&
+            std::equal(needle.begin(), needle.end(), text.begin() + at, isSame))
+            return at;
+    return -1;
 }
 
 std::size_t TextIndex::Slot(const char16_t* group) {
