@@ -64,10 +64,11 @@ private:
     Changed ChangeOne(qsizetype at) const {
         Changed changed{tryOne(at), {}};
         ChangeReport& report = changed.report;
-        if (!write || report.error || report.changes.empty())
+        if (!write || !report.errors.empty() || report.changes.empty())
             return changed;
         SaveOutcome outcome = SaveFileOfMany(report.file, report.after);
-        report.error = outcome.failure;
+        if (outcome.failure)
+            report.errors = {*outcome.failure};
         report.written = !outcome.failure;
         changed.notes = std::move(outcome.notes);
         return changed;
@@ -81,22 +82,26 @@ private:
             Complain(QStringLiteral("%1: %2").arg(file, NotesText(messages, changed.notes)));
     }
 
+    void ComplainOf(const QString& file, const std::vector<Error>& errors) const {
+        for (const Error& error : errors)
+            Complain(QStringLiteral("%1: %2").arg(file, ErrorReason(messages, error)));
+    }
+
     void Tell(const ChangeReport& report) {
-        if (report.error) {
+        const bool isDone = report.errors.empty();
+        if (!isDone) {
             ++failed;
-            if (!json)
-                Complain(QStringLiteral("%1: %2").arg(report.file,
-                                                      ErrorReason(messages, *report.error)));
         } else if (!report.changes.empty()) {
             ++changedFiles;
             changes += report.changes.size();
         }
+        if (!json)
+            ComplainOf(report.file, report.errors);
         if (json || diff) // which have no place for them
-            for (const Error& note : report.notes)
-                Complain(QStringLiteral("%1: %2").arg(report.file, ErrorReason(messages, note)));
+            ComplainOf(report.file, report.notes);
         if (json)
             return PrintLine(JsonLine(ChangeJson(messages, report)));
-        if (report.error || report.changes.empty())
+        if (!isDone || report.changes.empty())
             return;
         if (diff)
             PrintBytes(ChangeDiff(report));

@@ -14,8 +14,8 @@ namespace {
 constexpr std::pair<QStringView, Method> MethodNames[] = {
     {u"average", Method::Average}, {u"rolvane", Method::Rolvane}, {u"hesperin", Method::Hesperin}};
 
-Error Refusal(Error::What what, const Change& change, const QString& nearest = {}) {
-    Error error{what, change.operand, nearest};
+Error Refusal(Error::What what, const Change& change, const QString& expected = {}) {
+    Error error{what, change.operand, expected};
     error.element = change.name;
     return error;
 }
@@ -60,7 +60,7 @@ Failure ApplyToList(const Change& change, bool anyWord, EditedFile& file) {
     if (change.does == Change::Does::Subtract)
         return file.RemoveItem(change.name, item);
     if (change.does != Change::Does::Add)
-        return Error{Error::What::HoldsElements, change.name};
+        return Error{Error::What::IsAList, change.name};
     if (!anyWord)
         if (auto failure = CheckItem(change, item))
             return failure;
@@ -71,7 +71,7 @@ Failure ApplyToList(const Change& change, bool anyWord, EditedFile& file) {
 
 Failure CheckContent(const Change& change, const Element& format, std::vector<Error>& notes) {
     if (TakesNumber(format) && !ReadWhole(change.operand))
-        return Refusal(Error::What::NoWholeNumber, change);
+        return NoContentForNumber(change.operand, change.name);
     if (TakesFlag(format) && change.operand != QLatin1String("true") &&
         change.operand != QLatin1String("false"))
         return Refusal(Error::What::NoFlag, change);
@@ -92,19 +92,22 @@ Failure Reckon(const Change& change, EditedFile& file) {
     const auto content = file.Content(change.name);
     if (!content)
         return content.Why();
-    const auto whole = ReadWhole(content->value_or(QString()));
+    const QString inFile = content->value_or(QString());
+    if (inFile.isEmpty())
+        return Refusal(Error::What::NothingToReckon, change);
+    const auto whole = ReadWhole(inFile);
+    if (!whole)
+        return NoContentForNumber(inFile, change.name);
     const auto number = ReadDecimal(change.operand);
-    if (!whole || !number) {
-        Error error = Refusal(Error::What::NoWholeNumber, change);
-        if (!whole)
-            error.value = content->value_or(QString());
-        return error;
-    }
+    if (!number)
+        return IsWhole(change.operand)
+                   ? Refusal(Error::What::TooManyDigits, change, QString::number(MostDigits))
+                   : Refusal(Error::What::NoNumber, change);
     const auto result = change.does == Change::Does::Multiply
                             ? Product(*whole, *number)
                             : Sum(*whole, *number, change.does == Change::Does::Add ? 1 : -1);
     if (!result)
-        return Refusal(Error::What::NoWholeNumber, change);
+        return Refusal(Error::What::ResultTooLong, change, QString::number(MostDigitsOfWhole));
     if (*result < 0) {
         Error error = Refusal(Error::What::BelowZero, change);
         error.value = QString::number(*result);
@@ -151,6 +154,16 @@ Failure Apply(const Change& change, bool anyWord, EditedFile& file, std::vector<
         if (auto failure = CheckContent(change, *format, notes))
             return failure;
     return file.Set(change.name, change.operand);
+}
+
+Error NoContentForNumber(const QString& text, const QString& element) {
+    Error error{Error::What::NoWholeNumber, text};
+    error.element = element;
+    if (IsWhole(text)) {
+        error.what = Error::What::TooManyDigits;
+        error.expected = QString::number(MostDigitsOfWhole);
+    }
+    return error;
 }
 
 bool TakesNumber(const Element& element) {

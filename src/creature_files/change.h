@@ -31,6 +31,9 @@ std::optional<ComputedChange> ReadComputed(const Change& change);
 /// that was made (a town that the game doesn't know) in `notes`.
 Failure Apply(const Change& change, bool anyWord, EditedFile& file, std::vector<Error>& notes);
 
+/// Why `text` can't stand in the number element `element`, which takes what ReadWhole reads.
+Error NoContentForNumber(const QString& text, const QString& element);
+
 /// Whether an element of the format takes a whole number, or true or false.
 bool TakesNumber(const Element& element);
 bool TakesFlag(const Element& element);

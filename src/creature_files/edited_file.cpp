@@ -163,7 +163,8 @@ Result<EditedFile::Target> EditedFile::Find(const QString& name) const {
 Result<QString> EditedFile::ValueOf(int element) const {
     const ElementPlace& place = elements[static_cast<std::size_t>(element)];
     if (place.children > 0)
-        return Error{Error::What::HoldsElements, PathOf(element)};
+        return Error{IsList(PathOf(element)) ? Error::What::IsAList : Error::What::HoldsElements,
+                     PathOf(element)};
     const QStringView text = document.Text();
     QString value;
     for (const ContentPiece& piece : PiecesOf(text, place.content)) {
@@ -228,7 +229,7 @@ Failure EditedFile::Set(const QString& name, const QString& text) {
         return Error{Error::What::CantBeSpelled, text};
     if (target->element == None) {
         if (IsList(target->path))
-            return Error{Error::What::HoldsElements, target->path};
+            return Error{Error::What::IsAList, target->path};
         missing[target->format] = text;
     } else {
         const auto inFile = ValueOf(*target);

@@ -84,11 +84,8 @@ private:
         const QString after = ContentFor(element, now);
         if (before == after)
             return NoteIfOther(element, after);
-        if (TakesNumber(element) && !ReadWhole(after)) {
-            Error error{Error::What::NoWholeNumber, after};
-            error.element = PathOf(element);
-            return error;
-        }
+        if (TakesNumber(element) && !ReadWhole(after))
+            return NoContentForNumber(after, PathOf(element));
         return Set(PathOf(element), after);
     }
 

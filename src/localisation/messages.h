@@ -70,8 +70,13 @@ struct Messages {
     QString MsgElementUnknown;
     QString MsgElementTwice;
     QString MsgHoldsElements;
+    QString MsgIsAList;
     QString MsgFromEntity;
     QString MsgNoWholeNumber;
+    QString MsgNothingToReckon;
+    QString MsgNoNumber;
+    QString MsgTooManyDigits;
+    QString MsgResultTooLong;
     QString MsgBelowZero;
     QString MsgNoFlag;
     QString MsgWordUnknown;

@@ -49,11 +49,14 @@ QJsonObject ChangeJson(const Messages& messages, const ChangeReport& report) {
         changes.append(QJsonObject{
             {"element", change.element}, {"old", orNull(change.old)}, {"new", orNull(change.now)}});
     QJsonObject object{{"file", report.file},
-                       {"ok", !report.error},
+                       {"ok", report.errors.empty()},
                        {"changes", changes},
                        {"written", report.written}};
-    if (report.error)
-        object.insert(QStringLiteral("error"), ErrorReason(messages, *report.error));
+    QStringList reasons;
+    for (const Error& error : report.errors)
+        reasons.append(ErrorReason(messages, error));
+    if (!reasons.isEmpty())
+        object.insert(QStringLiteral("error"), reasons.join(u' '));
     return object;
 }
 

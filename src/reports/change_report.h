@@ -10,11 +10,11 @@ namespace Hesperin {
 /// What an edit in place does, or has done, to one file.
 struct ChangeReport {
     QString file;
-    Failure error; ///< why nothing is changed
-    std::vector<FileChange> changes;
-    std::vector<Error> notes;
-    QByteArray before;
-    QByteArray after; ///< empty when nothing changes
+    std::vector<Error> errors{}; ///< why nothing is changed
+    std::vector<FileChange> changes{};
+    std::vector<Error> notes{};
+    QByteArray before{};
+    QByteArray after{}; ///< empty when nothing changes
     bool written = false;
 };
 

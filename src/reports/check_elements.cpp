@@ -28,11 +28,12 @@ constexpr QStringView FiguresAboveZero[] = {u"Power", u"WeeklyGrowth", u"Cost/Go
 
 void CheckNumber(const FileElement& element, FindingList& findings) {
     const auto number = ReadWhole(element.text);
+    const ParameterRange* range = RangeOf(element.path);
     if (!number) {
-        findings.Add(Rule::Number, element);
+        const bool isTooLong = range != nullptr && IsWhole(element.text);
+        findings.Add(isTooLong ? Rule::NumberRange : Rule::Number, element);
         return;
     }
-    const ParameterRange* range = RangeOf(element.path);
     if (range != nullptr && (*number < range->lowest || *number > range->highest))
         findings.Add(Rule::NumberRange, element);
     const bool isFigure = std::find(std::begin(FiguresAboveZero), std::end(FiguresAboveZero),

@@ -71,22 +71,22 @@ Failure ApplyAll(const FileChanger& changer, EditedFile& file, std::vector<Error
 } // namespace
 
 ChangeReport TryEdit(const QString& path, const FileEditing& edit) {
-    ChangeReport report{path, {}, {}, {}, {}, {}, false};
+    ChangeReport report{.file = path};
     const auto bytes = ReadFile(path, LargestCreatureFile);
     auto file = bytes ? EditedFile::Open(*bytes) : Result<EditedFile>(bytes.Why());
     if (!file) {
-        report.error = file.Why();
+        report.errors = {file.Why()};
         return report;
     }
-    report.error = edit(*file, report.notes);
-    if (report.error)
+    edit(*file, report);
+    if (!report.errors.empty())
         return report;
     std::vector<FileChange> made = file->Changes();
     if (made.empty())
         return report;
     const auto edited = file->Write();
     if (!edited) {
-        report.error = edited.Why();
+        report.errors = {edited.Why()};
         return report;
     }
     report.changes = std::move(made);
@@ -96,8 +96,9 @@ ChangeReport TryEdit(const QString& path, const FileEditing& edit) {
 }
 
 ChangeReport FileChanger::Try(const QString& path) const {
-    return TryEdit(path, [this](EditedFile& file, std::vector<Error>& notes) {
-        return ApplyAll(*this, file, notes);
+    return TryEdit(path, [this](EditedFile& file, ChangeReport& report) {
+        if (auto failure = ApplyAll(*this, file, report.notes))
+            report.errors = {*std::move(failure)};
     });
 }
 

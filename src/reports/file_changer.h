@@ -8,8 +8,9 @@
 
 namespace Hesperin {
 
-/// Makes changes in a file; what is told of those that were made goes to `notes`.
-using FileEditing = std::function<Failure(EditedFile& file, std::vector<Error>& notes)>;
+/// Makes changes in a file; why one can't be made, and what is told of those that were, goes to the
+/// report.
+using FileEditing = std::function<void(EditedFile& file, ChangeReport& report)>;
 
 /// What `edit` does to the file `path`; nothing is written.
 ChangeReport TryEdit(const QString& path, const FileEditing& edit);

@@ -134,7 +134,7 @@ Failure ApplyCell(const TableCell& cell, const QString& now, EditedFile& file,
     if (TakesNumber(element)) {
         const auto number = NumberIn(cell.text);
         if (!number || number->places > 0)
-            return Error{Error::What::NoWholeNumber, cell.text};
+            return NoContentForNumber(cell.text, PathOf(element));
         change.operand = QString::number(number->units);
     } else {
         change.operand = TakesFlag(element) ? FlagIn(cell.text) : cell.text.toUpper();

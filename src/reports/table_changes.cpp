@@ -224,28 +224,27 @@ Result<TableChanges> ReadTableChanges(const QByteArray& table, const QString& pa
 
 ChangeReport TryRow(const TableRow& row) {
     if (row.refusal)
-        return {row.file, row.refusal, {}, {}, {}, {}, false};
+        return {.file = row.file, .errors = {*row.refusal}};
     Listed listed(row.file);
-    ChangeReport report =
-        TryEdit(row.file, [&](EditedFile& file, std::vector<Error>& notes) -> Failure {
-            for (const TableCell& cell : row.cells) {
-                const auto now = ContentFor(cell, file);
-                if (now && SaysTheSame(cell, *now))
-                    continue;
-                // An empty one may stand for an element that only others in the file hold.
-                if ((!now || cell.text.isEmpty()) && listed.Says(cell))
-                    continue;
-                const Failure failure =
-                    now ? ApplyCell(cell, *now, file, notes) : Failure(now.Why());
-                if (failure)
-                    return At(*failure, row.number, cell.heading);
-            }
-            return {};
-        });
+    ChangeReport report = TryEdit(row.file, [&](EditedFile& file, ChangeReport& made) {
+        for (const TableCell& cell : row.cells) {
+            const auto now = ContentFor(cell, file);
+            if (now && SaysTheSame(cell, *now))
+                continue;
+            // An empty one may stand for an element that only others in the file hold.
+            if ((!now || cell.text.isEmpty()) && listed.Says(cell))
+                continue;
+            const Failure failure =
+                now ? ApplyCell(cell, *now, file, made.notes) : Failure(now.Why());
+            if (failure)
+                made.errors.push_back(At(*failure, row.number, cell.heading));
+        }
+    });
     // A file that can't be edited, or even read, has its row in a survey as well.
-    if (report.error && std::all_of(row.cells.begin(), row.cells.end(),
-                                    [&](const TableCell& cell) { return listed.Says(cell); }))
-        report.error.reset();
+    if (!report.errors.empty() &&
+        std::all_of(row.cells.begin(), row.cells.end(),
+                    [&](const TableCell& cell) { return listed.Says(cell); }))
+        report.errors.clear();
     return report;
 }
 

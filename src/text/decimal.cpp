@@ -8,8 +8,6 @@ namespace Hesperin {
 
 namespace {
 
-constexpr qsizetype MostDigits = 18; // they fit into 64 bits
-constexpr qsizetype MostDigitsOfWhole = 12;
 constexpr std::int64_t LargestWhole = 999'999'999'999;
 
 __extension__ using Wide = __int128; // a number of 12 digits and one of 18, multiplied
@@ -31,16 +29,23 @@ std::optional<std::int64_t> Rounded(Wide number, int places) {
     return static_cast<std::int64_t>(whole);
 }
 
+QStringView WithoutSign(QStringView text) {
+    return text.sliced(text.startsWith(u'-') || text.startsWith(u'+') ? 1 : 0);
+}
+
+bool AreDigits(QStringView text) {
+    return !text.isEmpty() && std::all_of(text.begin(), text.end(), [](QChar digit) {
+        return digit >= u'0' && digit <= u'9';
+    });
+}
+
 } // namespace
 
 std::optional<Decimal> ReadDecimal(QStringView text) {
-    const bool signedText = text.startsWith(u'-') || text.startsWith(u'+');
-    const QStringView digits = text.sliced(signedText ? 1 : 0);
+    const QStringView digits = WithoutSign(text);
     const qsizetype stop = digits.indexOf(u'.');
     const QString all = QString(digits.toString()).remove(stop < 0 ? digits.size() : stop, 1);
-    const bool onlyDigits = std::all_of(all.begin(), all.end(),
-                                        [](QChar digit) { return digit >= u'0' && digit <= u'9'; });
-    if (all.isEmpty() || all.size() > MostDigits || !onlyDigits)
+    if (all.size() > MostDigits || !AreDigits(all))
         return std::nullopt;
     const std::int64_t units = all.toLongLong();
     return Decimal{text.startsWith(u'-') ? -units : units,
@@ -48,11 +53,13 @@ std::optional<Decimal> ReadDecimal(QStringView text) {
 }
 
 std::optional<std::int64_t> ReadWhole(QStringView text) {
-    const auto number = ReadDecimal(text);
-    const qsizetype sign = text.startsWith(u'-') || text.startsWith(u'+') ? 1 : 0;
-    if (!number || text.contains(u'.') || text.size() - sign > MostDigitsOfWhole)
+    if (!IsWhole(text) || WithoutSign(text).size() > MostDigitsOfWhole)
         return std::nullopt;
-    return number->units;
+    return ReadDecimal(text)->units;
+}
+
+bool IsWhole(QStringView text) {
+    return AreDigits(WithoutSign(text));
 }
 
 std::optional<std::int64_t> Sum(std::int64_t whole, const Decimal& number, int sign) {

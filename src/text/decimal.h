@@ -13,12 +13,18 @@ struct Decimal {
     int places = 0;
 };
 
+inline constexpr int MostDigits = 18; // they fit into 64 bits
+inline constexpr int MostDigitsOfWhole = 12;
+
 /// An optional sign and digits with an optional full stop and fraction, at most 18 digits in all;
 /// none for anything else.
 std::optional<Decimal> ReadDecimal(QStringView text);
 
 /// The whole number that `text` is, an optional sign and at most 12 digits; none for anything else.
 std::optional<std::int64_t> ReadWhole(QStringView text);
+
+/// Whether it is a whole number, be it too long for ReadWhole.
+bool IsWhole(QStringView text);
 
 /// The nearest whole number, halves away from zero; none when it has more than 12 digits. `whole`
 /// has at most 12.

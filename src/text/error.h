@@ -40,14 +40,19 @@ struct Error {
         NameChanges,     ///< read back, the creature would have the name `value`
         EncodingUnknown, ///< `value` is its name
         // An edit in place can't be done.
-        ElementUnknown, ///< `value` is its name, `expected` the nearest known one
-        ElementTwice,   ///< `value` is its name, the line the second one's
-        HoldsElements,  ///< `value` is the element
-        FromEntity,     ///< the content of the element `value` comes out of an entity
-        NoWholeNumber,  ///< `value` stands in or for the element `element`
-        BelowZero,      ///< `element` would become `value`
-        NoFlag,         ///< `value` for the element `element`: true or false was expected
-        WordUnknown,    ///< `value` for the element `element`, `expected` the nearest known one
+        ElementUnknown,  ///< `value` is its name, `expected` the nearest known one
+        ElementTwice,    ///< `value` is its name, the line the second one's
+        HoldsElements,   ///< and no text of its own: the element `value`
+        IsAList,         ///< the element `value`, whose items are changed one by one
+        FromEntity,      ///< the content of the element `value` comes out of an entity
+        NoWholeNumber,   ///< `value` stands in or for the element `element`
+        NothingToReckon, ///< with: `element` is empty, or isn't there
+        NoNumber,        ///< `value`, with which `element` should be reckoned
+        TooManyDigits,   ///< `value` has more than `expected`
+        ResultTooLong,   ///< `element` would have more than `expected` digits
+        BelowZero,       ///< `element` would become `value`
+        NoFlag,          ///< `value` for the element `element`: true or false was expected
+        WordUnknown,     ///< `value` for the element `element`, `expected` the nearest known one
         TownUnknown, ///< `value` is no town of the game, `expected` the nearest; taken all the same
         NoList,      ///< `value` holds no list of items
         NoFigure,    ///< `element` has no computed figure `value`

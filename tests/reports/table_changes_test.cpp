@@ -26,8 +26,8 @@ QString OutcomeOf(const QString& act) {
     for (const TableRow& row : changes->rows) {
         const ChangeReport report = TryRow(row);
         told += ChangeText(MessagesIn(English), report).split('\n').mid(1);
-        if (report.error)
-            told.append(ErrorReason(MessagesIn(English), *report.error));
+        for (const Error& error : report.errors)
+            told.append(ErrorReason(MessagesIn(English), error));
         EXPECT_EQ(report.after.isEmpty(), report.changes.empty());
     }
     return told.join('\n');
