@@ -81,8 +81,4 @@ inline bool IsArchiveName(QStringView name) {
 /// Whether the document is known to have another root than Creature. Its first bytes will do.
 bool IsOtherDocument(const QByteArray& bytes);
 
-/// Calls `visit` for each of `count` places from 0, with `jobs` threads at once (0: one for each
-/// core). `visit` gives false to end the walk early. The order of the calls is open.
-void VisitAll(std::size_t count, unsigned jobs, const std::function<bool(std::size_t)>& visit);
-
 } // namespace Hesperin

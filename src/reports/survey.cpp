@@ -5,6 +5,7 @@
 #include "model/evaluation.h"
 #include "reports/check_mod.h"
 #include "reports/survey_texts.h"
+#include "system/visit_all.h"
 #include "text/numbers.h"
 
 #include <algorithm>

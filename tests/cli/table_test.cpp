@@ -5,11 +5,14 @@
 #include "creature_files/mod.h"
 #include "support/cases_file.h"
 #include "support/without_rights.h"
+#include "system/visit_all.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
+
+#include <atomic>
 
 namespace Hesperin {
 
@@ -154,17 +157,6 @@ TEST(Archives, AreReadByManyThreads) {
         return true;
     });
     EXPECT_EQ(right, 300);
-}
-
-TEST(VisitAll, EndsEarlyAndHandsOnWhatIsThrown) {
-    for (const unsigned jobs : {1U, 3U, 200U}) {
-        std::atomic<int> visits{0};
-        VisitAll(10'000, jobs, [&](std::size_t) { return ++visits < 5; });
-        EXPECT_LT(visits, 5 + 200);
-        EXPECT_THROW(VisitAll(9, jobs, [](std::size_t at) { return at < 4 ? true : throw std::bad_alloc(); }),
-                     std::bad_alloc);
-    }
-    VisitAll(0, 0, [](std::size_t) -> bool { throw std::bad_alloc(); });
 }
 
 } // namespace

@@ -3,6 +3,9 @@
 #include "system/path_lookup.h"
 #include "system/program_places.h"
 #include "system/read_file.h"
+#include "system/visit_all.h"
+
+#include <atomic>
 
 namespace Hesperin {
 
@@ -72,6 +75,17 @@ TEST(SystemFolder, IsWhereAllUsersFindTheirPrograms) {
         EXPECT_FALSE(IsSystemFolder(folder)) << folder;
 }
 #endif
+
+TEST(VisitAll, EndsEarlyAndHandsOnWhatIsThrown) {
+    for (const unsigned jobs : {1U, 3U, 200U}) {
+        std::atomic<int> visits{0};
+        VisitAll(10'000, jobs, [&](std::size_t) { return ++visits < 5; });
+        EXPECT_LT(visits, 5 + 200);
+        EXPECT_THROW(VisitAll(9, jobs, [](std::size_t at) { return at < 4 ? true : throw std::bad_alloc(); }),
+                     std::bad_alloc);
+    }
+    VisitAll(0, 0, [](std::size_t) -> bool { throw std::bad_alloc(); });
+}
 
 } // namespace
 

@@ -1,10 +1,12 @@
-#include "creature_files/mod.h"
+#include "system/visit_all.h"
 
+#include <algorithm>
 #include <atomic>
 #include <exception>
 #include <mutex>
 #include <system_error>
 #include <thread>
+#include <vector>
 
 namespace Hesperin {
 
