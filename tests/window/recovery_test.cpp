@@ -54,6 +54,8 @@ TEST_F(Recovery, AKilledProgramsCreatureIsOfferedAndShownAsOneStep) {
     QProcess victim;
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert("TALMIR_TEST_VICTIM", file);
+    for (const char* folder : {"TMPDIR", "TEMP"}) // what it leaves behind goes with `data`
+        environment.insert(folder, data.path());
     victim.setProcessEnvironment(environment);
     victim.start(QCoreApplication::applicationFilePath(), {"--gtest_filter=RecoveryVictim.*"});
     ASSERT_TRUE(Kept());
