@@ -24,7 +24,8 @@ struct Program {
     /// The survey of a mod that is loaded; null when there is none. See app/standing.h.
     std::shared_ptr<const Survey> survey;
 
-    /// Runs when results, survey or language have changed: for the windows that show more of them.
+    /// Runs when results, shown file, survey or language have changed: for the windows that show
+    /// more of them.
     std::function<void()> resultsChanged;
 
     /// A message box with the warning title.

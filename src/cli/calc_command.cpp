@@ -40,7 +40,7 @@ int Calc(const QCommandLineParser& parser) {
         else
             Complain(report.messages.front().text);
     }
-    Complain(found.refused);
+    Complain(found.refused, MessagesIn(English));
     return allOpened ? AllDone : SomethingFailed;
 }
 

@@ -126,7 +126,7 @@ int RunCheck(const QCommandLineParser& parser) {
         PrintJson(survey);
     else
         PrintText(survey, messages);
-    Complain(survey.refused);
+    Complain(survey.refused, messages);
     const bool isFine = survey.refused.empty() && CountOf(survey.findings, Severity::Error) == 0;
     return isFine ? AllDone : SomethingFailed;
 }

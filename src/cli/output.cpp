@@ -1,7 +1,6 @@
 #include "cli/output.h"
 
 #include "localisation/error_text.h"
-#include "localisation/languages.h"
 
 #include <cstdio>
 
@@ -33,8 +32,7 @@ void Complain(const QString& line) {
     Write(stderr, line.toUtf8());
 }
 
-void Complain(const std::vector<RefusedPlace>& places) {
-    const Messages& messages = MessagesIn(English);
+void Complain(const std::vector<RefusedPlace>& places, const Messages& messages) {
     for (const RefusedPlace& place : places)
         Complain(QStringLiteral("%1: %2").arg(place.path, ErrorReason(messages, place.error)));
 }

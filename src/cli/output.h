@@ -1,6 +1,7 @@
 #pragma once
 
 #include "creature_files/mod.h"
+#include "localisation/messages.h"
 
 namespace Hesperin {
 
@@ -13,7 +14,7 @@ void PrintBytes(const QByteArray& bytes);
 
 /// Complaints, the same way on standard error.
 void Complain(const QString& line);
-void Complain(const std::vector<RefusedPlace>& places);
+void Complain(const std::vector<RefusedPlace>& places, const Messages& messages);
 
 /// Writes out what is still held back. False when any result could not be written.
 bool FlushOutput();

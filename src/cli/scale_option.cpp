@@ -18,7 +18,7 @@ std::optional<ModScale> ReadScale(const QString& path, const Messages& messages)
     SurveyWish wish;
     wish.paths = {path};
     Survey survey = TakeSurvey(wish);
-    Complain(AllRefused(survey));
+    Complain(AllRefused(survey), messages);
     return std::move(survey.scale);
 }
 

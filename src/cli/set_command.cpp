@@ -113,7 +113,7 @@ int RunSet(const QCommandLineParser& parser) {
     const QStringList files = WithoutTwins(found.files);
     const int code =
         EditFiles(parser, files.size(), [&](qsizetype at) { return changer.Try(files[at]); });
-    Complain(found.refused);
+    Complain(found.refused, MessagesIn(English));
     return found.refused.empty() ? code : std::max<int>(code, SomethingFailed);
 }
 

@@ -183,7 +183,7 @@ int RunTable(const QCommandLineParser& parser) {
         const Survey before = TakeSurveyTold(other);
         sides.against = CompareMods(before, survey, messages);
         const auto refused = AllRefused(before);
-        Complain(refused);
+        Complain(refused, messages);
         allRead = allRead && refused.empty();
     }
     const bool asPage = parser.isSet(TableOption::Html);

@@ -15,8 +15,8 @@ CompanionWindow::CompanionWindow(Program& owner, const char* name) : program(own
     setFont(font);
     refreshing.setSingleShot(true);
     connect(&refreshing, &QTimer::timeout, this, [this] { Refresh(); });
-    for (const char* keys : {"Esc", "Ctrl+W"})
-        new QShortcut(QKeySequence(QLatin1String(keys)), this, [this] { close(); });
+    new QShortcut(QKeySequence(QStringLiteral("Ctrl+W")), this, [this] { close(); });
+    new QShortcut(QKeySequence(QStringLiteral("Esc")), this, [this] { Escape(); });
 }
 
 void CompanionWindow::PlaceIn(Qt::Corner corner, QSize size) {

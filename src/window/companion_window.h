@@ -8,7 +8,7 @@
 namespace Hesperin {
 
 /// A window beside the main one that shows more of its results: neither locks the other. It follows
-/// results, survey, language and colours; Escape and Ctrl+W close it, and it keeps its place.
+/// results, shown file, survey, language and colours; Ctrl+W closes it, and it keeps its place.
 class CompanionWindow : public QWidget {
 public:
     CompanionWindow(Program& program, const char* name);
@@ -20,8 +20,11 @@ public:
     void RefreshSoon();
 
 protected:
-    /// Shows all anew, in the language of the moment.
+    /// Shows all anew, in the current language.
     virtual void Refresh() = 0;
+
+    /// The key Escape.
+    virtual void Escape() { close(); }
 
     /// Its size and the corner of the screen that it comes up in.
     void PlaceIn(Qt::Corner corner, QSize size);

@@ -76,10 +76,10 @@ MainWindow::MainWindow(Program& owner, QSize available) : program(owner) {
     form.frmMain.SetView(this);
     setWindowTitle(form.frmMain.Caption());
     program.resultsChanged = [this] {
-        if (explanation)
-            explanation->RefreshSoon();
-        if (solve)
-            solve->RefreshSoon();
+        for (CompanionWindow* window :
+             std::initializer_list<CompanionWindow*>{explanation.get(), solve.get(), survey.get()})
+            if (window != nullptr)
+                window->RefreshSoon();
     };
 }
 

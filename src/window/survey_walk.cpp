@@ -27,7 +27,7 @@ void SurveyWalk::Start(const SurveyWish& wish) {
     thread->start();
     if (!thread->isRunning() && !thread->isFinished()) { // the system has no thread left
         take();
-        Finish();
+        Deliver();
     }
 }
 
@@ -42,8 +42,11 @@ void SurveyWalk::Cancel() {
 }
 
 void SurveyWalk::Finish() {
-    if (!thread || !thread->isFinished()) // the end of one that was cancelled, told late
-        return;
+    if (thread && thread->isFinished()) // else it is the end of one that was cancelled, told late
+        Deliver();
+}
+
+void SurveyWalk::Deliver() {
     thread->wait();
     thread.reset();
     ticks.stop();

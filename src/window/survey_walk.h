@@ -36,6 +36,7 @@ public:
 
 private:
     void Finish();
+    void Deliver();
 
     Listener listener;
     SurveyProgress progress;

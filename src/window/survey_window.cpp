@@ -9,15 +9,15 @@
 #include "window/fonts.h"
 #include "window/main_window.h"
 
-#include <QAction>
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QMimeData>
-#include <QScreen>
 #include <QShortcut>
 #include <QUrl>
+
+#include <utility>
 
 namespace Hesperin {
 
@@ -50,12 +50,11 @@ QStringList DraggedPlaces(const QMimeData& data) {
 } // namespace
 
 SurveyWindow::SurveyWindow(Program& owner, MainWindow& mainWindow)
-    : program(owner), main(mainWindow), pages(new SurveyPages(owner)), bar(new SurveyBar(owner)),
+    : CompanionWindow(owner, "SurveyWindow"), main(mainWindow), pages(new SurveyPages(owner)), bar(new SurveyBar(owner)),
       places(new QLabel), refused(new QLabel), progressLine(new SurveyProgressLine(owner)),
       walk({.done = [this](const auto& survey) { Show(survey); },
             .progress = [this](const SurveyProgress& progress) { progressLine->Tell(progress); },
             .idle = [this] { progressLine->hide(); }}) {
-    setObjectName(QStringLiteral("SurveyWindow"));
     setAcceptDrops(true);
     QFont font = BoxFont();
     font.setPixelSize(12);
@@ -78,19 +77,7 @@ SurveyWindow::SurveyWindow(Program& owner, MainWindow& mainWindow)
         bar->ShowCount(pages->View());
     };
     BuildShortcuts();
-    for (const MenuEntry* entry : {&program.form.mnuEnglish, &program.form.mnuRussian})
-        connect(
-            main.findChild<QAction*>(entry->Name()), &QAction::toggled, this,
-            [this] { Retranslate(); }, Qt::QueuedConnection); // when all of it is switched
-    // The title of the main window is another whenever it shows another creature.
-    connect(
-        &main, &QWidget::windowTitleChanged, this, [this] { pages->LookForCurrent(); },
-        Qt::QueuedConnection);
-    Retranslate();
-
-    const QRect room = screen()->availableGeometry();
-    const QSize size = QSize(1120, 700).boundedTo(room.size() - QSize(16, 48));
-    setGeometry({room.bottomRight() - QPoint(size.width() + 8, size.height() + 8), size});
+    PlaceIn(Qt::BottomRightCorner, {1120, 700});
 }
 
 SurveyWindow::~SurveyWindow() {
@@ -123,7 +110,6 @@ void SurveyWindow::BuildShortcuts() {
     };
     on("F5", [this] { Reload(); });
     on("Ctrl+F", [this] { bar->FocusWords(); });
-    on("Ctrl+W", [this] { close(); });
 }
 
 void SurveyWindow::Retranslate() {
@@ -143,11 +129,10 @@ void SurveyWindow::Retranslate() {
     ShowPlaces();
 }
 
-void SurveyWindow::ComeForward() {
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    show();
-    raise();
-    activateWindow();
+void SurveyWindow::Refresh() {
+    if (std::exchange(shownLanguage, program.state.LanguageId) != program.state.LanguageId)
+        Retranslate();
+    pages->LookForCurrent();
 }
 
 void SurveyWindow::Take(const QStringList& wanted) {
@@ -258,9 +243,7 @@ void SurveyWindow::Tell(QMessageBox::Icon icon, const QString& text) {
     box.exec();
 }
 
-void SurveyWindow::keyPressEvent(QKeyEvent* event) {
-    if (event->key() != Qt::Key_Escape)
-        return QWidget::keyPressEvent(event);
+void SurveyWindow::Escape() {
     if (walk.Running())
         walk.Cancel();
     else

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/program.h"
+#include "window/companion_window.h"
 #include "window/survey_bar.h"
 #include "window/survey_dialogs.h"
 #include "window/survey_pages.h"
@@ -13,23 +13,20 @@ namespace Hesperin {
 
 class MainWindow;
 
-/// A mod at a glance, beside the main window: neither locks the other. Closed, it keeps its survey
-/// and its place.
-class SurveyWindow : public QWidget {
+/// A mod at a glance. Closed, it keeps its survey.
+class SurveyWindow : public CompanionWindow {
 public:
     SurveyWindow(Program& program, MainWindow& main);
     ~SurveyWindow() override;
     SurveyWindow(const SurveyWindow&) = delete;
     SurveyWindow& operator=(const SurveyWindow&) = delete;
 
-    /// Shows it and brings it forward.
-    void ComeForward();
-
     /// Surveys these folders and archives as one mod, while the window goes on.
     void Take(const QStringList& paths);
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
+    void Refresh() override;
+    void Escape() override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -54,8 +51,8 @@ private:
     void OpenRow(std::size_t row);
     void Tell(QMessageBox::Icon icon, const QString& text);
 
-    Program& program;
     MainWindow& main;
+    std::uint8_t shownLanguage = 0;
     SurveyPages* pages;
     SurveyBar* bar;
     QLabel* places;  ///< what is shown
