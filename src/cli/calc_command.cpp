@@ -40,7 +40,7 @@ int Calc(const QCommandLineParser& parser) {
         else
             Complain(report.messages.front().text);
     }
-    Complain(found.refused, MessagesIn(English));
+    Complain(found, paths);
     return allOpened ? AllDone : SomethingFailed;
 }
 

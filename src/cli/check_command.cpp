@@ -6,6 +6,7 @@
 #include "reports/finding_text.h"
 #include "reports/json.h"
 #include "reports/survey.h"
+#include "text/plain_lines.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -74,14 +75,14 @@ void PrintJson(const Survey& survey) {
 }
 
 QString LineOf(const Finding& finding, const Messages& messages) {
-    QString place = finding.file;
+    QString place = Printable(finding.file);
     if (finding.line > 0)
         place += QStringLiteral(":%1:%2").arg(finding.line).arg(finding.column);
     if (!place.isEmpty())
         place += QLatin1String(": ");
     return place + QStringLiteral("%1: %2: %3")
                        .arg(SeverityText(messages, finding.severity), RuleName(finding),
-                            FindingText(messages, finding));
+                            Printable(FindingText(messages, finding)));
 }
 
 /// The findings of a file together; those of the whole mod come last.

@@ -7,6 +7,7 @@
 #include "localisation/languages.h"
 #include "reports/json.h"
 #include "system/save_file.h"
+#include "text/plain_lines.h"
 
 #include <QFileInfo>
 #include <QSet>
@@ -84,7 +85,7 @@ private:
 
     void ComplainOf(const QString& file, const std::vector<Error>& errors) const {
         for (const Error& error : errors)
-            Complain(QStringLiteral("%1: %2").arg(file, ErrorReason(messages, error)));
+            Complain(QStringLiteral("%1: %2").arg(Printable(file), ErrorReason(messages, error)));
     }
 
     void Tell(const ChangeReport& report) {

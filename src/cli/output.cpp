@@ -1,6 +1,8 @@
 #include "cli/output.h"
 
 #include "localisation/error_text.h"
+#include "localisation/languages.h"
+#include "text/plain_lines.h"
 
 #include <cstdio>
 
@@ -34,7 +36,15 @@ void Complain(const QString& line) {
 
 void Complain(const std::vector<RefusedPlace>& places, const Messages& messages) {
     for (const RefusedPlace& place : places)
-        Complain(QStringLiteral("%1: %2").arg(place.path, ErrorReason(messages, place.error)));
+        Complain(QStringLiteral("%1: %2").arg(Printable(place.path),
+                                              ErrorReason(messages, place.error)));
+}
+
+void Complain(const FoundFiles& found, const QStringList& paths) {
+    if (found.files.isEmpty() && found.refused.empty())
+        Complain(QStringLiteral("There is no creature file in %1.")
+                     .arg(Printable(paths.join(QLatin1String(", ")))));
+    Complain(found.refused, MessagesIn(English));
 }
 
 bool FlushOutput() {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "creature_files/mod.h"
+#include "creature_files/creature_folder.h"
 #include "localisation/messages.h"
 
 namespace Hesperin {
@@ -15,6 +15,9 @@ void PrintBytes(const QByteArray& bytes);
 /// Complaints, the same way on standard error.
 void Complain(const QString& line);
 void Complain(const std::vector<RefusedPlace>& places, const Messages& messages);
+
+/// In English: of what was refused of the paths, or that there is no creature file at all.
+void Complain(const FoundFiles& found, const QStringList& paths);
 
 /// Writes out what is still held back. False when any result could not be written.
 bool FlushOutput();

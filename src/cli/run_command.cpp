@@ -4,8 +4,11 @@
 #include "cli/language_option.h"
 #include "cli/output.h"
 #include "cli/script_actions.h"
+#include "localisation/error_text.h"
+#include "system/system_error.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <cstdio>
 
@@ -60,14 +63,22 @@ QByteArray NextLine(QFile& script) {
     return line;
 }
 
+/// Why the script can't be read.
+void ComplainOf(const QFile& script, const QString& name, const Messages& messages) {
+    const Error error =
+        QFileInfo(name).isDir() ? Error{Error::What::IsFolder} : ErrorOf(script.errorString());
+    Complain(QStringLiteral("%1: %2").arg(name, ErrorReason(messages, error)));
+}
+
 /// Plays the lines up to the end, or to the first that fails unless the run is to keep going. True
 /// when all could be done.
 bool Play(QFile& script, const QString& name, ScriptStage& stage, bool keepGoing) {
+    const Messages& messages = stage.program.state.messages;
     bool allDone = true;
     for (int number = 1; allDone || keepGoing; ++number) {
         QByteArray bytes = NextLine(script);
         if (script.error() != QFileDevice::NoError) {
-            Complain(QStringLiteral("%1: %2").arg(name, script.errorString()));
+            ComplainOf(script, name, messages);
             return false;
         }
         if (bytes.isEmpty())
@@ -102,7 +113,7 @@ int RunScript(const QCommandLineParser& parser) {
     const bool opened =
         name == QLatin1String("-") ? OpenInput(script) : script.open(QIODevice::ReadOnly);
     if (!opened) {
-        Complain(QStringLiteral("%1: %2").arg(name, script.errorString()));
+        ComplainOf(script, name, MessagesIn(*language));
         return SomethingFailed;
     }
     CliPlatform platform;

@@ -90,8 +90,14 @@ int RunSet(const QCommandLineParser& parser) {
     const QStringList arguments = parser.positionalArguments();
     const qsizetype count = CountChanges(arguments);
     const QStringList paths = arguments.mid(count);
-    if (count <= 0 || paths.isEmpty())
+    if (arguments.isEmpty())
         return Misused(QStringLiteral("at least one CHANGE and one PATH are expected"));
+    if (count <= 0)
+        return Misused(QStringLiteral("changes come before paths, and '%1' is no CHANGE")
+                           .arg(arguments.constFirst()));
+    if (paths.isEmpty())
+        return Misused(QStringLiteral("a PATH is expected behind the changes; where its name has a "
+                                      "'=', -- before it ends them"));
     if (const QString reason = WhyAtOdds(parser); !reason.isEmpty())
         return Misused(reason);
     FileChanger changer;
@@ -113,7 +119,7 @@ int RunSet(const QCommandLineParser& parser) {
     const QStringList files = WithoutTwins(found.files);
     const int code =
         EditFiles(parser, files.size(), [&](qsizetype at) { return changer.Try(files[at]); });
-    Complain(found.refused, MessagesIn(English));
+    Complain(found, paths);
     return found.refused.empty() ? code : std::max<int>(code, SomethingFailed);
 }
 

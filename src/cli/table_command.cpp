@@ -106,7 +106,10 @@ private:
     void ReadSort(const QString& text) {
         const bool falling = text.startsWith(u'-');
         const QString heading = text.sliced(falling ? 1 : 0);
-        if (const auto column = ColumnOf(heading)) {
+        auto column = ColumnOf(heading);
+        if (!column)
+            column = ColumnShownAs(heading);
+        if (column) {
             order = {*column, falling};
             return;
         }
@@ -181,9 +184,11 @@ int RunTable(const QCommandLineParser& parser) {
         SurveyWish other = wishes.survey;
         other.paths = QStringList(parser.value(TableOption::Against));
         const Survey before = TakeSurveyTold(other);
-        sides.against = CompareMods(before, survey, messages);
         const auto refused = AllRefused(before);
         Complain(refused, messages);
+        if (before.rows.empty() && !refused.empty()) // all would be told as added
+            return SomethingFailed;
+        sides.against = CompareMods(before, survey, messages);
         allRead = allRead && refused.empty();
     }
     const bool asPage = parser.isSet(TableOption::Html);

@@ -93,16 +93,27 @@ int EditedFile::ChildOf(int parent, QStringView name) const {
     return None;
 }
 
+QStringList EditedFile::AttributeNames() const {
+    QStringList names;
+    for (std::size_t i = 1; i < elements.size(); ++i)
+        for (const AttributePlace& attribute : AttributesOf(document.Text(), elements[i].startTag))
+            names += PathOf(static_cast<int>(i)) + u'@' + attribute.name.toString();
+    return names;
+}
+
 Error EditedFile::Unknown(const QString& name) const {
-    QStringList known;
+    QStringList known = AttributeNames();
     for (const Element& element : Elements)
         known += {element.name.toString(), Hesperin::PathOf(element)};
-    for (std::size_t i = 1; i < elements.size(); ++i) {
+    for (std::size_t i = 1; i < elements.size(); ++i)
         known += {elements[i].name.toString(), PathOf(static_cast<int>(i))};
-        for (const AttributePlace& attribute : AttributesOf(document.Text(), elements[i].startTag))
-            known += PathOf(static_cast<int>(i)) + u'@' + attribute.name.toString();
-    }
     return {Error::What::ElementUnknown, name, NearestTo(name, known)};
+}
+
+Error EditedFile::WithoutAttribute(const QString& name) const {
+    const QStringList names = AttributeNames();
+    return {Error::What::AttributeLacking, name,
+            names.isEmpty() ? QStringLiteral("-") : names.join(QLatin1String(", "))};
 }
 
 Result<EditedFile::Target> EditedFile::Find(const QString& name) const {
@@ -144,8 +155,10 @@ Result<EditedFile::Target> EditedFile::Find(const QString& name) const {
     target.format = ElementAt(target.path);
     if (target.element == None && target.format == nullptr)
         target.format = ElementNamed(own);
-    if (target.element == None && (target.format == nullptr || !target.attribute.isEmpty()))
+    if (target.element == None && target.format == nullptr)
         return Unknown(name);
+    if (target.element == None && !target.attribute.isEmpty())
+        return WithoutAttribute(name);
     if (target.element == None)
         target.path = Hesperin::PathOf(*target.format);
     if (!target.attribute.isEmpty()) {
@@ -155,7 +168,7 @@ Result<EditedFile::Target> EditedFile::Find(const QString& name) const {
         if (std::none_of(present.begin(), present.end(), [&](const AttributePlace& known) {
                 return known.name == target.attribute;
             }))
-            return Unknown(target.path);
+            return WithoutAttribute(target.path);
     }
     return target;
 }

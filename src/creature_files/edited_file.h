@@ -112,7 +112,9 @@ private:
 
     void FindBroughtIn();
     Result<Target> Find(const QString& name) const;
+    QStringList AttributeNames() const;
     Error Unknown(const QString& name) const;
+    Error WithoutAttribute(const QString& name) const;
     QString PathOf(int element) const;
     bool IsAt(int element, QStringView path) const;
     int ChildOf(int parent, QStringView name) const;

@@ -2,6 +2,7 @@
 
 #include "localisation/parser_words.h"
 #include "text/fill.h"
+#include "text/shortened.h"
 
 namespace Hesperin {
 
@@ -37,6 +38,7 @@ constexpr QString Messages::*Sentences[] = {
     &Messages::MsgNameChanges,
     &Messages::MsgEncodingUnknown,
     &Messages::MsgElementUnknown,
+    &Messages::MsgAttributeLacking,
     &Messages::MsgElementTwice,
     &Messages::MsgHoldsElements,
     &Messages::MsgIsAList,
@@ -52,12 +54,14 @@ constexpr QString Messages::*Sentences[] = {
     &Messages::MsgTownUnknown,
     &Messages::MsgNoList,
     &Messages::MsgNoFigure,
+    &Messages::MsgCountsAs,
     &Messages::MsgNoPower,
     &Messages::MsgNoScale,
     &Messages::MsgCantBeSpelled,
     &Messages::MsgEndlessQuote,
     &Messages::MsgColumnLacking,
     &Messages::MsgColumnUnknown,
+    &Messages::MsgColumnOnlyTold,
     &Messages::MsgColumnTwice,
     &Messages::MsgRowNamesNone,
     &Messages::MsgRowTwice,
@@ -79,7 +83,7 @@ static_assert(std::size(NoteSentences) == static_cast<std::size_t>(SaveNote::May
 // clang-format on
 
 QString Place(const Messages& messages, const Error& error) {
-    const QString& element = error.element;
+    const QString element = Shortened(error.element);
     const QString line = QString::number(error.line);
     const QString column = QString::number(error.column);
     QString place;
@@ -94,16 +98,29 @@ QString Place(const Messages& messages, const Error& error) {
     return place;
 }
 
+/// Values and names out of files can be of any length; what the program puts together is not.
+QString ShownValue(const Messages& messages, const Error& error) {
+    switch (error.what) {
+    case What::NotWellFormed:
+        return ParserWords(messages, error.value);
+    case What::RowTwice:
+    case What::SystemSays:
+    case What::Conflict:
+        return error.value;
+    default:
+        return Shortened(error.value);
+    }
+}
+
 } // namespace
 
 QString ErrorReason(const Messages& messages, const Error& error) {
-    const QString value =
-        error.what == What::NotWellFormed ? ParserWords(messages, error.value) : error.value;
+    const QString value = ShownValue(messages, error);
     const bool otherTooLarge =
         error.what == What::FileTooLarge && error.doing != Error::Doing::Opening;
     const auto sentence =
         otherTooLarge ? &Messages::MsgLargerThan : Sentences[static_cast<std::size_t>(error.what)];
-    return Fill(messages.*sentence, {value, error.expected, error.element}) +
+    return Fill(messages.*sentence, {value, error.expected, Shortened(error.element)}) +
            Place(messages, error);
 }
 

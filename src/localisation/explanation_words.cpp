@@ -89,6 +89,7 @@ constexpr EnumArray<Phrase, Texts> Phrases{{{
     /* Average            */ {u"%1, average Power %2",                 u"%1, средняя сила %2"},
     /* NoAverage          */ {u"%1, no average Power",                 u"%1, средней силы нет"},
     /* InFiguresOfMod     */ {u", in the figures of the mod",          u", в масштабе мода"},
+    /* ComputedFigures    */ {u", as computed, without the scale of the mod", u", как вычислено, без масштаба мода"},
     /* WantedPower        */ {u"Wanted: Power %1",                     u"Нужна сила %1"},
     /* WantedTier         */ {u"Wanted: tier %1, average Power %2 to %3", u"Нужен уровень %1, средняя сила от %2 до %3"},
     /* WantedHighestTier  */ {u"Wanted: tier %1, average Power from %2",  u"Нужен уровень %1, средняя сила от %2"},

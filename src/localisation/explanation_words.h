@@ -54,14 +54,15 @@ enum class Phrase : std::uint8_t {
     NoPower,     ///< the first method's is 0, and nothing follows from it
     GrowthFixed, ///< at tier %1
     Band,
-    BandFromTo,     ///< %1 to %2, the Power (%3) so many percent (%4) of the way
-    BandFrom,       ///< %1, for the highest tier
-    ToNextTier,     ///< tier %1
-    MoreNeeded,     ///< Power, %1
-    Highest,        ///< %1 is the end of the range
-    Average,        ///< Power of creature %1 is %2
-    NoAverage,      ///< the same where there is none
-    InFiguresOfMod, ///< behind one of the two
+    BandFromTo,      ///< %1 to %2, the Power (%3) so many percent (%4) of the way
+    BandFrom,        ///< %1, for the highest tier
+    ToNextTier,      ///< tier %1
+    MoreNeeded,      ///< Power, %1
+    Highest,         ///< %1 is the end of the range
+    Average,         ///< Power of creature %1 is %2
+    NoAverage,       ///< the same where there is none
+    InFiguresOfMod,  ///< behind one of the two
+    ComputedFigures, ///< behind what is wanted of a tier
     WantedPower,
     WantedTier,        ///< %1, from %2 to %3
     WantedHighestTier, ///< %1, from %2

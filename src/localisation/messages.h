@@ -68,6 +68,7 @@ struct Messages {
     QString MsgNameChanges;
     QString MsgEncodingUnknown;
     QString MsgElementUnknown;
+    QString MsgAttributeLacking;
     QString MsgElementTwice;
     QString MsgHoldsElements;
     QString MsgIsAList;
@@ -83,12 +84,14 @@ struct Messages {
     QString MsgTownUnknown;
     QString MsgNoList;
     QString MsgNoFigure;
+    QString MsgCountsAs;
     QString MsgNoPower;
     QString MsgNoScale;
     QString MsgCantBeSpelled;
     QString MsgEndlessQuote;
     QString MsgColumnLacking;
     QString MsgColumnUnknown;
+    QString MsgColumnOnlyTold;
     QString MsgColumnTwice;
     QString MsgRowNamesNone;
     QString MsgRowTwice;

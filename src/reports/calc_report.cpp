@@ -9,6 +9,7 @@
 #include "reports/json.h"
 #include "reports/reading_text.h"
 #include "text/numbers.h"
+#include "text/plain_lines.h"
 
 #include <optional>
 
@@ -198,7 +199,8 @@ QString CalcTable(const CalcReport& report) {
     const QString upgraded =
         parameters.UpgradeFactor == PlainFactor ? QString() : QStringLiteral(", upgraded");
     QString text = QStringLiteral("%1: %2, tier %3%4\n")
-                       .arg(report.file, report.name, QString::number(parameters.Tier), upgraded);
+                       .arg(Printable(report.file), Printable(report.name),
+                            QString::number(parameters.Tier), upgraded);
     text += QStringLiteral("  %1").arg(QString(), -12);
     for (const MethodColumn& column : MethodColumns)
         text += QStringLiteral("%1").arg(QLatin1String(column.heading), 10);

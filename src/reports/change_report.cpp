@@ -2,6 +2,7 @@
 
 #include "localisation/error_text.h"
 #include "reports/line_diff.h"
+#include "text/plain_lines.h"
 
 #include <QJsonArray>
 
@@ -31,7 +32,7 @@ QString ChangeLine(const FileChange& change) {
 QString ChangeText(const Messages& messages, const ChangeReport& report) {
     if (report.changes.empty())
         return {};
-    QString text = report.file + u'\n';
+    QString text = Printable(report.file) + u'\n';
     for (const FileChange& change : report.changes)
         text += ChangeLine(change);
     for (const Error& note : report.notes)

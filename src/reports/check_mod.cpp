@@ -184,15 +184,17 @@ bool ModCheck::IsOnDisk(const QString& place, const QString& reference) {
     QDir folder = QFileInfo(place).absoluteDir();
     do {
         const QString root = folder.absolutePath();
-        if (!above.try_emplace(root, root).first->second.Find(levels).isEmpty())
+        const QString found = above.try_emplace(root, root).first->second.Find(levels);
+        if (!found.isEmpty() && !QFileInfo(found).isDir())
             return true;
-    } while (reference.startsWith(u'/') && folder.cdUp());
+    } while (reference.startsWith(u'/') && folder.cdUp() && !folder.isRoot());
     return false;
 }
 
 void ModCheck::AddTo(Survey& survey) {
     std::move(refused.begin(), refused.end(), std::back_inserter(survey.refused));
-    if (!game && !survey.rows.empty())
+    const bool checksLinks = game && game->Refused().empty(); // else some would be told in vain
+    if (!checksLinks && !survey.rows.empty())
         survey.findings.push_back(LinksNotChecked());
     std::vector<CheckedFile*> files; // by row
     for (const auto& file : checked)
@@ -205,7 +207,7 @@ void ModCheck::AddTo(Survey& survey) {
         CheckUpgrade(survey, bases, i, *files[i], findings);
         CheckDeviation(survey, row, *files[i], findings);
         for (const FileElement& reference : files[i]->references)
-            if (game && !LeadsSomewhere(row, reference.text))
+            if (checksLinks && !LeadsSomewhere(row, reference.text))
                 findings.Add(Rule::Link, reference);
         std::vector<Finding> all = std::move(files[i]->findings);
         for (Finding& finding : findings.Take())

@@ -18,18 +18,45 @@ struct Computed {
     QString tier;
 };
 
+/// The elements behind what is corrected; null where no figure depends on it.
+constexpr EnumArray<Correction::What, const char*> CorrectedElements{
+    {{nullptr, nullptr, "AttackSkill", "DefenceSkill", "Health", "MinDamage", "MaxDamage",
+      "MinDamage", "Speed", "Initiative", "CreatureTier"}}};
+
+Error CountsAs(const QString& element, const QString& value, const QString& counted) {
+    Error note{Error::What::CountsAs, value, counted};
+    note.element = element;
+    return note;
+}
+
+/// What the figures are computed with, otherwise than the file says.
+void AddNotes(const ReadCreature& read, const Evaluation& evaluation, std::vector<Error>& notes) {
+    for (const Correction& correction : evaluation.validated.corrections)
+        if (const char* element = CorrectedElements[correction.what])
+            notes.push_back(CountsAs(QString::fromLatin1(element), correction.from,
+                                     QString::number(correction.to)));
+    for (const ListField list :
+         {ListField::Tier, ListField::Speed, ListField::Initiative, ListField::Upgrade})
+        for (const Element* element : ElementsToRead())
+            if (element->list == list && read.missing.contains(element->name))
+                notes.push_back(
+                    CountsAs(element->name.toString(), {}, read.creature.Choices[list].text));
+}
+
 /// Of the file's creature with the changes so far.
-Result<Computed> Compute(const EditedFile& file) {
+Result<Computed> Compute(const EditedFile& file, std::vector<Error>& notes) {
     const auto bytes = file.Write();
     if (!bytes)
         return bytes.Why();
     const auto document = NormaliseCreature(*bytes);
     if (!document)
         return document.Why();
-    const Creature creature = ReadCreatureText(*document, EmptyCreature()).creature;
+    const ReadCreature read = ReadCreatureText(*document, EmptyCreature());
+    const Creature& creature = read.creature;
     Computed computed{Evaluate(EnteredOf(creature)), creature.Choices[ListField::Tier].text};
     if (!computed.evaluation.figures)
         return Error{Error::What::NoPower};
+    AddNotes(read, computed.evaluation, notes);
     return computed;
 }
 
@@ -59,7 +86,7 @@ Failure ApplyAll(const FileChanger& changer, EditedFile& file, std::vector<Error
             return failure;
     if (figures.empty())
         return {};
-    const auto computed = Compute(file);
+    const auto computed = Compute(file, notes);
     if (!computed)
         return computed.Why();
     for (const ComputedChange& change : figures)

@@ -11,7 +11,7 @@ namespace {
 constexpr Column RestsOn[] = {Column::CreatureTier, Column::Upgrade,   Column::AttackSkill,
                               Column::DefenceSkill, Column::MinDamage, Column::MaxDamage,
                               Column::Health,       Column::Speed,     Column::Initiative,
-                              Column::Abilities};
+                              Column::Abilities,    Column::Product};
 
 QStringList SetOf(const QString& words) {
     QStringList set = words.toCaseFolded().split(u' ', Qt::SkipEmptyParts);
@@ -50,6 +50,13 @@ std::vector<CellChange> ChangesBetween(const SurveyRow& before, const SurveyRow&
     for (std::size_t i = 1; i < TextColumns; ++i) // 0 is the file
         if (const auto column = static_cast<Column>(i); !SameCell(before, after, column))
             changes.push_back({column, before.Text(column), after.Text(column)});
+    // Flying and CombatSize have no column, and tick an ability.
+    if (SameCell(before, after, Column::Abilities)) {
+        const QString was = CellText(before, Column::Product, messages);
+        const QString is = CellText(after, Column::Product, messages);
+        if (was != is)
+            changes.push_back({Column::Product, was, is});
+    }
     return changes;
 }
 

@@ -177,7 +177,9 @@ QString SolveHead(const SolveReport& report, std::uint8_t languageId) {
                                     : Fill(PhraseIn(languageId, Phrase::NoAverage), {report.name});
     const QString figures =
         report.inFiguresOfMod ? PhraseIn(languageId, Phrase::InFiguresOfMod) : QString();
-    return prefix + head + figures + u'\n' + WantedText(report.goal, languageId);
+    const bool isBand = report.inFiguresOfMod && report.goal.tier != 0;
+    return prefix + head + figures + u'\n' + WantedText(report.goal, languageId) +
+           (isBand ? PhraseIn(languageId, Phrase::ComputedFigures) : QString());
 }
 
 QString SolutionText(const Solution& solution, std::uint8_t languageId) {

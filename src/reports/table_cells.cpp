@@ -30,6 +30,12 @@ std::optional<Decimal> NumberIn(QString text) {
     return number;
 }
 
+/// "4.000" is four thousand where a full stop parts them.
+bool CouldPartThousands(const QString& text) {
+    const qsizetype stop = text.lastIndexOf(u'.');
+    return stop > 0 && text.size() - stop - 1 == 3;
+}
+
 /// "true" or "false" for what spreadsheets make of it; any other text as it is.
 QString FlagIn(const QString& text) {
     static const std::pair<QStringView, const char*> words[] = {
@@ -133,7 +139,7 @@ Failure ApplyCell(const TableCell& cell, const QString& now, EditedFile& file,
     Change change{PathOf(element), Change::Does::Set, cell.text};
     if (TakesNumber(element)) {
         const auto number = NumberIn(cell.text);
-        if (!number || number->places > 0)
+        if (!number || number->places > 0 || CouldPartThousands(cell.text))
             return NoContentForNumber(cell.text, PathOf(element));
         change.operand = QString::number(number->units);
     } else {

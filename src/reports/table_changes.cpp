@@ -65,14 +65,20 @@ private:
     PathLookup lookup;
 };
 
-QString NearestHeading(const QString& heading) {
+Error WhyNoColumn(const QString& heading) {
+    const bool isElement =
+        std::any_of(std::begin(Elements), std::end(Elements), [&](const Element& element) {
+            return heading.compare(element.name, Qt::CaseInsensitive) == 0;
+        });
+    if (isElement)
+        return {Error::What::ColumnOnlyTold, heading};
     QStringList known;
     for (std::size_t i = 0; i < static_cast<std::size_t>(Column::Count); ++i)
         known.append(HeadingOf(static_cast<Column>(i)));
     for (const Element& element : Elements)
         if (ElementOfHeading(element.name.toString()) != nullptr)
             known.append(element.name.toString());
-    return NearestTo(heading, known);
+    return {Error::What::ColumnUnknown, heading, NearestTo(heading, known)};
 }
 
 class TableReader {
@@ -146,8 +152,7 @@ private:
         const Element* element = ElementOfHeading(heading);
         if (element == nullptr) {
             if (!ColumnOf(heading))
-                read.refusals.push_back(At(
-                    {Error::What::ColumnUnknown, heading, NearestHeading(heading)}, row, heading));
+                read.refusals.push_back(At(WhyNoColumn(heading), row, heading));
             return;
         }
         const auto isTwin = [&](const QString& other) {

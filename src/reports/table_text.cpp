@@ -142,6 +142,13 @@ QString Counted(std::size_t number, const char* one) {
 
 } // namespace
 
+std::optional<Column> ColumnShownAs(const QString& heading) {
+    for (const TextColumn& column : ShownColumns)
+        if (heading.compare(QLatin1String(column.heading), Qt::CaseInsensitive) == 0)
+            return column.column;
+    return std::nullopt;
+}
+
 QString TableText(const Survey& survey, const TableSides& sides, const Messages& messages) {
     const auto shown = static_cast<std::size_t>(std::count_if(
         survey.rows.begin(), survey.rows.end(), [](const SurveyRow& row) { return !row.problem; }));

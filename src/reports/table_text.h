@@ -8,4 +8,7 @@ namespace Hesperin {
 /// the tiers, what was refused, what is different in another version.
 QString TableText(const Survey& survey, const TableSides& sides, const Messages& messages);
 
+/// The column under a heading of that text, letter case not counting; none where there is none.
+std::optional<Column> ColumnShownAs(const QString& heading);
+
 } // namespace Hesperin

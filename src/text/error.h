@@ -40,37 +40,40 @@ struct Error {
         NameChanges,     ///< read back, the creature would have the name `value`
         EncodingUnknown, ///< `value` is its name
         // An edit in place can't be done.
-        ElementUnknown,  ///< `value` is its name, `expected` the nearest known one
-        ElementTwice,    ///< `value` is its name, the line the second one's
-        HoldsElements,   ///< and no text of its own: the element `value`
-        IsAList,         ///< the element `value`, whose items are changed one by one
-        FromEntity,      ///< the content of the element `value` comes out of an entity
-        NoWholeNumber,   ///< `value` stands in or for the element `element`
-        NothingToReckon, ///< with: `element` is empty, or isn't there
-        NoNumber,        ///< `value`, with which `element` should be reckoned
-        TooManyDigits,   ///< `value` has more than `expected`
-        ResultTooLong,   ///< `element` would have more than `expected` digits
-        BelowZero,       ///< `element` would become `value`
-        NoFlag,          ///< `value` for the element `element`: true or false was expected
-        WordUnknown,     ///< `value` for the element `element`, `expected` the nearest known one
+        ElementUnknown,   ///< `value` is its name, `expected` the nearest known one
+        AttributeLacking, ///< `value` is its name, `expected` those that the file has
+        ElementTwice,     ///< `value` is its name, the line the second one's
+        HoldsElements,    ///< and no text of its own: the element `value`
+        IsAList,          ///< the element `value`, whose items are changed one by one
+        FromEntity,       ///< the content of the element `value` comes out of an entity
+        NoWholeNumber,    ///< `value` stands in or for the element `element`
+        NothingToReckon,  ///< with: `element` is empty, or isn't there
+        NoNumber,         ///< `value`, with which `element` should be reckoned
+        TooManyDigits,    ///< `value` has more than `expected`
+        ResultTooLong,    ///< `element` would have more than `expected` digits
+        BelowZero,        ///< `element` would become `value`
+        NoFlag,           ///< `value` for the element `element`: true or false was expected
+        WordUnknown,      ///< `value` for the element `element`, `expected` the nearest known one
         TownUnknown, ///< `value` is no town of the game, `expected` the nearest; taken all the same
         NoList,      ///< `value` holds no list of items
         NoFigure,    ///< `element` has no computed figure `value`
+        CountsAs,    ///< in the computed figures: `element` as `expected`, not as `value`
         NoPower,     ///< Power is 0, so that there are no figures
         NoScale,     ///< tier `value` has no scale for `element`
         CantBeSpelled, ///< `value` has a character that no document can hold
         // A table can't be applied.
-        EndlessQuote,  ///< a quote that nothing closes
-        ColumnLacking, ///< the column `value`
-        ColumnUnknown, ///< `value` is its heading, `expected` the nearest known one
-        ColumnTwice,   ///< `value` is its heading
-        RowNamesNone,  ///< no file
-        RowTwice,      ///< the rows `value` are of one file
-        RowTooLong,    ///< it has `value` cells, the heading `expected`
-        CellEmpty,     ///< where the file has `value`
-        NeverWritten,  ///< it is an archive
-        UnsafeEdit,    ///< the edited file would not be what was asked for
-        Conflict,      ///< someone else has changed the same in the file: `value` says what
+        EndlessQuote,   ///< a quote that nothing closes
+        ColumnLacking,  ///< the column `value`
+        ColumnUnknown,  ///< `value` is its heading, `expected` the nearest known one
+        ColumnOnlyTold, ///< `value` is its heading: an element that tables don't change
+        ColumnTwice,    ///< `value` is its heading
+        RowNamesNone,   ///< no file
+        RowTwice,       ///< the rows `value` are of one file
+        RowTooLong,     ///< it has `value` cells, the heading `expected`
+        CellEmpty,      ///< where the file has `value`
+        NeverWritten,   ///< it is an archive
+        UnsafeEdit,     ///< the edited file would not be what was asked for
+        Conflict,       ///< someone else has changed the same in the file: `value` says what
     };
 
     /// What the program was about to do with `file`.

@@ -2,7 +2,7 @@
 
 #include "window/fonts.h"
 
-#include <QEvent>
+#include <QKeyEvent>
 #include <QScreen>
 #include <QShortcut>
 
@@ -16,7 +16,6 @@ CompanionWindow::CompanionWindow(Program& owner, const char* name) : program(own
     refreshing.setSingleShot(true);
     connect(&refreshing, &QTimer::timeout, this, [this] { Refresh(); });
     new QShortcut(QKeySequence(QStringLiteral("Ctrl+W")), this, [this] { close(); });
-    new QShortcut(QKeySequence(QStringLiteral("Esc")), this, [this] { Escape(); });
 }
 
 void CompanionWindow::PlaceIn(Qt::Corner corner, QSize size) {
@@ -43,6 +42,13 @@ void CompanionWindow::ComeForward() {
 void CompanionWindow::RefreshSoon() {
     if (isVisible())
         refreshing.start(0);
+}
+
+void CompanionWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape)
+        Escape();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 bool CompanionWindow::event(QEvent* event) {

@@ -30,6 +30,7 @@ protected:
     void PlaceIn(Qt::Corner corner, QSize size);
 
     bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
     Program& program;
 

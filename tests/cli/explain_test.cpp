@@ -50,6 +50,10 @@ TEST(Solve, TriesTheParametersThatAreNamedEachOnce) {
                            "Wanted: Power 96\n"
                            "  Tier 1   exactly with 1–8\n"
                            "  Speed 4  exactly with 4\n");
+    EXPECT_TRUE(
+        RunCli({"solve", "hill_peasant.xdb", "Tier=2", "--vary", "Attack", "--scale-of", "."}, {},
+               TALMIR_SOURCE_DIR "/samples")
+            .out.contains("\nWanted: tier 2, average Power 152 to 259, as computed, without the scale of the mod\n"));
 }
 
 } // namespace

@@ -106,11 +106,12 @@ TEST(Input, AndOutputThatFailEndTheRunWithAComplaint) {
     if (!OnLinux)
         GTEST_SKIP() << "it takes a shell";
     const std::pair<const char*, const char*> cases[] = {
-        {"run nowhere", "nowhere: No such file or directory\n"},
-        {"run /", "/: "}, // the toolkit's words
-        {"run --keep-going - <&-", "-: Bad file descriptor\n"},
-        {"run --keep-going - </", "-: Is a directory\n"},
-        {"run --keep-going /proc/self/mem", "/proc/self/mem: Input/output error\n"},
+        {"run nowhere", "nowhere: There is no such file.\n"},
+        {"run nowhere --lang RU", "nowhere: Такого файла нет.\n"},
+        {"run /", "/: It is a folder; a file was expected.\n"},
+        {"run --keep-going - <&-", "-: The system says: Bad file descriptor.\n"},
+        {"run --keep-going - </", "-: It is a folder; a file was expected.\n"},
+        {"run --keep-going /proc/self/mem", "/proc/self/mem: The system says: Input/output error.\n"},
         {"--version >/dev/full", "talmir-cli: the output could not be written\n"}};
     for (const auto& [arguments, complaint] : cases) {
         const CliOutcome outcome = RunShell(QString("LC_ALL=C exec \"$0\" ") + arguments);
