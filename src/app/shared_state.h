@@ -1,5 +1,5 @@
-// The one creature that the program works on: what is computed and remembered about it. The widths
-// are part of the results.
+// What the running program remembers: the creature's computed values, its file, the language. The
+// widths are part of the results.
 #pragma once
 
 #include "creature_files/reader.h"
@@ -13,7 +13,7 @@ struct SharedState {
 
     // Abilities.
     std::array<float, Ability::Count + 1> AbilityCurrentValue{}; ///< from 1; 1.0 while unticked
-    std::int16_t SpellPoints1Count = 0; ///< charge counter of the click rules
+    std::int16_t SpellPoints1Count = 0; ///< charge counter of the box rules
     std::int16_t SpecabilityFlag =
         FlagFalse; ///< -1 after a tick, 0 after an untick; see box_rules.h
 

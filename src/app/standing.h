@@ -11,9 +11,10 @@ void LoadSurvey(Program& program, std::shared_ptr<const Survey> survey);
 /// The row of the file that the window shows; none when it isn't in the survey.
 std::optional<std::size_t> RowOfShownFile(const Program& program);
 
-/// To be called when results, survey or language have changed. Tells in the middle of page 0 how
-/// the computed average Power stands to the entered one among the surveyed creatures of the tier,
-/// which is hidden without a survey, and has the windows follow that show more of the results.
+/// To be called when results, shown file, survey or language have changed. Tells in the middle of
+/// the page of the parameters how the computed average Power stands to the entered one among the
+/// surveyed creatures of the tier, and has the windows follow that show more of the results. The
+/// frame that tells it is hidden without a survey.
 void FollowResults(Program& program);
 
 } // namespace Hesperin

@@ -35,7 +35,7 @@ struct WindowState {
 
 WindowState TakeWindowState(Program& program);
 
-/// Sets it back without running a rule, the words in the language of the moment.
+/// Sets it back without running a rule, the words in the current language.
 void SetWindowState(Program& program, const WindowState& state);
 
 /// What belongs to the file that the window shows: where it lies, what an update goes out from, its

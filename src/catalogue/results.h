@@ -5,6 +5,7 @@
 
 namespace Hesperin {
 
+/// Rolvane is the first method, Hesperin the second; they bear the names of their authors.
 enum class Method : std::uint8_t { Rolvane, Hesperin, Average, Count };
 
 enum class Figure : std::uint8_t { Power, Experience, Growth, Cost, Count };

@@ -6,7 +6,7 @@
 namespace Hesperin {
 
 inline constexpr int SpellCount = 91;
-inline constexpr int SpecabilityCount = 54; ///< without the inert one at index 0
+inline constexpr int SpecabilityCount = 54; ///< without that at 0, which nobody can tick
 inline constexpr int MasteryCount = 5;
 
 extern const std::array<const char16_t*, SpellCount + 1> SpellToken;             ///< from 1

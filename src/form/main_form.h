@@ -54,7 +54,9 @@ struct MainForm : ControlRegistry {
 
     TabControl Tablus{*this, "Tablus", "Tablus.Tab"};
 
-    // Page 0, the creature's parameters: every field in a frame whose caption names it.
+    // The page of the parameters: every field in a frame whose caption names it. NC is the name,
+    // IDC the number in the project TCX, FME and SME are the first and the second magic element,
+    // TTC is the time to command; f stands behind what the file holds beside the computed figures.
     Frame FrameNC{*this, "FrameNC"};
     TextField txtNC{*this, "txtNC"};
     Frame FrameIDC{*this, "FrameIDC"};
@@ -119,7 +121,9 @@ struct MainForm : ControlRegistry {
     Frame FrameDiapazon{*this, "FrameDiapazon"};
     ComboBox ComboDiapazon{*this, "ComboDiapazon"};
 
-    // Page 0, the results.
+    // The page of the parameters, the results: the panel of the main method (frmMM) has those of
+    // the first method (without an ending), of the second (X) and their averages (A), that of the
+    // alternative method (frmAM) two groups that nothing writes (S, D).
     Frame frmMM{*this, "frmMM"};
     Label lblValues{*this, "lblValues"};
     Frame FramePower{*this, "FramePower"};
@@ -170,15 +174,16 @@ struct MainForm : ControlRegistry {
     Frame FrameCostD{*this, "FrameCostD"};
     Label lblCostD{*this, "lblCostD"};
 
-    // Page 0, the free middle: where the creature stands in the mod that has been surveyed.
+    // The page of the parameters, its free middle: where the creature stands in the mod that has
+    // been surveyed.
     Frame FrameStanding{*this, "FrameStanding"};
     Label lblStandingDeviation{*this, "lblStandingDeviation"};
     Label lblStandingPlace{*this, "lblStandingPlace"};
     DotStrip StandingStrip{*this, "StandingStrip"};
 
     // The check-box pages; the caption of each box is the game's token. `soq` are the mastery
-    // selectors of the spells, `saz` those of the special abilities (which end in the inert one at
-    // 0).
+    // selectors of the spells, `saz` those of the special abilities (whose
+    // last is the inert one at 0, which nobody can tick).
     ControlArray<CheckBox, 1, Ability::Count> Abilities{*this, "Abilities"};
     ControlArray<CheckBox, 1, SpellCount> Spells{*this, "Spells"};
     ControlArray<MultiOption, 1, SpellCount> soq{*this, "soq"};

@@ -4,7 +4,8 @@
 
 namespace Hesperin {
 
-/// A text that the window holds without showing it.
+/// A text that the window holds and its user can't change. That of the file's page is shown, the
+/// others never are.
 class StoredText : public Control {
 public:
     using Control::Control;

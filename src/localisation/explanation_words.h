@@ -74,6 +74,8 @@ enum class Phrase : std::uint8_t {
     Count
 };
 
+// `languageId`: 1 to 4; English where the language has none.
+
 QString PhraseIn(std::uint8_t languageId, Phrase phrase);
 QString ChapterIn(std::uint8_t languageId, Chapter chapter);
 QString StepIn(std::uint8_t languageId, const StepWords& step);

@@ -16,6 +16,8 @@ struct Advice {
 /// The tier, 1 to 8, that the bands of Power advise. They take no account of the upgrade.
 std::int16_t AdviseTier(double power);
 
+/// The tier that is advised for an average Power, and how that Power compares with the tier's that
+/// `parameters` has.
 Advice AdviseOn(const Parameters& parameters, double powerAverage);
 
 /// The same, with every step added to `record`.

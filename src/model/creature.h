@@ -32,14 +32,14 @@ struct Skill {
 
 struct Creature {
     QString Name;
-    QString Id; ///< in the project TCX
+    QString Id; ///< its number in the creature-extension project TCX
     EnumArray<NumberField, QString> Numbers;
     EnumArray<ListField, Choice> Choices;
     std::array<bool, Ability::Count + 1> Abilities{}; ///< from 1
     std::array<Skill, SpellCount + 1> Spells{};       ///< from 1
     std::array<Skill, SpecabilityCount + 1>
         Specabilities{};                      ///< from 1; the inert one at 0 never is
-    std::int16_t SpellPoints1Count = 0;       ///< charge counter of the click rules
+    std::int16_t SpellPoints1Count = 0;       ///< charge counter of the box rules
     std::int16_t SpecabilityFlag = FlagFalse; ///< -1 after a tick, 0 after an untick
 
     bool operator==(const Creature&) const = default;
@@ -47,7 +47,8 @@ struct Creature {
     bool Has(int ability) const { return Abilities[static_cast<std::size_t>(ability)]; }
     void Set(int ability, bool ticked) { Abilities[static_cast<std::size_t>(ability)] = ticked; }
 
-    /// Chooses an entry of a list whose entries don't follow the language.
+    /// Chooses the entry `index`, which the list must have. Of a list that follows the language the
+    /// index alone is kept.
     void Choose(ListField list, std::int16_t index);
 };
 

@@ -14,6 +14,7 @@ struct Evaluation {
     std::optional<Advice> advice;   ///< the same
 };
 
+/// Validates, computes and advises, as one Calculate does.
 Evaluation Evaluate(const EnteredParameters& entered);
 
 /// The same, with every step added to `record`, which already has those of the product.

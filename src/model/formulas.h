@@ -42,6 +42,7 @@ struct Powers {
     bool operator==(const Powers&) const = default;
 };
 
+/// `parameters` must be validated.
 Powers ComputePowers(const Parameters& parameters);
 
 /// The same, with every step added to `record`.

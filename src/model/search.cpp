@@ -7,11 +7,11 @@ namespace Hesperin {
 
 namespace {
 
-/// How far a candidate lies from the band, and how far from the value of today.
-std::pair<double, int> DistanceOf(const Candidate& candidate, PowerBand wanted, int today) {
+/// How far a candidate lies from the band, and how far from the current value.
+std::pair<double, int> DistanceOf(const Candidate& candidate, PowerBand wanted, int current) {
     return {candidate.power < wanted.lowest ? wanted.lowest - candidate.power
                                             : candidate.power - wanted.highest,
-            std::abs(candidate.value - today)};
+            std::abs(candidate.value - current)};
 }
 
 } // namespace

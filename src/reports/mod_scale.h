@@ -15,6 +15,7 @@ namespace Hesperin {
 /// own CreatureTier) where both are above 0.
 class ModScale {
 public:
+    /// Passes over a tier that the game hasn't, and values of 0 or less.
     void Add(std::int16_t tier, Figure figure, double average, double inFile);
 
     /// None when no creature of the tier has the figure.

@@ -196,15 +196,15 @@ QString SolutionText(const Solution& solution, std::uint8_t languageId) {
     return Fill(PhraseIn(languageId, phrase), values);
 }
 
-std::vector<std::int16_t> ChoicesOf(const Solution& solution, std::int16_t today,
+std::vector<std::int16_t> ChoicesOf(const Solution& solution, std::int16_t current,
                                     std::size_t most) {
     std::vector<std::int16_t> choices = solution.exact;
     for (const auto& candidate : {solution.below, solution.above})
         if (candidate)
             choices.push_back(candidate->value);
-    std::erase(choices, today);
-    std::stable_sort(choices.begin(), choices.end(), [today](std::int16_t a, std::int16_t b) {
-        return std::abs(a - today) < std::abs(b - today);
+    std::erase(choices, current);
+    std::stable_sort(choices.begin(), choices.end(), [current](std::int16_t a, std::int16_t b) {
+        return std::abs(a - current) < std::abs(b - current);
     });
     choices.resize(std::min(choices.size(), most));
     return choices;

@@ -40,6 +40,7 @@ struct SolveReport {
     std::vector<Solution> solutions;
 };
 
+/// Of a creature without a file and a name. `parameters` must be validated.
 SolveReport SolveFor(const Parameters& parameters, const SolveWish& wish);
 
 /// Of the creature file `path`. The error names it.
@@ -54,8 +55,9 @@ QString SolveHead(const SolveReport& report, std::uint8_t languageId);
 QString SolutionText(const Solution& solution, std::uint8_t languageId);
 
 /// At most `most` of the values that come to what is wanted, or else next to it: those nearest to
-/// `today` first, which is none itself.
-std::vector<std::int16_t> ChoicesOf(const Solution& solution, std::int16_t today, std::size_t most);
+/// `current` first, which is none itself.
+std::vector<std::int16_t> ChoicesOf(const Solution& solution, std::int16_t current,
+                                    std::size_t most);
 
 /// A line a parameter, in the language of that number.
 QString SolveText(const SolveReport& report, std::uint8_t languageId);

@@ -127,6 +127,8 @@ struct SurveyProgress {
     std::atomic<bool> cancel{false};
 };
 
+/// Reads all files, on many threads. What can't be read is told in the survey. `progress` may be
+/// null.
 Survey TakeSurvey(const SurveyWish& wish, SurveyProgress* progress = nullptr);
 
 /// The row of one document, whose problem may be that it is no creature; scale and deviation are

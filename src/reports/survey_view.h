@@ -16,7 +16,7 @@ struct SurveyFilter {
     bool operator==(const SurveyFilter&) const = default;
 };
 
-/// Filters and sorts a survey of thousands of creatures between two pictures of a screen.
+/// Filters and sorts a survey.
 class SurveyView {
 public:
     SurveyView() : SurveyView(nullptr) {}

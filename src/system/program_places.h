@@ -14,7 +14,7 @@ QString SettingsFolderOfUser();
 /// Folder for what this program keeps for the user, which need not exist yet.
 QString DataFolderOfUser();
 
-/// Where the program keeps the language and the ability texts: in its own folder, or where that
+/// Where the program keeps its settings and the ability texts: in its own folder, or where that
 /// can't be written, in the user's. What lies in the user's wins.
 struct ProgramPlaces {
     QString programFolder;

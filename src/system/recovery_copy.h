@@ -24,7 +24,7 @@ public:
     QString PutAside();
 
     /// Writes the copy, in its own time: a slow disk holds nobody up. What comes in the way is told
-    /// nobody. False: the last one is still being written, or nothing can be done beside the
+    /// to nobody. False: the last one is still being written, or nothing can be done beside the
     /// program now.
     bool Write(const QByteArray& bytes);
 

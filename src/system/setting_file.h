@@ -9,8 +9,9 @@
 
 namespace Hesperin {
 
-/// The first line, without its line end, of the setting's file: that of the user, or else that in
-/// the program's folder. Empty when it can't be read, none when there is no such file.
+/// The first line, without its line end and at most 16 bytes of it, of the setting's file: that of
+/// the user, or else that in the program's folder. Empty when it can't be read, none when there is
+/// no such file.
 std::optional<QByteArray> ReadSetting(const ProgramPlaces& places, const QString& name);
 
 /// Writes `value` as the whole content of the setting's file. False when neither place can be

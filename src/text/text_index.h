@@ -10,8 +10,8 @@ namespace Hesperin {
 
 /// Where each group of four neighbouring characters stands in a text, letter case not counting, so
 /// that a search looks only at places where the end of its needle can be. Reading a creature file
-/// asks for more than 350 needles, nearly all of them absent: with the index each costs a few
-/// nanoseconds instead of a pass over the text.
+/// asks for more than 350 needles, nearly all of them absent: the index saves each a pass over the
+/// text.
 class TextIndex {
 public:
     /// 0-based position of the first occurrence of `needle` in a short text, letter case not

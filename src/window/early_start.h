@@ -7,8 +7,8 @@
 namespace Hesperin {
 
 /// What needs no display and begins before the toolkit does, beside its start: the instance lock
-/// goes to the disk, and the system's list of fonts is read (together 11 ms). It must exist before
-/// the application and outlive it.
+/// goes to the disk, a file that was left for an earlier run is taken away, and the system's list of
+/// fonts is read. It must exist before the application and outlive it.
 class EarlyStart {
 public:
     EarlyStart();

@@ -4,7 +4,7 @@
 
 namespace Hesperin {
 
-/// Chapters as a page of rich text in the colours of the moment: a table a chapter, whose columns
+/// Chapters as a page of rich text in the current colours: a table a chapter, whose columns
 /// stand under one another from table to table.
 QString ExplanationPage(const QString& head, const std::vector<ExplainedChapter>& chapters);
 

@@ -65,7 +65,7 @@ void FileStatus::Follow() {
         ShowBar(false);
         Look();
     } else {
-        ShowBar(!bar->isHidden()); // in the language of the moment
+        ShowBar(!bar->isHidden()); // in the current language
     }
 }
 

@@ -13,8 +13,8 @@ namespace Hesperin {
 /// and a bar when somebody else has changed the file on disk.
 class FileStatus {
 public:
-    /// `reload` opens the file again.
-    FileStatus(Program& program, QMenuBar& menus, std::function<void(const QString&)> reload);
+    /// `opener` opens a file.
+    FileStatus(Program& program, QMenuBar& menus, std::function<void(const QString&)> opener);
     FileStatus(const FileStatus&) = delete;
     FileStatus& operator=(const FileStatus&) = delete;
 

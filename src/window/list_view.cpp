@@ -53,8 +53,7 @@ void ListView::paintEvent(QPaintEvent*) {
 }
 
 void ListView::changeEvent(QEvent* event) {
-    // The list that drops down inherits its wantedFont; the toolkit would build it now, only to
-    // tell it.
+    // The list that drops down inherits its font; the toolkit would build it now, only to tell it.
     if (event->type() == QEvent::FontChange)
         update();
     else

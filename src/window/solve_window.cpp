@@ -167,7 +167,7 @@ void SolveWindow::ShowReport(const SolveReport& report) {
 void SolveWindow::ShowRow(int row, const SolveReport& report) {
     const Solution& solution = report.solutions[static_cast<std::size_t>(row)];
     const std::uint8_t language = program.state.LanguageId;
-    const std::int16_t today = report.parameters[solution.parameter];
+    const std::int16_t current = report.parameters[solution.parameter];
     const auto put = [&](int column, const QString& words, Qt::Alignment alignment) {
         auto* item = table->item(row, column);
         if (item == nullptr)
@@ -179,10 +179,10 @@ void SolveWindow::ShowRow(int row, const SolveReport& report) {
         return item;
     };
     put(NameColumn, ParameterIn(language, solution.parameter), Qt::AlignLeft);
-    put(NowColumn, QString::number(today), Qt::AlignRight);
+    put(NowColumn, QString::number(current), Qt::AlignRight);
     const QString words = SolutionText(solution, language);
     put(WordsColumn, words, Qt::AlignLeft)->setToolTip(words); // for a narrow window
-    const auto choices = ChoicesOf(solution, today, OfferedChoices);
+    const auto choices = ChoicesOf(solution, current, OfferedChoices);
     for (std::size_t i = 0; i < OfferedChoices; ++i) {
         const bool some = i < choices.size();
         auto* item = put(FirstChoice + static_cast<int>(i),

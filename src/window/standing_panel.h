@@ -6,7 +6,7 @@ class QWidget;
 
 namespace Hesperin {
 
-/// Tells on page 0, whose top is `top` pixels below the tab control's, where the creature stands in
+/// Tells on the page of the parameters, whose top is `top` pixels below the tab control's, where the creature stands in
 /// the mod. It is built when a survey is loaded for the first time.
 class StandingPanel : public ControlView {
 public:

@@ -24,8 +24,7 @@ namespace Hesperin {
 namespace {
 
 /// Why the composed text must not replace a file: the reader refuses it, or finds another name in
-/// it. Plain values can't be misread, and are most of all; reading them again would make a save
-/// half as long again.
+/// it. Plain values, which most are, can't be misread, and aren't read again.
 Failure ReadBackFault(const CreatureText& composed, const QString& name) {
     constexpr qsizetype emptyElements = 100; // what they may grow by
     if (composed.plain && composed.text.size() < LongestCreatureText - emptyElements)

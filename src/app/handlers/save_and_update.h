@@ -5,8 +5,8 @@
 
 namespace Hesperin {
 
-/// Asks for a place and saves the creature there, the whole file or nothing; page 4 shows the text
-/// afterwards. Without a name: MsgEnterName (critical) and nothing else. Where a file is replaced,
+/// Asks for a place and saves the creature there, the whole file or nothing; the file's page shows the
+/// text afterwards. Without a name: MsgEnterName (critical) and nothing else. Where a file is replaced,
 /// a question tells what would be lost (MsgReplaceLoses) and offers to update instead where it is
 /// the opened one. What can't be read back is not saved. A failure is told in a critical box
 /// (MsgSaveFailed), what could not be kept of an old file in an information box (MsgSavedBut). A
