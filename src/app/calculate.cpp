@@ -13,35 +13,18 @@ namespace {
 
 /// Puts the corrected value into the field that it came from.
 void Rewrite(MainForm& form, const Correction& correction) {
-    using Corrected = Correction::What;
     const QString text = QString::number(correction.to);
-    switch (correction.what) {
-    case Corrected::Mana:
-        return form.txtMana.SetText(text);
-    case Corrected::Shots:
-        return form.txtShots.SetText(text);
-    case Corrected::Attack:
-        return form.txtAttack.SetText(text);
-    case Corrected::Defence:
-        return form.txtDefence.SetText(text);
-    case Corrected::Health:
-        return form.txtHealth.SetText(text);
-    case Corrected::MinDam:
-        return form.txtMinDam.SetText(text);
-    case Corrected::MaxDam:
-        return form.txtMaxDam.SetText(text);
-    case Corrected::DamageOrder:
-        form.txtMinDam.SetText(text);
-        return form.txtMaxDam.SetText(text);
-    case Corrected::Speed:
-        return form.ComboSpeed.SetText(text);
-    case Corrected::Initiative:
-        return form.ComboInitiative.SetText(text);
-    case Corrected::Tier:
-        return form.ComboTier.SetText(text);
-    case Corrected::Count:
-        break;
-    }
+    const auto parameter = ParameterOf(correction.what);
+    if (correction.what == Correction::What::Mana)
+        form.txtMana.SetText(text);
+    else if (correction.what == Correction::What::Shots)
+        form.txtShots.SetText(text);
+    else if (const ParameterControl& control = ParameterControls[*parameter]; control.field)
+        (form.*control.field).SetText(text);
+    else
+        (form.*control.list).SetText(text);
+    if (correction.what == Correction::What::DamageOrder)
+        form.txtMaxDam.SetText(text);
 }
 
 void TellCorrections(Program& program, const std::vector<Correction>& corrections) {
@@ -53,17 +36,6 @@ void TellCorrections(Program& program, const std::vector<Correction>& correction
         program.Warn(BoxIcon::Critical,
                      CorrectionText(program.state.messages, caption, correction));
     }
-}
-
-void Show(MainForm& form, const SharedState& state, const ResultRow& row) {
-    (form.*row.place.label)
-        .SetCaption(
-            WholeDigits(ResultOf(state.powers, state.figures, row.method, row.figure)).View());
-}
-
-/// The two Powers are shown also when nothing else can be computed.
-bool IsPowerOfMethod(const ResultRow& row) {
-    return row.figure == Figure::Power && row.method != Method::Average;
 }
 
 } // namespace
@@ -84,8 +56,8 @@ void Calculate(Program& program) {
     if (evaluation.figures)
         state.figures = *evaluation.figures;
     for (const ResultRow& row : ResultRows)
-        if (evaluation.figures || IsPowerOfMethod(row))
-            Show(form, state, row);
+        if (const auto result = ResultReached(evaluation, row.method, row.figure))
+            (form.*row.place.label).SetCaption(WholeDigits(*result).View());
     FollowResults(program);
     if (!evaluation.figures)
         return program.Warn(BoxIcon::Critical, state.messages.MsgZeroPower);

@@ -9,11 +9,8 @@ Result<SolveReport> SolveNow(const Program& program, const SolveGoal& goal, bool
     SolveWish wish{goal};
     if (byScale) {
         wish.scale = &program.survey->scale;
-        if (!wish.scale->Of(parameters.Tier, Figure::Power)) {
-            Error error{Error::What::NoScale, QString::number(parameters.Tier)};
-            error.element = QStringLiteral("Power");
-            return error;
-        }
+        if (!wish.scale->Of(parameters.Tier, Figure::Power))
+            return ModScale::NoScale(QString::number(parameters.Tier), QStringLiteral("Power"));
     }
     SolveReport report = SolveFor(parameters, wish);
     const QString& name = program.form.txtNC.Text();

@@ -5,30 +5,7 @@
 #include "form/form_lists.h"
 #include "text/numbers.h"
 
-#include <cmath>
-
 namespace Hesperin {
-
-namespace {
-
-/// The field or the list of a parameter.
-struct ParameterControl {
-    TextField MainForm::*field;
-    ComboBox MainForm::*list;
-};
-
-constexpr EnumArray<Parameter, ParameterControl> ParameterControls{{{
-    {&MainForm::txtAttack, nullptr},
-    {&MainForm::txtDefence, nullptr},
-    {&MainForm::txtMinDam, nullptr},
-    {&MainForm::txtMaxDam, nullptr},
-    {&MainForm::txtHealth, nullptr},
-    {nullptr, &MainForm::ComboSpeed},
-    {nullptr, &MainForm::ComboInitiative},
-    {nullptr, &MainForm::ComboTier},
-}}};
-
-} // namespace
 
 Failure TakeOverComputed(Program& program) {
     MainForm& form = program.form;
@@ -46,13 +23,11 @@ Failure TakeOverComputed(Program& program) {
         const FigureInFile& place = FiguresInFile[i];
         double figure = ResultOf(state.powers, state.figures, Method::Average, place.figure);
         if (scaled) {
-            const auto scale = program.survey->scale.Of(state.parameters.Tier, place.figure);
-            if (!scale) {
-                Error error{Error::What::NoScale, QString::number(state.parameters.Tier)};
-                error.element = place.element.toString();
-                return program.Refuse(error);
-            }
-            figure = std::round(figure / *scale);
+            const auto inMod = program.survey->scale.Scaled(figure, state.parameters.Tier,
+                                                            place.figure, place.element.toString());
+            if (!inMod)
+                return program.Refuse(inMod.Why());
+            figure = *inMod;
         }
         texts[i] = WholeText(figure);
     }

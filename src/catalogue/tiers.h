@@ -6,9 +6,11 @@
 
 namespace Hesperin {
 
-/// Indexed by tier, 1 to 8; entry 0 is never read.
+inline constexpr std::int16_t HighestTier = 8;
+
+/// Indexed by tier, from 1; entry 0 is never read.
 template <typename T>
-using TierTable = std::array<T, 9>;
+using TierTable = std::array<T, HighestTier + 1>;
 
 // clang-format off
 //                                                        tier      1      2      3      4      5      6      7      8

@@ -55,6 +55,11 @@ constexpr Element Table[] = {
     {u"Upgrades",                   {},               FixedEmpty},
     {u"Abilities",                  {},               Abilities,   30},
 };
+
+constexpr EnumArray<Parameter, QStringView> ParameterElements{{{
+    u"AttackSkill", u"DefenceSkill", u"MinDamage", u"MaxDamage", u"Health", u"Speed",
+    u"Initiative", u"CreatureTier",
+}}};
 // clang-format on
 
 } // namespace
@@ -75,6 +80,17 @@ const Element* ElementAt(QStringView path) {
             return element.name == name && element.parent == parent;
         });
     return found == std::end(Table) ? nullptr : found;
+}
+
+QStringView ElementOf(Parameter parameter) {
+    return ParameterElements[parameter];
+}
+
+std::optional<Parameter> ParameterIn(QStringView element) {
+    for (std::size_t i = 0; i < ParameterElements.items.size(); ++i)
+        if (ParameterElements.items[i] == element)
+            return static_cast<Parameter>(i);
+    return std::nullopt;
 }
 
 std::span<const Element* const> ElementsToRead() {

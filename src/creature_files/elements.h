@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <span>
 
 namespace Hesperin {
@@ -48,6 +49,10 @@ QString PathOf(const Element& element);
 
 /// The element of the format that has the path; null when none has.
 const Element* ElementAt(QStringView path);
+
+/// The element that holds a parameter, and the other way round.
+QStringView ElementOf(Parameter parameter);
+std::optional<Parameter> ParameterIn(QStringView element);
 
 /// Every element that is read, in the order of reading.
 std::span<const Element* const> ElementsToRead();

@@ -41,6 +41,23 @@ inline constexpr EnumArray<ListField, ComboBox MainForm::*> ListFields{{{
     &MainForm::ComboTTC,
 }}};
 
+/// The field or the list of a parameter.
+struct ParameterControl {
+    TextField MainForm::*field;
+    ComboBox MainForm::*list;
+};
+
+inline constexpr EnumArray<Parameter, ParameterControl> ParameterControls{{{
+    {&MainForm::txtAttack, nullptr},
+    {&MainForm::txtDefence, nullptr},
+    {&MainForm::txtMinDam, nullptr},
+    {&MainForm::txtMaxDam, nullptr},
+    {&MainForm::txtHealth, nullptr},
+    {nullptr, &MainForm::ComboSpeed},
+    {nullptr, &MainForm::ComboInitiative},
+    {nullptr, &MainForm::ComboTier},
+}}};
+
 /// A label that shows a figure, in the frame that names the figure, under the heading that names
 /// the method.
 struct ResultPlace {

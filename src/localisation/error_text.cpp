@@ -53,7 +53,6 @@ constexpr QString Messages::*Sentences[] = {
     &Messages::MsgWordUnknown,
     &Messages::MsgTownUnknown,
     &Messages::MsgNoList,
-    &Messages::MsgNoFigure,
     &Messages::MsgCountsAs,
     &Messages::MsgNoPower,
     &Messages::MsgNoScale,

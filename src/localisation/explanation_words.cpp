@@ -113,12 +113,6 @@ constexpr EnumArray<Correction::What, Texts> Fields{{{
     /* Initiative  */ {u"Initiative", u"Инициатива"},
     /* Tier        */ {u"Tier",       u"Уровень"},
 }}};
-
-constexpr EnumArray<Parameter, Correction::What> FieldOf{{{
-    Correction::What::Attack, Correction::What::Defence, Correction::What::MinDam,
-    Correction::What::MaxDam, Correction::What::Health,  Correction::What::Speed,
-    Correction::What::Initiative, Correction::What::Tier,
-}}};
 // clang-format on
 
 /// English where the language has none.
@@ -149,7 +143,10 @@ QString StepIn(std::uint8_t languageId, const StepWords& step) {
 }
 
 QString ParameterIn(std::uint8_t languageId, Parameter parameter) {
-    return CorrectedIn(languageId, FieldOf[parameter]);
+    auto what = Correction::What::Mana;
+    while (ParameterOf(what) != parameter)
+        what = static_cast<Correction::What>(static_cast<int>(what) + 1);
+    return CorrectedIn(languageId, what);
 }
 
 QString CorrectedIn(std::uint8_t languageId, Correction::What what) {

@@ -100,7 +100,6 @@ constexpr MessageRow Table[] = {
     {&Messages::MsgWordUnknown,           {u"\"%3\" knows no word \"%1\"; the nearest is \"%2\".", u"Для \"%3\" нет слова \"%1\"; ближайшее — \"%2\".", nullptr, nullptr}},
     {&Messages::MsgTownUnknown,           {u"\"%1\" is no town of the game; it is taken as it is. The nearest is \"%2\".", u"\"%1\" не город игры; взято как есть. Ближайший — \"%2\".", nullptr, nullptr}},
     {&Messages::MsgNoList,                {u"\"%1\" is no list of items.", u"\"%1\" не список.", nullptr, nullptr}},
-    {&Messages::MsgNoFigure,              {u"\"%3\" has no computed figure \"%1\".", u"Для \"%3\" нет вычисляемого значения \"%1\".", nullptr, nullptr}},
     {&Messages::MsgCountsAs,              {u"\"%3\" counts as %2 in the computed figures, not as \"%1\".", u"В вычисленных значениях \"%3\" считается за %2, а не за \"%1\".", nullptr, nullptr}},
     {&Messages::MsgNoPower,               {u"Its Power is zero, so nothing can be computed.", u"Его сила равна нулю, и вычислить ничего нельзя.", nullptr, nullptr}},
     {&Messages::MsgNoScale,               {u"There is no scale of \"%3\" for tier %1.", u"Для уровня %1 нет масштаба \"%3\".", nullptr, nullptr}},

@@ -83,7 +83,6 @@ struct Messages {
     QString MsgWordUnknown;
     QString MsgTownUnknown;
     QString MsgNoList;
-    QString MsgNoFigure;
     QString MsgCountsAs;
     QString MsgNoPower;
     QString MsgNoScale;

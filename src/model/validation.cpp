@@ -3,7 +3,7 @@
 #include "catalogue/ability_catalogue.h"
 #include "text/numbers.h"
 
-#include <optional>
+#include <span>
 
 namespace Hesperin {
 
@@ -142,6 +142,16 @@ std::int16_t Parameters::*Parameters::Member(Parameter which) {
         {{&Parameters::Attack, &Parameters::Defence, &Parameters::MinDam, &Parameters::MaxDam,
           &Parameters::Health, &Parameters::Speed, &Parameters::Initiative, &Parameters::Tier}}};
     return members[which];
+}
+
+std::optional<Parameter> ParameterOf(Correction::What what) {
+    if (what == Corrected::DamageOrder)
+        return Parameter::MinDam;
+    for (const auto& rows : {std::span<const Row>(Fields), std::span<const Row>(Lists)})
+        for (const Row& row : rows)
+            if (row.what == what)
+                return row.parameter;
+    return std::nullopt;
 }
 
 Validated Validate(const EnteredParameters& entered) {

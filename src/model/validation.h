@@ -5,6 +5,7 @@
 #include "model/creature.h"
 #include "model/terms.h"
 
+#include <optional>
 #include <vector>
 
 namespace Hesperin {
@@ -74,6 +75,9 @@ struct Correction {
 
     bool operator==(const Correction&) const = default;
 };
+
+/// The parameter that is corrected; none for mana and shots, of DamageOrder the minimum.
+std::optional<Parameter> ParameterOf(Correction::What what);
 
 struct Validated {
     Parameters parameters;

@@ -11,19 +11,6 @@ namespace Hesperin {
 
 namespace {
 
-// clang-format off
-constexpr std::pair<QStringView, Parameter> ElementRanges[] = {
-    {u"AttackSkill",  Parameter::Attack},
-    {u"DefenceSkill", Parameter::Defence},
-    {u"MinDamage",    Parameter::MinDam},
-    {u"MaxDamage",    Parameter::MaxDam},
-    {u"Health",       Parameter::Health},
-    {u"Speed",        Parameter::Speed},
-    {u"Initiative",   Parameter::Initiative},
-    {u"CreatureTier", Parameter::Tier},
-};
-// clang-format on
-
 constexpr QStringView FiguresAboveZero[] = {u"Power", u"WeeklyGrowth", u"Cost/Gold"};
 
 void CheckNumber(const FileElement& element, FindingList& findings) {
@@ -51,10 +38,8 @@ const FileElement& Around(const FileElements& elements, const Element& lacking) 
 } // namespace
 
 const ParameterRange* RangeOf(QStringView element) {
-    for (const auto& [name, parameter] : ElementRanges)
-        if (name == element)
-            return &ParameterRanges[parameter];
-    return nullptr;
+    const auto parameter = ParameterIn(element);
+    return parameter ? &ParameterRanges[*parameter] : nullptr;
 }
 
 void CheckElements(const FileElements& elements, FindingList& findings) {

@@ -7,10 +7,11 @@ namespace Hesperin {
 
 namespace {
 
-/// `record` has the steps of the product.
-Explanation ExplainEntered(const EnteredParameters& entered, Record& record) {
+/// `record` has the steps of the product. `input`: what Evaluate takes.
+template <typename Input>
+Explanation ExplainWith(const Input& input, Record& record) {
     Explanation explanation;
-    explanation.evaluation = Evaluate(entered, record);
+    explanation.evaluation = Evaluate(input, record);
     explanation.terms = record.Terms();
     for (std::size_t i = 0; i < PowerParameters; ++i)
         explanation.gains[i] =
@@ -22,31 +23,17 @@ Explanation ExplainEntered(const EnteredParameters& entered, Record& record) {
 
 Explanation Explain(const Creature& creature, const QString& name, const QString& file) {
     Record record;
-    Explanation explanation = ExplainEntered(EnteredOf(creature, record), record);
+    Explanation explanation = ExplainWith(EnteredOf(creature, record), record);
     explanation.name = name;
     explanation.file = file;
     return explanation;
 }
 
 Explanation Explain(const Parameters& parameters, const QString& name) {
-    EnumArray<Parameter, QString> texts;
-    for (std::size_t i = 0; i < texts.items.size(); ++i)
-        texts.items[i] = QString::number(parameters[static_cast<Parameter>(i)]);
-    EnteredParameters entered;
-    entered.Attack = texts[Parameter::Attack];
-    entered.Defence = texts[Parameter::Defence];
-    entered.Health = texts[Parameter::Health];
-    entered.MinDam = texts[Parameter::MinDam];
-    entered.MaxDam = texts[Parameter::MaxDam];
-    entered.Speed = texts[Parameter::Speed];
-    entered.Initiative = texts[Parameter::Initiative];
-    entered.Tier = texts[Parameter::Tier];
-    entered.Shooter = parameters.Shooter;
-    entered.Shots = u"1";
-    entered.UpgradeFactor = parameters.UpgradeFactor;
     Record record;
-    record.Step("product", entered.AbilityProduct, parameters.AbilityProduct);
-    Explanation explanation = ExplainEntered(entered, record);
+    float product = 0;
+    record.Step("product", product, parameters.AbilityProduct);
+    Explanation explanation = ExplainWith(parameters, record);
     explanation.name = name;
     return explanation;
 }
@@ -60,10 +47,9 @@ Result<Explanation> ExplainFile(const QString& path) {
 }
 
 QString CorrectedField(Correction::What what) {
-    static constexpr EnumArray<Correction::What, const char*> names{
-        {{"Mana", "Shots", "Attack", "Defence", "Health", "MinDam", "MaxDam", "MinDam", "Speed",
-          "Initiative", "Tier"}}};
-    return QString::fromLatin1(names[what]);
+    if (const auto parameter = ParameterOf(what))
+        return ParameterRanges[*parameter].name.toString();
+    return what == Correction::What::Mana ? QStringLiteral("Mana") : QStringLiteral("Shots");
 }
 
 } // namespace Hesperin

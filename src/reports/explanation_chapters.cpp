@@ -80,19 +80,15 @@ private:
 
     void TellCorrections() {
         using Corrected = Correction::What;
-        static constexpr EnumArray<Corrected, Parameter> ofField{
-            {{Parameter::Count, Parameter::Count, Parameter::Attack, Parameter::Defence,
-              Parameter::Health, Parameter::MinDam, Parameter::MaxDam, Parameter::MinDam,
-              Parameter::Speed, Parameter::Initiative, Parameter::Tier}}};
         for (const Correction& correction : explanation.evaluation.validated.corrections) {
-            const Parameter parameter = ofField[correction.what];
+            const auto parameter = ParameterOf(correction.what);
             QString reason = Words(Phrase::AllowedFrom, {QStringLiteral("1")});
             if (correction.what == Corrected::DamageOrder)
                 reason = Words(Phrase::NotAboveMax);
-            else if (parameter != Parameter::Count)
+            else if (parameter)
                 reason =
-                    Words(Phrase::Allowed, {QString::number(ParameterRanges[parameter].lowest),
-                                            QString::number(ParameterRanges[parameter].highest)});
+                    Words(Phrase::Allowed, {QString::number(ParameterRanges[*parameter].lowest),
+                                            QString::number(ParameterRanges[*parameter].highest)});
             Tell(Chapter::Corrected, CorrectedIn(languageId, correction.what),
                  QStringLiteral("\"%1\" → %2 (%3)")
                      .arg(correction.from.simplified(), QString::number(correction.to), reason));

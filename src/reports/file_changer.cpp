@@ -6,8 +6,6 @@
 #include "system/read_file.h"
 #include "text/numbers.h"
 
-#include <cmath>
-
 namespace Hesperin {
 
 namespace {
@@ -18,11 +16,6 @@ struct Computed {
     QString tier;
 };
 
-/// The elements behind what is corrected; null where no figure depends on it.
-constexpr EnumArray<Correction::What, const char*> CorrectedElements{
-    {{nullptr, nullptr, "AttackSkill", "DefenceSkill", "Health", "MinDamage", "MaxDamage",
-      "MinDamage", "Speed", "Initiative", "CreatureTier"}}};
-
 Error CountsAs(const QString& element, const QString& value, const QString& counted) {
     Error note{Error::What::CountsAs, value, counted};
     note.element = element;
@@ -32,8 +25,8 @@ Error CountsAs(const QString& element, const QString& value, const QString& coun
 /// What the figures are computed with, otherwise than the file says.
 void AddNotes(const ReadCreature& read, const Evaluation& evaluation, std::vector<Error>& notes) {
     for (const Correction& correction : evaluation.validated.corrections)
-        if (const char* element = CorrectedElements[correction.what])
-            notes.push_back(CountsAs(QString::fromLatin1(element), correction.from,
+        if (const auto parameter = ParameterOf(correction.what))
+            notes.push_back(CountsAs(ElementOf(*parameter).toString(), correction.from,
                                      QString::number(correction.to)));
     for (const ListField list :
          {ListField::Tier, ListField::Speed, ListField::Initiative, ListField::Upgrade})
@@ -65,13 +58,11 @@ Failure SetFigure(const ComputedChange& change, const Computed& computed, const 
     double figure = ResultOf(computed.evaluation.powers, *computed.evaluation.figures,
                              change.method, change.figure);
     if (scale != nullptr) {
-        const auto divisor = scale->Of(RoundTo16Bits(TextToNumber(computed.tier)), change.figure);
-        if (!divisor) {
-            Error error{Error::What::NoScale, computed.tier};
-            error.element = change.name;
-            return error;
-        }
-        figure = std::round(figure / *divisor);
+        const auto inMod = scale->Scaled(figure, RoundTo16Bits(TextToNumber(computed.tier)),
+                                         change.figure, change.name);
+        if (!inMod)
+            return inMod.Why();
+        figure = *inMod;
     }
     return file.Set(change.name, WholeText(figure));
 }

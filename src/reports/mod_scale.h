@@ -1,11 +1,12 @@
 #pragma once
 
+#include "catalogue/enum_array.h"
 #include "catalogue/results.h"
-#include "model/creature.h"
-
-#include <QStringList>
+#include "catalogue/tiers.h"
+#include "text/error.h"
 
 #include <array>
+#include <optional>
 #include <vector>
 
 namespace Hesperin {
@@ -21,6 +22,14 @@ public:
     /// None when no creature of the tier has the figure.
     std::optional<double> Of(std::int16_t tier, Figure figure) const;
 
+    /// A computed figure divided by its scale, to the nearest whole number. Without a scale the
+    /// error (NoScale) names the tier and `element`.
+    Result<double> Scaled(double computed, std::int16_t tier, Figure figure,
+                          const QString& element) const;
+
+    /// That error.
+    static Error NoScale(const QString& tier, const QString& element);
+
     /// The number of creatures behind it.
     std::size_t CountOf(std::int16_t tier, Figure figure) const;
 
@@ -28,12 +37,9 @@ public:
     std::vector<std::int16_t> KnownTiers() const;
 
 private:
-    static constexpr std::size_t Tiers = 9; // 1 to 8
-
     const std::vector<double>* RatiosOf(std::int16_t tier, Figure figure) const;
 
-    std::array<std::array<std::vector<double>, Tiers>, static_cast<std::size_t>(Figure::Count)>
-        ratios;
+    EnumArray<Figure, TierTable<std::vector<double>>> ratios;
 };
 
 } // namespace Hesperin

@@ -41,7 +41,7 @@ public:
 
 private:
     bool scaled;
-    std::array<std::optional<double>, 9> scales;
+    TierTable<std::optional<double>> scales;
 };
 
 QJsonValue CandidateJson(const std::optional<Candidate>& candidate) {
@@ -141,8 +141,7 @@ Result<SolveReport> SolveFile(const QString& path, const SolveWish& wish) {
     const QString& tier = read.creature.Choices[ListField::Tier].text;
     if (wish.scale != nullptr &&
         !wish.scale->Of(RoundTo16Bits(TextToNumber(tier)), Figure::Power)) {
-        Error error{Error::What::NoScale, tier};
-        error.element = QStringLiteral("Power");
+        Error error = ModScale::NoScale(tier, QStringLiteral("Power"));
         error.file = path;
         return error;
     }

@@ -138,7 +138,7 @@ private:
                 survey.rows.push_back(std::move(*row));
                 row.reset();
             }
-        std::array<std::optional<double>, 9> scales; // by tier; no creature has tier 0
+        TierTable<std::optional<double>> scales; // no creature has tier 0
         for (std::size_t tier = 1; tier < scales.size(); ++tier)
             scales[tier] = survey.scale.Of(static_cast<std::int16_t>(tier), Figure::Power);
         for (SurveyRow& row : survey.rows) {

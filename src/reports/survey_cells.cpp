@@ -88,12 +88,8 @@ std::optional<double> InFile(const QString& text) {
     return static_cast<double>(number->units) / std::pow(10.0, number->places);
 }
 
-/// A Power of 0 stops the calculation behind the Powers of the two methods.
 std::optional<double> ComputedIn(const SurveyRow& row, const ColumnRow& column) {
-    const bool beforeTheStop = column.figure == F::Power && column.method != M::Average;
-    if (!row.figures && !beforeTheStop)
-        return std::nullopt;
-    return ResultOf(row.powers, row.figures.value_or(Figures()), column.method, column.figure);
+    return ResultReached(row.powers, row.figures, column.method, column.figure);
 }
 
 } // namespace

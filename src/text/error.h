@@ -56,7 +56,6 @@ struct Error {
         WordUnknown,      ///< `value` for the element `element`, `expected` the nearest known one
         TownUnknown, ///< `value` is no town of the game, `expected` the nearest; taken all the same
         NoList,      ///< `value` holds no list of items
-        NoFigure,    ///< `element` has no computed figure `value`
         CountsAs,    ///< in the computed figures: `element` as `expected`, not as `value`
         NoPower,     ///< Power is 0, so that there are no figures
         NoScale,     ///< tier `value` has no scale for `element`
