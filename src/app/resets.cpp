@@ -38,7 +38,7 @@ void ClearCreature(Program& program) {
         (form.*ListFields.items[list]).Select(ListCatalogue.items[list].initial);
     for (const auto field : NumberFields)
         (form.*field).SetText(QStringLiteral("0"));
-    program.state.CreatureName = QStringLiteral("Test");
+    program.state.CreatureName = DefaultCreatureName.toString();
     form.cmdCalc.SetToolTip({});
     for (const ResultRow& row : ResultRows)
         (form.*row.place.label).SetCaption(QString());

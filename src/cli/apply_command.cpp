@@ -50,10 +50,8 @@ int RunApply(const QCommandLineParser& parser) {
     QString reason = WhyAtOdds(parser);
     if (arguments.size() != 2)
         reason = QStringLiteral("one TABLE and one PATH are expected");
-    if (!reason.isEmpty()) {
-        Complain(QLatin1String("talmir-cli apply: ") + reason);
-        return WrongUsage;
-    }
+    if (!reason.isEmpty())
+        return Misused("apply", reason);
     const QString& table = arguments[0];
     const QString& path = arguments[1];
     if (!QFileInfo::exists(path))

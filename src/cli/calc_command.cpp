@@ -24,10 +24,8 @@ void DescribeCalc(QCommandLineParser& parser) {
 int Calc(const QCommandLineParser& parser) {
     const QStringList paths = parser.positionalArguments();
     const bool json = parser.isSet(JsonOfCalc);
-    if (paths.isEmpty()) {
-        Complain(QStringLiteral("talmir-cli calc: at least one FILE is expected"));
-        return WrongUsage;
-    }
+    if (paths.isEmpty())
+        return Misused("calc", QStringLiteral("at least one FILE is expected"));
     const FoundFiles found = CreatureFilesAt(paths);
     bool allOpened = found.refused.empty();
     for (const QString& file : found.files) {

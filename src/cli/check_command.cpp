@@ -113,10 +113,8 @@ void PrintText(const Survey& survey, const Messages& messages) {
 int RunCheck(const QCommandLineParser& parser) {
     const QStringList paths = parser.positionalArguments();
     const qsizetype count = CountModPaths(paths);
-    if (paths.isEmpty()) {
-        Complain(QStringLiteral("talmir-cli check: at least one PATH is expected"));
-        return WrongUsage;
-    }
+    if (paths.isEmpty())
+        return Misused("check", QStringLiteral("at least one PATH is expected"));
     SurveyWish wish;
     wish.paths = paths.first(count);
     wish.game = parser.values(GameOption) + paths.mid(count);

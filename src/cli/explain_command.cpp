@@ -31,11 +31,9 @@ void DescribeExplain(QCommandLineParser& parser) {
 int RunExplain(const QCommandLineParser& parser) {
     const QStringList files = parser.positionalArguments();
     const auto languageId = LanguageOf(parser);
-    if (files.size() != 1 || !languageId) {
-        Complain(languageId ? QStringLiteral("talmir-cli explain: exactly one FILE is expected")
-                            : QStringLiteral("talmir-cli explain: --lang takes EN or RU"));
-        return WrongUsage;
-    }
+    if (files.size() != 1 || !languageId)
+        return Misused("explain", languageId ? QStringLiteral("exactly one FILE is expected")
+                                             : QStringLiteral("--lang takes EN or RU"));
     const auto explanation = ExplainFile(files.front());
     if (!explanation) {
         Complain(ErrorText(MessagesIn(*languageId), explanation.Why()));

@@ -35,11 +35,8 @@ void DescribeFind(QCommandLineParser& parser) {
 int RunFind(const QCommandLineParser& parser) {
     const QString text = parser.positionalArguments().join(u' ').simplified();
     const auto language = LanguageOf(parser);
-    if (text.isEmpty() || !language) {
-        Complain(
-            QStringLiteral("talmir-cli find: a TEXT to find is expected, and --lang EN or RU"));
-        return WrongUsage;
-    }
+    if (text.isEmpty() || !language)
+        return Misused("find", QStringLiteral("a TEXT to find is expected, and --lang EN or RU"));
     const AllAbilityWords words =
         LoadAbilityTexts(MessagesIn(*language).LanguageCode,
                          {QCoreApplication::applicationDirPath(), SettingsFolderOfUser()});

@@ -1,5 +1,6 @@
 #include "cli/output.h"
 
+#include "cli/command.h"
 #include "localisation/error_text.h"
 #include "localisation/languages.h"
 #include "text/plain_lines.h"
@@ -45,6 +46,11 @@ void Complain(const FoundFiles& found, const QStringList& paths) {
         Complain(QStringLiteral("There is no creature file in %1.")
                      .arg(Printable(paths.join(QLatin1String(", ")))));
     Complain(found.refused, MessagesIn(English));
+}
+
+int Misused(const char* name, const QString& reason) {
+    Complain(QStringLiteral("talmir-cli %1: %2").arg(QLatin1String(name), reason));
+    return WrongUsage;
 }
 
 bool FlushOutput() {

@@ -19,6 +19,9 @@ void Complain(const std::vector<RefusedPlace>& places, const Messages& messages)
 /// In English: of what was refused of the paths, or that there is no creature file at all.
 void Complain(const FoundFiles& found, const QStringList& paths);
 
+/// Complains of how the command `name` was called; gives the exit code for that.
+int Misused(const char* name, const QString& reason);
+
 /// Writes out what is still held back. False when any result could not be written.
 bool FlushOutput();
 

@@ -103,11 +103,8 @@ bool Play(QFile& script, const QString& name, ScriptStage& stage, bool keepGoing
 int RunScript(const QCommandLineParser& parser) {
     const QStringList names = parser.positionalArguments();
     const auto language = LanguageOf(parser);
-    if (names.size() != 1 || !language) {
-        Complain(
-            QStringLiteral("talmir-cli run: one SCRIPT (or -) is expected, and --lang EN or RU"));
-        return WrongUsage;
-    }
+    if (names.size() != 1 || !language)
+        return Misused("run", QStringLiteral("one SCRIPT (or -) is expected, and --lang EN or RU"));
     const QString& name = names.constFirst();
     QFile script(name);
     const bool opened =

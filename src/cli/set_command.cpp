@@ -68,11 +68,6 @@ qsizetype CountChanges(const QStringList& arguments) {
     return count;
 }
 
-int Misused(const QString& reason) {
-    Complain(QLatin1String("talmir-cli set: ") + reason);
-    return WrongUsage;
-}
-
 /// Each file once, whatever names lead to it.
 QStringList WithoutTwins(const QStringList& files) {
     QStringList once;
@@ -91,21 +86,23 @@ int RunSet(const QCommandLineParser& parser) {
     const qsizetype count = CountChanges(arguments);
     const QStringList paths = arguments.mid(count);
     if (arguments.isEmpty())
-        return Misused(QStringLiteral("at least one CHANGE and one PATH are expected"));
+        return Misused("set", QStringLiteral("at least one CHANGE and one PATH are expected"));
     if (count <= 0)
-        return Misused(QStringLiteral("changes come before paths, and '%1' is no CHANGE")
-                           .arg(arguments.constFirst()));
+        return Misused("set", QStringLiteral("changes come before paths, and '%1' is no CHANGE")
+                                  .arg(arguments.constFirst()));
     if (paths.isEmpty())
-        return Misused(QStringLiteral("a PATH is expected behind the changes; where its name has a "
+        return Misused("set",
+                       QStringLiteral("a PATH is expected behind the changes; where its name has a "
                                       "'=', -- before it ends them"));
     if (const QString reason = WhyAtOdds(parser); !reason.isEmpty())
-        return Misused(reason);
+        return Misused("set", reason);
     FileChanger changer;
     changer.anyWord = parser.isSet(AnyWordOption);
     for (const QString& text : arguments.first(count)) {
         const auto change = ReadChange(text);
         if (!change)
-            return Misused(QStringLiteral("'%1' is no CHANGE; NAME=TEXT is expected").arg(text));
+            return Misused("set",
+                           QStringLiteral("'%1' is no CHANGE; NAME=TEXT is expected").arg(text));
         changer.changes.push_back(*change);
     }
     std::optional<ModScale> scale;

@@ -45,11 +45,6 @@ void DescribeSolve(QCommandLineParser& parser) {
     AddLanguageOption(parser, QStringLiteral("Language of the table"));
 }
 
-int Unusable(const QString& reason) {
-    Complain(QLatin1String("talmir-cli solve: ") + reason);
-    return WrongUsage;
-}
-
 QStringList ParameterNames() {
     QStringList names;
     for (const ParameterRange& range : ParameterRanges)
@@ -73,20 +68,22 @@ std::variant<std::vector<Parameter>, QString> ReadVaried(const QString& list) {
 int RunSolve(const QCommandLineParser& parser) {
     const QStringList arguments = parser.positionalArguments();
     if (arguments.size() != 2)
-        return Unusable(QStringLiteral("one FILE and one GOAL are expected"));
+        return Misused("solve", QStringLiteral("one FILE and one GOAL are expected"));
     const auto languageId = LanguageOf(parser);
     if (!languageId)
-        return Unusable(QStringLiteral("--lang takes EN or RU"));
+        return Misused("solve", QStringLiteral("--lang takes EN or RU"));
     const auto goal = ReadSolveGoal(arguments[1]);
     if (!goal)
-        return Unusable(QStringLiteral("'%1' is no GOAL; Power=N with a whole number from 1, or "
-                                       "Tier=N with 1 to 8, is expected")
-                            .arg(arguments[1]));
+        return Misused("solve",
+                       QStringLiteral("'%1' is no GOAL; Power=N with a whole number from 1, or "
+                                      "Tier=N with 1 to 8, is expected")
+                           .arg(arguments[1]));
     SolveWish wish{*goal};
     if (parser.isSet(VaryOption)) {
         const auto varied = ReadVaried(parser.value(VaryOption));
         if (const QString* unknown = std::get_if<QString>(&varied))
-            return Unusable(
+            return Misused(
+                "solve",
                 unknown->isEmpty()
                     ? QStringLiteral("--vary: a name is expected before and behind each comma")
                     : QStringLiteral("--vary: there is no parameter '%1'; the nearest is %2")

@@ -172,10 +172,8 @@ bool WritePage(const Survey& survey, const QString& path, const Messages& messag
 
 int RunTable(const QCommandLineParser& parser) {
     const Wishes wishes(parser);
-    if (!wishes.wrong.isEmpty()) {
-        Complain(QLatin1String("talmir-cli table: ") + wishes.wrong);
-        return WrongUsage;
-    }
+    if (!wishes.wrong.isEmpty())
+        return Misused("table", wishes.wrong);
     const Messages& messages = MessagesIn(English);
     Survey survey = TakeSurveyTold(wishes.survey);
     TableSides sides{AllRefused(survey), std::nullopt};

@@ -191,11 +191,9 @@ int CopyTexts(const TextSources& sources, const Messages& messages) {
 int RunTexts(const QCommandLineParser& parser) {
     const QStringList paths = parser.positionalArguments();
     const auto language = LanguageOf(parser);
-    if (paths.isEmpty() || !language) {
-        Complain(QStringLiteral(
-            "talmir-cli texts: at least one FOLDER or ARCHIVE is expected, and --lang EN or RU"));
-        return WrongUsage;
-    }
+    if (paths.isEmpty() || !language)
+        return Misused("texts", QStringLiteral("at least one FOLDER or ARCHIVE is expected, and "
+                                               "--lang EN or RU"));
     const Messages& messages = MessagesIn(*language);
     TextSources sources;
     bool allRead = true;

@@ -26,6 +26,8 @@ struct ReadCreature {
     std::vector<LimitedNumber> limited;
     QString spellExcerpt; ///< the part of the file that the last spell's mastery was looked for in
     QString specabilityExcerpt; ///< the same for the last special ability
+
+    QString ShownName() const { return name.value_or(DefaultCreatureName.toString()); }
 };
 
 /// A figure that the program computes too, and where a creature file has it.

@@ -30,6 +30,9 @@ struct Skill {
     bool operator==(const Skill&) const = default;
 };
 
+/// Of a creature that nobody has given one.
+inline constexpr QStringView DefaultCreatureName = u"Test";
+
 struct Creature {
     QString Name;
     QString Id; ///< its number in the creature-extension project TCX

@@ -154,7 +154,7 @@ CalcReport CalculateFile(const QString& path, std::uint8_t languageId) {
         return report;
     }
     report.read = ReadCreatureText(document->text, EmptyCreature());
-    report.name = report.read.name.value_or(QStringLiteral("Test"));
+    report.name = report.read.ShownName();
     report.evaluation = Evaluate(EnteredOf(report.read.creature));
     TellReading(report, messages, languageId);
     const Evaluation& evaluation = report.evaluation;

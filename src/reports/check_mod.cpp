@@ -14,7 +14,6 @@ namespace Hesperin {
 
 namespace {
 
-constexpr double LargestDeviation = 25; // percent
 constexpr std::size_t FewestOfATier = 5;
 
 /// Mods and games name the data's root, or the folder that holds it.
@@ -114,7 +113,7 @@ void CheckUpgrade(const Survey& survey, const Bases& bases, std::size_t index,
 
 void CheckDeviation(const Survey& survey, const SurveyRow& row, const CheckedFile& checked,
                     FindingList& findings) {
-    if (!row.deviation || std::abs(*row.deviation) <= LargestDeviation ||
+    if (!row.deviation || std::abs(*row.deviation) <= OutlierPercent ||
         survey.scale.CountOf(row.tier, Figure::Power) < FewestOfATier)
         return;
     const double expected = row.power * (1 + *row.deviation / 100);

@@ -198,21 +198,6 @@ double SpreadAll(std::vector<DeviationPanel>& panels) {
 
 } // namespace
 
-QString ShownName(const SurveyRow& row) {
-    const QString name = row.Name().simplified();
-    return name.isEmpty() ? row.File().section('/', -1).section('.', 0, 0).simplified() : name;
-}
-
-bool IsOutlier(const SurveyRow& row) {
-    return row.deviation && std::abs(*row.deviation) > OutlierPercent;
-}
-
-QString DeviationText(double deviation, int decimals) {
-    const QChar minus(0x2212);
-    QString text = QString::number(deviation, 'f', decimals).replace('-', minus);
-    return (deviation > 0 ? "+" : "") + text + " %";
-}
-
 DeviationPicture LayOutDeviations(const Survey& survey, double width, double height,
                                   const std::optional<std::vector<std::size_t>>& shown,
                                   std::optional<std::size_t> current) {

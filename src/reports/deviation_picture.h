@@ -50,19 +50,8 @@ struct DeviationPicture {
     std::vector<DeviationPanel> panels{}; ///< by tier, in rows from left to right
 };
 
-/// Percent above which a creature is an outlier, either way.
-inline constexpr double OutlierPercent = 25;
-
-bool IsOutlier(const SurveyRow& row);
-
 /// The size of all texts in the picture, in pixels; the places for them are made for it.
 inline constexpr double DeviationFontSize = 11;
-
-/// What a creature is called: its name, or that of its file when it has none; on one line.
-QString ShownName(const SurveyRow& row);
-
-/// "+31.2 %", with a minus sign as long as the plus.
-QString DeviationText(double deviation, int decimals = 1);
 
 /// Lays the picture out for a width and height in device-independent pixels. `shown`: the rows
 /// that take part (a filter); none given: all. `current`: the row of the window's creature.

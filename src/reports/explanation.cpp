@@ -43,7 +43,7 @@ Result<Explanation> ExplainFile(const QString& path) {
     if (!document)
         return document.Why();
     const ReadCreature read = ReadCreatureText(document->text, EmptyCreature());
-    return Explain(read.creature, read.name.value_or(QStringLiteral("Test")), path);
+    return Explain(read.creature, read.ShownName(), path);
 }
 
 QString CorrectedField(Correction::What what) {

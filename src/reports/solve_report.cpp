@@ -147,7 +147,7 @@ Result<SolveReport> SolveFile(const QString& path, const SolveWish& wish) {
     }
     SolveReport report = SolveFor(Validate(EnteredOf(read.creature)).parameters, wish);
     report.file = path;
-    report.name = read.name.value_or(QStringLiteral("Test"));
+    report.name = read.ShownName();
     return report;
 }
 

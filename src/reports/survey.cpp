@@ -176,4 +176,19 @@ Survey TakeSurvey(const SurveyWish& wish, SurveyProgress* progress) {
     return Taking(wish, progress != nullptr ? *progress : own).Take();
 }
 
+QString ShownName(const SurveyRow& row) {
+    const QString name = row.Name().simplified();
+    return name.isEmpty() ? row.File().section('/', -1).section('.', 0, 0).simplified() : name;
+}
+
+bool IsOutlier(const SurveyRow& row) {
+    return row.deviation && std::abs(*row.deviation) > OutlierPercent;
+}
+
+QString DeviationText(double deviation, int decimals) {
+    const QChar minus(0x2212);
+    QString text = QString::number(deviation, 'f', decimals).replace('-', minus);
+    return (deviation > 0 ? "+" : "") + text + " %";
+}
+
 } // namespace Hesperin

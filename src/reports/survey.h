@@ -139,4 +139,15 @@ SurveyRow RowOf(const ModFile& file, const Result<QByteArray>& bytes);
 /// lies from the scale of the tier; none where one of the three is 0 or less.
 std::optional<double> DeviationOf(double averagePower, double power, std::optional<double> scale);
 
+/// Percent above which a creature is an outlier, either way.
+inline constexpr double OutlierPercent = 25;
+
+bool IsOutlier(const SurveyRow& row);
+
+/// "+31.2 %", with a minus sign as long as the plus.
+QString DeviationText(double deviation, int decimals = 1);
+
+/// What a creature is called: its name, or that of its file when it has none; on one line.
+QString ShownName(const SurveyRow& row);
+
 } // namespace Hesperin

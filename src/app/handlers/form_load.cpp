@@ -1,7 +1,6 @@
 #include "app/handlers/form_load.h"
 
 #include "app/apply_language.h"
-#include "app/handlers/box_rules.h"
 #include "app/handlers/wire_handlers.h"
 #include "app/resets.h"
 #include "catalogue/ability_catalogue.h"
@@ -42,15 +41,6 @@ void FillLists(MainForm& form) {
             (form.*ListFields.items[list]).AddItem(entry.toString());
 }
 
-/// Like the reset of spells and special abilities, but with the inert one at 0.
-void ClearBoxes(Program& program) {
-    program.state.AbilityCurrentValue.fill(1.0F);
-    Reset_Spells(program);
-    Reset_Specabilities(program);
-    program.form.Specabilities(0).SetTicked(false);
-    OpenSelector(program.form.saz(0), false);
-}
-
 QString OtherInstanceText(const Messages& messages, const RunningInstance& other) {
     return other.otherHost.isEmpty()
                ? messages.MsgSecondInstance
@@ -66,13 +56,9 @@ bool Form_Load(Program& program, const StartOptions& options) {
     WireHandlers(program);
     NameBoxes(form);
 
-    state.CreatureFileLoaded = false;
-    for (const Page page : {Page::Parameters, Page::Abilities, Page::Specabilities})
-        form.Tablus.At(page).Switch(true);
     for (const Page page : {Page::Spells, Page::File})
         form.Tablus.At(page).Switch(false);
     NameLanguages(form);
-    form.mnuSave.SetEnabled(false);
     state.LanguageId =
         options.languageId ? *options.languageId : ReadLanguageFile(program.platform.Places());
     ApplyLanguage(program, state.LanguageId);
@@ -81,10 +67,8 @@ bool Form_Load(Program& program, const StartOptions& options) {
         return false;
     }
     form.frmMain.SetCaption(VersionRecord::TitleAndVersion());
-    BuildCatalogues(program);
     if (options.loadAbilityTexts)
         LoadTextsOfAbilities(program);
-    ClearBoxes(program);
     FillLists(form);
     ClearCreature(program);
     form.SetActListener(&program.history);
