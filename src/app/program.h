@@ -4,12 +4,13 @@
 #include "app/platform.h"
 #include "app/shared_state.h"
 #include "form/main_form.h"
-#include "reports/survey.h"
 
 #include <functional>
 #include <memory>
 
 namespace Hesperin {
+
+struct Survey;
 
 /// The running program: the one shared state, the one main window as data, and the platform it runs
 /// on. Every handler is a free function over it.

@@ -2,9 +2,10 @@
 // widths are part of the results.
 #pragma once
 
-#include "creature_files/reader.h"
 #include "localisation/messages.h"
 #include "model/evaluation.h"
+
+#include <QStringList>
 
 namespace Hesperin {
 

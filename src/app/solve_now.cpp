@@ -1,6 +1,7 @@
 #include "app/solve_now.h"
 
 #include "app/creature_in_form.h"
+#include "reports/survey.h"
 
 namespace Hesperin {
 

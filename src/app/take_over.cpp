@@ -2,7 +2,9 @@
 
 #include "app/calculate.h"
 #include "app/standing.h"
+#include "creature_files/reader.h"
 #include "form/form_lists.h"
+#include "reports/survey.h"
 #include "text/numbers.h"
 
 namespace Hesperin {

@@ -1,7 +1,6 @@
 #include "cli/command.h"
 
 #include "cli/output.h"
-#include "localisation/error_text.h"
 #include "localisation/languages.h"
 #include "reports/finding_text.h"
 #include "reports/json.h"

@@ -5,8 +5,6 @@
 #include "text/decimal.h"
 #include "text/nearest.h"
 
-#include <algorithm>
-
 namespace Hesperin {
 
 namespace {

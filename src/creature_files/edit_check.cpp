@@ -4,8 +4,6 @@
 #include "creature_files/document.h"
 #include "text/escape.h"
 
-#include <algorithm>
-
 namespace Hesperin {
 
 namespace {

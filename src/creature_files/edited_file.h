@@ -9,7 +9,6 @@
 #include <QStringList>
 
 #include <map>
-#include <memory>
 
 namespace Hesperin {
 

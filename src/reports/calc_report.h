@@ -2,7 +2,6 @@
 
 #include "creature_files/reader.h"
 #include "localisation/message_box.h"
-#include "localisation/messages.h"
 #include "model/evaluation.h"
 #include "text/error.h"
 

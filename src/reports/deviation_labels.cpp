@@ -11,6 +11,16 @@ constexpr double LabelHeight = 13;
 constexpr double BesideGap = 2;   ///< between point and name
 constexpr qsizetype Longest = 24; ///< characters of a name
 
+/// The width of a text in the picture, by that of a mean character.
+double WidthInPicture(const QString& text) {
+    constexpr double mean = 0.6 * DeviationFontSize;
+    constexpr char16_t firstWide = 0x1100; // from where on characters are as wide as high
+    const auto wide = std::count_if(text.begin(), text.end(),
+                                    [](QChar character) { return character >= QChar(firstWide); });
+    return mean * static_cast<double>(text.size()) +
+           (DeviationFontSize - mean) * static_cast<double>(wide);
+}
+
 /// The name, cut so that it fits the panel.
 QString Fitting(const QString& name, double room) {
     const QString ellipsis(QChar(0x2026));
@@ -98,15 +108,6 @@ private:
 };
 
 } // namespace
-
-double WidthInPicture(const QString& text) {
-    constexpr double mean = 0.6 * DeviationFontSize;
-    constexpr char16_t firstWide = 0x1100; // from where on characters are as wide as high
-    const auto wide = std::count_if(text.begin(), text.end(),
-                                    [](QChar character) { return character >= QChar(firstWide); });
-    return mean * static_cast<double>(text.size()) +
-           (DeviationFontSize - mean) * static_cast<double>(wide);
-}
 
 void PlaceLabels(DeviationPanel& panel, double radius, const Survey& survey) {
     std::vector<DeviationPoint*> named;

@@ -5,9 +5,6 @@
 
 namespace Hesperin {
 
-/// The width of a text in the picture, by that of a mean character.
-double WidthInPicture(const QString& text);
-
 /// Names the current creature and the outliers of a panel, the gravest first; one for which there
 /// is no free place stays without a name.
 void PlaceLabels(DeviationPanel& panel, double radius, const Survey& survey);

@@ -4,8 +4,6 @@
 #include "model/search.h"
 #include "text/error.h"
 
-#include <QJsonObject>
-
 #include <array>
 
 namespace Hesperin {

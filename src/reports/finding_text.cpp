@@ -6,8 +6,6 @@
 #include "text/fill.h"
 #include "text/shortened.h"
 
-#include <algorithm>
-
 namespace Hesperin {
 
 namespace {
@@ -31,21 +29,9 @@ QString Told(const QString& value) {
     return line.isEmpty() ? QStringLiteral("''") : Shortened(line);
 }
 
-} // namespace
-
-QString RuleName(const Finding& finding) {
-    return QLatin1String(RowOfRule(finding).name);
-}
-
 QString SeverityName(Severity severity) {
     static constexpr const char* names[] = {"error", "warning", "note"};
     return QLatin1String(names[static_cast<std::size_t>(severity)]);
-}
-
-QString SeverityText(const Messages& messages, Severity severity) {
-    static constexpr QString Messages::*words[] = {
-        &Messages::MsgSeverityError, &Messages::MsgSeverityWarning, &Messages::MsgSeverityNote};
-    return messages.*words[static_cast<std::size_t>(severity)];
 }
 
 QString ReasonText(const Messages& messages, const Finding& finding) {
@@ -72,6 +58,18 @@ QString ExpectedText(const Messages& messages, const Finding& finding) {
     return sentence.contains(u"%1") && finding.expected.isEmpty()
                ? QString()
                : Fill(sentence, {finding.expected});
+}
+
+} // namespace
+
+QString RuleName(const Finding& finding) {
+    return QLatin1String(RowOfRule(finding).name);
+}
+
+QString SeverityText(const Messages& messages, Severity severity) {
+    static constexpr QString Messages::*words[] = {
+        &Messages::MsgSeverityError, &Messages::MsgSeverityWarning, &Messages::MsgSeverityNote};
+    return messages.*words[static_cast<std::size_t>(severity)];
 }
 
 QString FindingText(const Messages& messages, const Finding& finding) {

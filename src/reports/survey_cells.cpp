@@ -1,5 +1,6 @@
 // What the table of a survey shows in each column.
 #include "localisation/error_text.h"
+#include "model/evaluation.h"
 #include "reports/survey.h"
 #include "text/decimal.h"
 #include "text/numbers.h"

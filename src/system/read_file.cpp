@@ -1,5 +1,7 @@
 #include "system/read_file.h"
 
+#include "system/system_error.h"
+
 #include <QFile>
 #include <QFileInfo>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "system/system_error.h"
+#include "text/error.h"
 
 #include <QByteArray>
 

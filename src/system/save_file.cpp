@@ -1,6 +1,7 @@
 #include "system/save_file.h"
 
 #include "system/replacement_file.h"
+#include "system/system_error.h"
 
 #include <QFileInfo>
 

@@ -1,10 +1,9 @@
 #pragma once
 
-#include "system/system_error.h"
+#include "text/error.h"
 
 #include <QByteArray>
 
-#include <optional>
 #include <vector>
 
 namespace Hesperin {

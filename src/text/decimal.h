@@ -26,8 +26,8 @@ std::optional<std::int64_t> ReadWhole(QStringView text);
 /// Whether it is a whole number, be it too long for ReadWhole.
 bool IsWhole(QStringView text);
 
-/// `whole` + `sign` × `number`, or `whole` × `factor`, to the nearest whole number, halves away from
-/// zero; none when that has more than 12 digits. `whole` has at most 12, `sign` is 1 or -1.
+/// `whole` + `sign` × `number`, or `whole` × `factor`, to the nearest whole number, halves away
+/// from zero; none when that has more than 12 digits. `whole` has at most 12, `sign` is 1 or -1.
 std::optional<std::int64_t> Sum(std::int64_t whole, const Decimal& number, int sign);
 std::optional<std::int64_t> Product(std::int64_t whole, const Decimal& factor);
 

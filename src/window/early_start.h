@@ -7,8 +7,8 @@
 namespace Hesperin {
 
 /// What needs no display and begins before the toolkit does, beside its start: the instance lock
-/// goes to the disk, a file that was left for an earlier run is taken away, and the system's list of
-/// fonts is read. It must exist before the application and outlive it.
+/// goes to the disk, a file that was left for an earlier run is taken away, and the system's list
+/// of fonts is read. It must exist before the application and outlive it.
 class EarlyStart {
 public:
     EarlyStart();

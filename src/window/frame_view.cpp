@@ -2,7 +2,6 @@
 
 #include "window/fonts.h"
 #include "window/outline.h"
-#include "window/palette.h"
 
 #include <QFontMetrics>
 #include <QLabel>

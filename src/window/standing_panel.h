@@ -6,8 +6,8 @@ class QWidget;
 
 namespace Hesperin {
 
-/// Tells on the page of the parameters, whose top is `top` pixels below the tab control's, where the creature stands in
-/// the mod. It is built when a survey is loaded for the first time.
+/// Tells on the page of the parameters, whose top is `top` pixels below the tab control's, where
+/// the creature stands in the mod. It is built when a survey is loaded for the first time.
 class StandingPanel : public ControlView {
 public:
     StandingPanel(MainForm& owner, QWidget& onPage, int pageTop)

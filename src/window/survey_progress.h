@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/program.h"
+#include "reports/survey.h"
 
 #include <QElapsedTimer>
 #include <QProgressBar>

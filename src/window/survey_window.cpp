@@ -50,8 +50,9 @@ QStringList DraggedPlaces(const QMimeData& data) {
 } // namespace
 
 SurveyWindow::SurveyWindow(Program& owner, MainWindow& mainWindow)
-    : CompanionWindow(owner, "SurveyWindow"), main(mainWindow), pages(new SurveyPages(owner)), bar(new SurveyBar(owner)),
-      places(new QLabel), refused(new QLabel), progressLine(new SurveyProgressLine(owner)),
+    : CompanionWindow(owner, "SurveyWindow"), main(mainWindow), pages(new SurveyPages(owner)),
+      bar(new SurveyBar(owner)), places(new QLabel), refused(new QLabel),
+      progressLine(new SurveyProgressLine(owner)),
       walk({.done = [this](const auto& survey) { Show(survey); },
             .progress = [this](const SurveyProgress& progress) { progressLine->Tell(progress); },
             .idle = [this] { progressLine->hide(); }}) {

@@ -11,9 +11,9 @@ namespace Hesperin {
 
 class FindBar;
 
-/// The tab control with its five pages. A page that is off has no tab; when it was in front, the first page
-/// comes forward. A page is built when it is first shown; where there is no room for it, it
-/// scrolls.
+/// The tab control with its five pages. A page that is off has no tab; when it was in front, the
+/// first page comes forward. A page is built when it is first shown; where there is no room for it,
+/// it scrolls.
 class TabView : public QWidget {
 public:
     /// `pageWidth` pixels are wanted for the pages; their height is the given one.

@@ -1,9 +1,7 @@
 #include "window/window_platform.h"
 
 #include "app/recent_files.h"
-#include "localisation/error_text.h"
 #include "system/save_file.h"
-#include "text/fill.h"
 #include "window/ability_window.h"
 #include "window/about_window.h"
 #include "window/long_text.h"

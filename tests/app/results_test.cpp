@@ -6,6 +6,7 @@
 #include "app/standing.h"
 #include "app/take_over.h"
 #include "reports/explanation_chapters.h"
+#include "reports/survey.h"
 #include "support/test_program.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,5 @@
 #include "system/save_file.h"
+#include "system/system_error.h"
 
 #include "support/without_rights.h"
 #include "system/files.h"

@@ -6,6 +6,7 @@
 #include "app/handlers/save_and_update.h"
 #include "app/resets.h"
 #include "creature_files/document.h"
+#include "creature_files/reader.h"
 #include "localisation/language_file.h"
 #include "localisation/titles.h"
 #include "reports/reading_text.h"

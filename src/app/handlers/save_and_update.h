@@ -5,12 +5,12 @@
 
 namespace Hesperin {
 
-/// Asks for a place and saves the creature there, the whole file or nothing; the file's page shows the
-/// text afterwards. Without a name: MsgEnterName (critical) and nothing else. Where a file is replaced,
-/// a question tells what would be lost (MsgReplaceLoses) and offers to update instead where it is
-/// the opened one. What can't be read back is not saved. A failure is told in a critical box
-/// (MsgSaveFailed), what could not be kept of an old file in an information box (MsgSavedBut). A
-/// cancelled dialog leaves the window as it was.
+/// Asks for a place and saves the creature there, the whole file or nothing; the file's page shows
+/// the text afterwards. Without a name: MsgEnterName (critical) and nothing else. Where a file is
+/// replaced, a question tells what would be lost (MsgReplaceLoses) and offers to update instead
+/// where it is the opened one. What can't be read back is not saved. A failure is told in a
+/// critical box (MsgSaveFailed), what could not be kept of an old file in an information box
+/// (MsgSavedBut). A cancelled dialog leaves the window as it was.
 Failure mnuSave_Click(Program& program);
 
 /// Writes into the opened or saved file what the user has changed since, and nothing else, after a
