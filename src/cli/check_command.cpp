@@ -102,11 +102,15 @@ void PrintText(const Survey& survey, const Messages& messages) {
         PrintLine(QString());
     for (const QString& line : last)
         PrintLine(line);
-    PrintLine(QStringLiteral("%1, %2, %3 in %4.")
+    const QString unread = survey.refused.empty()
+                               ? QString()
+                               : QLatin1String("; ") + Counted(survey.refused.size(), "place") +
+                                     QLatin1String(" could not be read");
+    PrintLine(QStringLiteral("%1, %2, %3 in %4%5.")
                   .arg(Counted(CountOf(survey.findings, Severity::Error), "error"),
                        Counted(CountOf(survey.findings, Severity::Warning), "warning"),
                        Counted(CountOf(survey.findings, Severity::Note), "note"),
-                       Counted(survey.rows.size(), "creature file")));
+                       Counted(survey.rows.size(), "creature file"), unread));
 }
 
 int RunCheck(const QCommandLineParser& parser) {

@@ -162,7 +162,8 @@ constexpr Action Actions[] = {
     {"untick",  "BOX",            "unticks it",                                               Untick},
     {"mastery", "SELECTOR LEVEL", "clicks option 0 to 4 of soq(46), saz(9)",                  Mastery},
     {"press",   "BUTTON",         "cmdCalc, cmdRAP, cmdRAA, cmdRAS, cmdResetAll",             Press},
-    {"menu",    "ENTRY [PATH]",   "mnuNew, mnuOpen PATH, mnuSave PATH, mnuUpdate, mnuUndo, mnuTakeOver", Menu},
+    {"menu",    "ENTRY [PATH]",   "mnuNew, mnuOpen PATH, mnuSave PATH, mnuUpdate, mnuUndo, mnuRedo,\n"
+                                  "                         mnuTakeOver, mnuEnglish, mnuRussian, mnuAlternativeMethod", Menu},
     {"show",    "NAME",           "prints the text, caption or state of a control",           Show},
     {"state",   "",               "prints the whole state, and the boxes shown, as JSON",     State},
 };

@@ -206,12 +206,15 @@ private:
             const auto parameter = static_cast<Parameter>(i);
             const std::int16_t highest = RangeOf(parameters, parameter).highest;
             const auto& gain = explanation.gains[i];
+            const bool heldByMaximum =
+                parameter == Parameter::MinDam && highest < ParameterRanges[parameter].highest;
             const double strongest = explanation.gains[order.front()].value_or(0);
             Tell(Chapter::OneMore,
                  {.what = ParameterIn(languageId, parameter),
                   .numbers = {},
-                  .value = gain ? u'+' + WholeText(*gain)
-                                : Words(Phrase::Highest, {QString::number(highest)}),
+                  .value = gain            ? u'+' + WholeText(*gain)
+                           : heldByMaximum ? Words(Phrase::NotAboveMax)
+                                           : Words(Phrase::Highest, {QString::number(highest)}),
                   .share = gain && strongest > 0 ? *gain / strongest : 0});
         }
     }

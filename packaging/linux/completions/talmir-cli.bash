@@ -2,7 +2,7 @@
 
 _talmir_cli() {
     local cur prev words cword
-    local columns='file name town CreatureTier Upgrade AttackSkill DefenceSkill MinDamage MaxDamage Health Speed Initiative Shots SpellPoints Range Power Exp WeeklyGrowth Gold Abilities average.Power average.Exp average.WeeklyGrowth average.Gold product advised scale deviation problem'
+    local columns='file name town CreatureTier Upgrade AttackSkill DefenceSkill MinDamage MaxDamage Health Speed Initiative Shots SpellPoints Range Power Exp WeeklyGrowth Gold Abilities rolvane.Power rolvane.Exp rolvane.WeeklyGrowth rolvane.Gold hesperin.Power hesperin.Exp hesperin.WeeklyGrowth hesperin.Gold average.Power average.Exp average.WeeklyGrowth average.Gold product advised scale deviation problem'
     _init_completion || return
     case $cword,${words[1]},$prev,$cur in
         1,*) mapfile -t COMPREPLY < <(compgen -W 'calc set table apply check explain solve find run texts --help --version' -- "$cur") ;;

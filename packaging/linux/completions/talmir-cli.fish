@@ -43,7 +43,7 @@ complete -c talmir-cli -n '__fish_seen_subcommand_from table' -l csv -d 'Print a
 complete -c talmir-cli -n '__fish_seen_subcommand_from table' -l bom -d 'Begin the CSV with a byte-order mark'
 complete -c talmir-cli -n '__fish_seen_subcommand_from table' -l json -d 'Print one JSON document'
 complete -c talmir-cli -n '__fish_seen_subcommand_from table' -l html -r -F -d 'Write a page for a browser'
-complete -c talmir-cli -n '__fish_seen_subcommand_from table' -l sort -x -a 'file name town CreatureTier Upgrade AttackSkill DefenceSkill MinDamage MaxDamage Health Speed Initiative Shots SpellPoints Range Power Exp WeeklyGrowth Gold Abilities average.Power average.Exp average.WeeklyGrowth average.Gold product advised scale deviation problem' -d 'Sort by a column'
+complete -c talmir-cli -n '__fish_seen_subcommand_from table' -l sort -x -a 'file name town CreatureTier Upgrade AttackSkill DefenceSkill MinDamage MaxDamage Health Speed Initiative Shots SpellPoints Range Power Exp WeeklyGrowth Gold Abilities rolvane.Power rolvane.Exp rolvane.WeeklyGrowth rolvane.Gold hesperin.Power hesperin.Exp hesperin.WeeklyGrowth hesperin.Gold average.Power average.Exp average.WeeklyGrowth average.Gold product advised scale deviation problem' -d 'Sort by a column'
 complete -c talmir-cli -n '__fish_seen_subcommand_from table' -l outliers -x -d 'Only creatures that deviate by more percent'
 complete -c talmir-cli -n '__fish_seen_subcommand_from table' -l against -r -F -d 'Tell what another version of the mod has different'
 complete -c talmir-cli -n '__fish_seen_subcommand_from table' -l jobs -x -d 'How many files at once'
