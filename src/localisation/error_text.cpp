@@ -119,7 +119,7 @@ QString ErrorReason(const Messages& messages, const Error& error) {
         error.what == What::FileTooLarge && error.doing != Error::Doing::Opening;
     const auto sentence =
         otherTooLarge ? &Messages::MsgLargerThan : Sentences[static_cast<std::size_t>(error.what)];
-    return Fill(messages.*sentence, {value, error.expected, Shortened(error.element)}) +
+    return Fill(messages.*sentence, {value, Shortened(error.expected), Shortened(error.element)}) +
            Place(messages, error);
 }
 
