@@ -1,4 +1,5 @@
 // The window of the survey, beside the main window.
+#include "app/standing.h"
 #include "creature_files/creature_xml.h"
 #include "window/agreement.h"
 #include "window/survey_in_use.h"
@@ -125,6 +126,19 @@ TEST(Survey, SavesWhatItShows) {
     EXPECT_EQ(ReadAll(use.Path("a.csv")).count("\r\n"), 2);
     EXPECT_TRUE(ReadAll(use.Path("a.csv")).contains("b/Coral.xdb"));
     EXPECT_TRUE(ReadAll(use.Path("a.html")).contains(">Coral<"));
+}
+
+TEST(Survey, ShowsWhereTheCreatureStandsWhenOnlyItsFileIsAnother) {
+    Surveyed use;
+    const SurveyInUse survey(use);
+    use.Load(survey);
+    use.form.frmMain.Drop(use.Path("mod/b/Coral.xdb"));
+    QTest::qWait(20);
+    const auto picture = [&] { return survey.Find("SurveyPicture").grab().toImage(); };
+    const QImage before = picture();
+    use.state.baseline->path = use.Path("mod/nowhere.xdb"); // as after a save: the title stays
+    FollowResults(use.program);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return picture() != before; }));
 }
 
 TEST(Survey, EndsInOrderWhileItReads) {
